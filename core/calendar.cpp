@@ -14,8 +14,8 @@ Calendar Calendar::defaultCalendar()
         {QStringLiteral("November"), 30},  {QStringLiteral("December"), 31},
     };
     calendar.weekdays = {
-        QStringLiteral("Monday"), QStringLiteral("Tuesday"),  QStringLiteral("Wednesday"),
-        QStringLiteral("Thursday"), QStringLiteral("Friday"), QStringLiteral("Saturday"),
+        QStringLiteral("Monday"),   QStringLiteral("Tuesday"), QStringLiteral("Wednesday"),
+        QStringLiteral("Thursday"), QStringLiteral("Friday"),  QStringLiteral("Saturday"),
         QStringLiteral("Sunday"),
     };
     return calendar;
