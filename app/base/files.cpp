@@ -1,0 +1,587 @@
+#include "app/base/files.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QSaveFile>
+
+#include <cstring>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace vl::app {
+
+namespace {
+
+const QLatin1String unfinishedPrefix(".ivorel-");
+const QLatin1String unfinishedSuffix(".tmp");
+constexpr int randomDigits = 16;
+
+/// Small pieces are gathered to this many bytes before they go to the system.
+constexpr qsizetype gatherSize = 256 * 1024;
+/// Up to here each file of a batch is synced by itself; beyond, one sync of the file system is
+/// cheaper.
+constexpr int singleSyncs = 8;
+
+} // namespace
+
+QString withPath(const QString &message, const QString &path)
+{
+    return message.arg(QDir::toNativeSeparators(path));
+}
+
+bool isUnfinishedFileName(const QString &fileName)
+{
+    return fileName.size() == unfinishedPrefix.size() + randomDigits + unfinishedSuffix.size()
+           && fileName.startsWith(unfinishedPrefix) && fileName.endsWith(unfinishedSuffix);
+}
+
+void removeUnfinishedFiles(const QString &folder)
+{
+    QDir dir(folder);
+    const QStringList names = dir.entryList({unfinishedPrefix + QLatin1Char('*')},
+                                            QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        if (isUnfinishedFileName(name))
+            dir.remove(name);
+    }
+}
+
+#ifdef Q_OS_UNIX
+
+// The toolkit's save-file waits for the disk at every commit, which costs 14 s and more for the
+// 10 000 files of a large project, and takes a failed wait for success. So the few system calls
+// that a safe replacement needs are made here, each one checked.
+
+namespace {
+
+int openFile(const QByteArray &path, int flags, mode_t mode = 0)
+{
+    int handle = -1;
+    do {
+        handle = ::open(path.constData(), flags | O_CLOEXEC, mode);
+    } while (handle < 0 && errno == EINTR);
+    return handle;
+}
+
+/// True also where the file system knows no sync for such a file: then there is nothing to wait
+/// for.
+bool syncHandle(int handle, bool dataOnly)
+{
+    int result = 0;
+    do {
+#if defined(Q_OS_MACOS)
+        Q_UNUSED(dataOnly);
+        result = ::fcntl(handle, F_FULLFSYNC);
+        if (result != 0)
+            result = ::fsync(handle);
+#else
+        result = dataOnly ? ::fdatasync(handle) : ::fsync(handle);
+#endif
+    } while (result != 0 && errno == EINTR);
+    return result == 0 || errno == EINVAL || errno == ENOTSUP;
+}
+
+bool writeAll(int handle, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t written = ::write(handle, bytes.data(), size_t(bytes.size()));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes = bytes.sliced(written);
+    }
+    return true;
+}
+
+/// Opens a regular file for reading. Without blocking, since opening a pipe would wait for a
+/// writer.
+int openRegular(const QString &path, Links links, struct stat *status)
+{
+    const int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | (links == Links::Refuse ? O_NOFOLLOW : 0);
+    const int handle = openFile(QFile::encodeName(path), flags);
+    if (handle < 0)
+        return -1;
+    if (::fstat(handle, status) != 0 || !S_ISREG(status->st_mode)) {
+        ::close(handle);
+        return -1;
+    }
+    return handle;
+}
+
+/// Reads up to `size` bytes; fewer at the end of the file, -1 on failure.
+qint64 readUpTo(int handle, char *data, qint64 size)
+{
+    qint64 done = 0;
+    while (done < size) {
+        const ssize_t count = ::read(handle, data + done, size_t(size - done));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return -1;
+        if (count == 0)
+            break;
+        done += count;
+    }
+    return done;
+}
+
+QByteArray folderOf(const QByteArray &path)
+{
+    const qsizetype slash = path.lastIndexOf('/');
+    if (slash < 0)
+        return QByteArrayLiteral(".");
+    return slash == 0 ? QByteArrayLiteral("/") : path.left(slash);
+}
+
+/// Where a chain of symbolic links ends, whether a file stands there or not; empty for a circle.
+QByteArray followLinks(QByteArray path)
+{
+    for (int step = 0; step < 40; ++step) {
+        struct stat status = {};
+        if (::lstat(path.constData(), &status) != 0 || !S_ISLNK(status.st_mode))
+            return path;
+        QByteArray target(4096, Qt::Uninitialized);
+        const ssize_t length = ::readlink(path.constData(), target.data(), size_t(target.size()));
+        if (length <= 0 || length >= target.size())
+            return {};
+        target.truncate(length);
+        path = target.startsWith('/') ? target : folderOf(path) + '/' + target;
+    }
+    return {};
+}
+
+bool syncFolderAt(const QByteArray &path)
+{
+    const int handle = openFile(path, O_RDONLY | O_DIRECTORY);
+    if (handle < 0)
+        return false;
+    const bool done = syncHandle(handle, false);
+    ::close(handle);
+    return done;
+}
+
+} // namespace
+
+Result<QByteArray> readRegularFile(const QString &path, const QString &message, qint64 maxBytes,
+                                   Links links)
+{
+    struct stat status = {};
+    const int handle = openRegular(path, links, &status);
+    if (handle < 0)
+        return failure(withPath(message, path));
+    QByteArray bytes;
+    bool whole = status.st_size <= maxBytes;
+    if (whole) {
+        // One byte more than the file has shows at once whether it ends where it said.
+        bytes.resize(status.st_size + 1);
+        qint64 count = readUpTo(handle, bytes.data(), bytes.size());
+        while (count == bytes.size()
+               && count <= maxBytes) { // it grew meanwhile, or never tells its size
+            bytes.resize(qMin(bytes.size() * 2, maxBytes + 1));
+            const qint64 more = readUpTo(handle, bytes.data() + count, bytes.size() - count);
+            count = more < 0 ? -1 : count + more;
+        }
+        whole = count >= 0 && count <= maxBytes;
+        bytes.truncate(qMax<qint64>(count, 0));
+    }
+    ::close(handle);
+    if (!whole)
+        return failure(withPath(message, path));
+    return bytes;
+}
+
+bool fileHolds(const QString &path, QByteArrayView bytes)
+{
+    struct stat status = {};
+    const int handle = openRegular(path, Links::Follow, &status);
+    if (handle < 0)
+        return false;
+    bool same = status.st_size == bytes.size();
+    char block[64 * 1024];
+    while (same) {
+        const qint64 count = readUpTo(handle, block, qint64(sizeof block));
+        if (count == 0)
+            break;
+        same = count > 0 && count <= bytes.size()
+               && std::memcmp(block, bytes.data(), size_t(count)) == 0;
+        if (same)
+            bytes = bytes.sliced(count);
+    }
+    ::close(handle);
+    return same && bytes.isEmpty();
+}
+
+bool syncFolder(const QString &path)
+{
+    return syncFolderAt(QFile::encodeName(path));
+}
+
+bool makeFolder(const QString &path, Durability durability)
+{
+    const QFileInfo info(path);
+    if (info.exists())
+        return info.isDir();
+    const QString parent = info.absolutePath();
+    if (parent == info.absoluteFilePath() || !makeFolder(parent, durability))
+        return false;
+    if (::mkdir(QFile::encodeName(info.absoluteFilePath()).constData(), 0777) != 0)
+        return errno == EEXIST && QFileInfo(path).isDir();
+    return durability == Durability::Atomic || syncFolder(parent);
+}
+
+bool removeFile(const QString &path, Durability durability)
+{
+    const QByteArray name = QFile::encodeName(path);
+    if (::unlink(name.constData()) != 0)
+        return errno == ENOENT;
+    return durability == Durability::Atomic || syncFolderAt(folderOf(name));
+}
+
+bool renamePath(const QString &from, const QString &to, Durability durability)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::rename(source.constData(), target.constData()) != 0)
+        return false;
+    if (durability == Durability::Atomic)
+        return true;
+    return syncFolderAt(folderOf(target))
+           && (folderOf(source) == folderOf(target) || syncFolderAt(folderOf(source)));
+}
+
+struct AtomicFile::Handle
+{
+    QByteArray target;
+    QByteArray temporary; ///< empty when there is none (any more)
+    QByteArray gathered;
+    int file = -1;
+};
+
+Result<> AtomicFile::open()
+{
+    Handle &handle = *m_handle;
+    handle.target = followLinks(QFile::encodeName(m_path));
+    if (handle.target.isEmpty())
+        return openFailure();
+    struct stat old = {};
+    const bool replaces = ::stat(handle.target.constData(), &old) == 0;
+    // A rename would go over a file that was made read-only on purpose.
+    if (replaces && (!S_ISREG(old.st_mode) || ::access(handle.target.constData(), W_OK) != 0))
+        return openFailure();
+
+    const QByteArray folder = folderOf(handle.target);
+    for (int attempt = 0; attempt < 16 && handle.file < 0; ++attempt) {
+        const QByteArray digits = QByteArray::number(QRandomGenerator::global()->generate64(), 16);
+        handle.temporary = folder + '/' + unfinishedPrefix.data()
+                           + digits.rightJustified(randomDigits, '0') + unfinishedSuffix.data();
+        handle.file = openFile(handle.temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
+        if (handle.file < 0 && errno != EEXIST)
+            break;
+    }
+    if (handle.file < 0) {
+        handle.temporary.clear(); // never remove what was not made here
+        return openFailure();
+    }
+    if (replaces) {
+        // The owner can rarely be kept; when it cannot, the file belongs to whoever saved it.
+        if ((old.st_uid != ::geteuid() || old.st_gid != ::getegid())
+            && ::fchown(handle.file, old.st_uid, old.st_gid) != 0)
+            errno = 0;
+        if (::fchmod(handle.file, old.st_mode & 07777) != 0) {
+            discard();
+            return openFailure();
+        }
+    }
+    return {};
+}
+
+Result<> AtomicFile::write(QByteArrayView bytes)
+{
+    Handle &handle = *m_handle;
+    if (handle.file < 0)
+        return writeFailure();
+    if (handle.gathered.size() + bytes.size() <= gatherSize) {
+        handle.gathered.append(bytes);
+        return {};
+    }
+    if (!writeAll(handle.file, handle.gathered))
+        return writeFailure();
+    handle.gathered.clear();
+    if (bytes.size() < gatherSize / 2) {
+        handle.gathered.reserve(gatherSize);
+        handle.gathered.append(bytes);
+    } else if (!writeAll(handle.file, bytes)) {
+        return writeFailure();
+    }
+    return {};
+}
+
+Result<> AtomicFile::finishWriting(bool sync)
+{
+    Handle &handle = *m_handle;
+    if (handle.file < 0 || !writeAll(handle.file, handle.gathered)
+        || (sync && !syncHandle(handle.file, true)))
+        return writeFailure();
+    handle.gathered = {};
+    const int file = std::exchange(handle.file, -1);
+    if (::close(file) != 0 && errno != EINTR) // network file systems tell a failed write only here
+        return writeFailure();
+    return {};
+}
+
+Result<> AtomicFile::moveIntoPlace()
+{
+    Handle &handle = *m_handle;
+    if (::rename(handle.temporary.constData(), handle.target.constData()) != 0)
+        return writeFailure();
+    handle.temporary.clear();
+    return {};
+}
+
+Result<> AtomicFile::commit(Durability durability)
+{
+    if (const Result<> written = finishWriting(durability == Durability::Synced); !written)
+        return written;
+    if (const Result<> moved = moveIntoPlace(); !moved)
+        return moved;
+    if (durability == Durability::Synced && !syncFolderAt(folderOf(m_handle->target)))
+        return writeFailure();
+    return {};
+}
+
+void AtomicFile::discard()
+{
+    if (m_handle->file >= 0)
+        ::close(std::exchange(m_handle->file, -1));
+    if (!m_handle->temporary.isEmpty())
+        ::unlink(m_handle->temporary.constData());
+    m_handle->temporary.clear();
+}
+
+FileBatch::~FileBatch()
+{
+    m_files.clear();
+    if (m_fileSystem >= 0)
+        ::close(m_fileSystem);
+}
+
+Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
+{
+    auto file = std::make_unique<AtomicFile>(path, m_messages);
+    if (const Result<> opened = file->open(); !opened)
+        return opened;
+    if (const Result<> written = file->write(bytes); !written)
+        return written;
+    bool syncNow = m_durability == Durability::Synced;
+#ifdef Q_OS_LINUX
+    if (syncNow && m_files.size() >= singleSyncs) {
+        // Opened before the files are written: it reports every write-back that fails from here on.
+        if (m_fileSystem < 0)
+            m_fileSystem = openFile(folderOf(file->m_handle->target), O_RDONLY | O_DIRECTORY);
+        // A link may have led to a file system of its own.
+        syncNow = m_fileSystem < 0 || file->m_handle->target != QFile::encodeName(path);
+    }
+#endif
+    if (const Result<> finished = file->finishWriting(syncNow); !finished)
+        return finished;
+    m_files.push_back(std::move(file));
+    return {};
+}
+
+Result<> FileBatch::syncAll()
+{
+#ifdef Q_OS_LINUX
+    if (m_fileSystem >= 0 && ::syncfs(m_fileSystem) != 0)
+        return m_files.back()->writeFailure();
+#endif
+    return {};
+}
+
+Result<> FileBatch::commit()
+{
+    if (const Result<> synced = syncAll(); !synced)
+        return synced;
+    std::set<QByteArray> folders;
+    for (const auto &file : m_files) {
+        if (const Result<> moved = file->moveIntoPlace(); !moved)
+            return moved;
+        if (m_durability == Durability::Synced)
+            folders.insert(folderOf(file->m_handle->target));
+    }
+    for (const QByteArray &folder : folders) {
+        if (!syncFolderAt(folder))
+            return failure(withPath(m_messages.cannotWrite, QFile::decodeName(folder)));
+    }
+    return {};
+}
+
+#else
+
+Result<QByteArray> readRegularFile(const QString &path, const QString &message, qint64 maxBytes,
+                                   Links links)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.isFile() || (links == Links::Refuse && info.isSymLink()) || info.size() > maxBytes
+        || !file.open(QIODevice::ReadOnly))
+        return failure(withPath(message, path));
+    QByteArray bytes = file.read(maxBytes + 1);
+    if (file.error() != QFileDevice::NoError || bytes.size() > maxBytes)
+        return failure(withPath(message, path));
+    return bytes;
+}
+
+bool fileHolds(const QString &path, QByteArrayView bytes)
+{
+    const QFileInfo info(path);
+    if (!info.isFile() || info.size() != bytes.size())
+        return false;
+    const Result<QByteArray> there = readRegularFile(path, QString(), bytes.size());
+    return there && *there == bytes;
+}
+
+bool syncFolder(const QString &)
+{
+    return true; // the system keeps folder entries in its journal
+}
+
+bool makeFolder(const QString &path, Durability)
+{
+    return QDir().mkpath(path);
+}
+
+bool removeFile(const QString &path, Durability)
+{
+    return QFile::remove(path) || !QFile::exists(path);
+}
+
+bool renamePath(const QString &from, const QString &to, Durability)
+{
+    if (QFileInfo(to).isDir())
+        QDir().rmdir(to);
+    return QDir().rename(from, to);
+}
+
+struct AtomicFile::Handle
+{
+    std::unique_ptr<QSaveFile> file;
+};
+
+Result<> AtomicFile::open()
+{
+    m_handle->file = std::make_unique<QSaveFile>(m_path);
+    return m_handle->file->open(QIODevice::WriteOnly) ? Result<>() : openFailure();
+}
+
+Result<> AtomicFile::write(QByteArrayView bytes)
+{
+    const bool whole =
+        m_handle->file && m_handle->file->write(bytes.data(), bytes.size()) == bytes.size();
+    return whole ? Result<>() : writeFailure();
+}
+
+Result<> AtomicFile::finishWriting(bool)
+{
+    // What the buffer still holds must be out before commit(), which overlooks a failure there.
+    return m_handle->file && m_handle->file->flush() ? Result<>() : writeFailure();
+}
+
+Result<> AtomicFile::moveIntoPlace()
+{
+    return m_handle->file->commit() ? Result<>() : writeFailure();
+}
+
+Result<> AtomicFile::commit(Durability)
+{
+    if (const Result<> written = finishWriting(true); !written)
+        return written;
+    return moveIntoPlace();
+}
+
+void AtomicFile::discard()
+{
+    m_handle->file.reset(); // removes its temporary unless committed
+}
+
+FileBatch::~FileBatch() = default;
+
+Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
+{
+    auto file = std::make_unique<AtomicFile>(path, m_messages);
+    if (const Result<> opened = file->open(); !opened)
+        return opened;
+    if (const Result<> written = file->write(bytes); !written)
+        return written;
+    if (const Result<> finished = file->finishWriting(true); !finished)
+        return finished;
+    m_files.push_back(std::move(file));
+    return {};
+}
+
+Result<> FileBatch::commit()
+{
+    for (const auto &file : m_files) {
+        if (const Result<> moved = file->moveIntoPlace(); !moved)
+            return moved;
+    }
+    return {};
+}
+
+#endif
+
+AtomicFile::AtomicFile(QString path, WriteMessages messages)
+    : m_path(std::move(path))
+    , m_messages(std::move(messages))
+    , m_handle(std::make_unique<Handle>())
+{
+}
+
+AtomicFile::~AtomicFile()
+{
+    discard();
+}
+
+Result<> AtomicFile::openFailure() const
+{
+    return failure(withPath(m_messages.cannotOpen, m_path));
+}
+
+Result<> AtomicFile::writeFailure()
+{
+    discard();
+    return failure(withPath(m_messages.cannotWrite, m_path));
+}
+
+Result<> writeFile(const QString &path, QByteArrayView bytes, const WriteMessages &messages,
+                   Durability durability)
+{
+    AtomicFile file(path, messages);
+    if (const Result<> opened = file.open(); !opened)
+        return opened;
+    if (const Result<> written = file.write(bytes); !written)
+        return written;
+    return file.commit(durability);
+}
+
+FileBatch::FileBatch(WriteMessages messages, Durability durability)
+    : m_messages(std::move(messages))
+    , m_durability(durability)
+{
+}
+
+Result<> FileBatch::add(const QString &path, QByteArrayView bytes)
+{
+    return fileHolds(path, bytes) ? Result<>() : addChanged(path, bytes);
+}
+
+} // namespace vl::app
