@@ -2,18 +2,18 @@
 
 namespace vl::core {
 
-QString Spreadsheet::cell(const CellPosition &position) const
+std::optional<QString> Spreadsheet::cell(const CellPosition &position) const
 {
     const auto found = m_grid.cells.find(position);
-    return found == m_grid.cells.end() ? QString() : found->second;
+    return found == m_grid.cells.end() ? std::nullopt : std::optional(found->second);
 }
 
-void Spreadsheet::setCell(const CellPosition &position, const QString &text)
+void Spreadsheet::setCell(const CellPosition &position, const std::optional<QString> &text)
 {
-    if (text.isEmpty())
-        m_grid.cells.erase(position);
+    if (text)
+        m_grid.cells[position] = *text;
     else
-        m_grid.cells[position] = text;
+        m_grid.cells.erase(position);
 }
 
 } // namespace vl::core

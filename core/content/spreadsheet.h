@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <map>
+#include <optional>
 
 namespace vl::core {
 
@@ -93,10 +94,10 @@ public:
 
     const SpreadsheetGrid &grid() const { return m_grid; }
     void setGrid(const SpreadsheetGrid &grid) { m_grid = grid; }
-    /// The text of one cell; empty for a cell without an entry.
-    QString cell(const CellPosition &position) const;
-    /// Sets the text of one cell; an empty text takes its entry away.
-    void setCell(const CellPosition &position, const QString &text);
+    /// The text of one cell, or nothing for a cell without an entry.
+    std::optional<QString> cell(const CellPosition &position) const;
+    /// Sets the text of one cell, or takes its entry away when there is none.
+    void setCell(const CellPosition &position, const std::optional<QString> &text);
 
     const CellFormats &formats() const { return m_formats; }
     void setFormats(const CellFormats &formats) { m_formats = formats; }

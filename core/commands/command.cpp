@@ -1,0 +1,7 @@
+#include "core/commands/command.h"
+
+namespace vl::core {
+
+Command::~Command() = default;
+
+} // namespace vl::core
