@@ -24,9 +24,9 @@ qint64 yearLength(const core::Calendar &calendar);
 /// The days of a year in 32 bits; a sum beyond them stops at their end (dates use the exact sum).
 qint32 daysPerYear(const core::Calendar &calendar);
 
-/// The date and time of an instant, defined for every 64-bit minute. A calendar whose year has less
-/// than one day puts every instant on day 1 of month 1 of Year 1. Where negative day counts lead
-/// past the last month, the month is one more than there are and the day is 1.
+/// The date and time of an instant, defined for every 64-bit minute; toInstant() gives it back. A
+/// month of no days, or of fewer, is passed over. A calendar whose year has less than one day puts
+/// every instant on day 1 of month 1 of Year 1, with its time of day.
 CalendarDate breakDown(const core::Calendar &calendar, qint64 instant);
 
 /// The instant of a date, defined for every value of its members: a day beyond its month runs on

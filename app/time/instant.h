@@ -38,12 +38,18 @@ constexpr Wide floorDivide(Wide value, Wide divisor)
     return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
 
+/// The minutes from minute 0 to the beginning of a day counted from day 0. Days that are out of
+/// range by far, whatever may be added, are brought nearer, so that nothing overflows.
+constexpr Wide minutesToDay(Wide day)
+{
+    constexpr Wide farAway = Wide(1) << 70;
+    return (day < -farAway ? -farAway : day > farAway ? farAway : day) * minutesPerDay;
+}
+
 /// The instant at a minute of a day counted from day 0; one that leaves 64 bits stops at their end.
 constexpr qint64 instantOfDay(Wide day, qint64 minutes = 0)
 {
-    constexpr Wide farAway = Wide(1) << 70; // out of range whatever is added, and safe to multiply
-    const Wide near = day < -farAway ? -farAway : day > farAway ? farAway : day;
-    return saturated(near * minutesPerDay + minutes);
+    return saturated(minutesToDay(day) + minutes);
 }
 
 } // namespace vl::app

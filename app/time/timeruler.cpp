@@ -45,20 +45,20 @@ public:
         }
     }
 
-    /// The instant of a multiple; one that leaves 64 bits stops at their end.
-    qint64 at(Wide multiple) const
+    /// The instant of a multiple, which may lie beyond 64 bits.
+    Wide at(Wide multiple) const
     {
         const Wide position = multiple * m_step.count;
         switch (m_step.unit) {
         case TickUnit::Month: {
             const Wide year = floorDivide(position, monthsOfYear());
             const auto month = size_t(position - monthsOfYear() * year);
-            return instantOfDay((year - 1) * m_yearLength + m_daysBefore[month]);
+            return minutesToDay((year - 1) * m_yearLength + m_daysBefore[month]);
         }
         case TickUnit::Year:
-            return instantOfDay((position - 1) * m_yearLength);
+            return minutesToDay((position - 1) * m_yearLength);
         default:
-            return saturated(multiple * minutes());
+            return multiple * minutes();
         }
     }
 
@@ -221,7 +221,7 @@ TickStep chooseTickStep(const core::Calendar &calendar, double pixelsPerMinute,
 qint64 firstTick(const core::Calendar &calendar, TickStep step, qint64 instant)
 {
     const TickGrid grid(calendar, step);
-    return grid.at(grid.firstMultiple(instant));
+    return saturated(grid.at(grid.firstMultiple(instant)));
 }
 
 QList<qint64> ticksInRange(const core::Calendar &calendar, TickStep step, qint64 start, qint64 end,

@@ -207,12 +207,12 @@ void TestTimeRuler::findsTheFirstTick_data()
     row("one step of all minutes", plain(), {TickUnit::Minute, highest}, 1, highest);
     row("first minute", plain(), {TickUnit::Hour, 1}, lowest, lowest + 8);
     row("last minute", plain(), {TickUnit::Hour, 1}, highest, highest);
-    row("first month", plain(), {TickUnit::Month, highest}, lowest, -334 * day - year);
+    row("first month", plain(), {TickUnit::Month, highest}, lowest, -year);
     row("last month", plain(), {TickUnit::Month, highest}, highest, highest);
     row("first year", plain(), {TickUnit::Year, highest}, lowest, -year);
     row("last year", plain(), {TickUnit::Year, 1}, highest, highest);
-    row("past the last month", withDays({3, 3, -5, 1}), {TickUnit::Month, 1}, lowest,
-        lowest + 1072);
+    row("months that run back", withDays({3, 3, -5, 1}), {TickUnit::Month, 1}, lowest,
+        lowest + 2528);
 }
 
 void TestTimeRuler::findsTheFirstTick()
@@ -272,9 +272,9 @@ void TestTimeRuler::ticksAsTheFirstTickRuleSays()
     for (const TickStep &step : tickSteps()) {
         for (const Calendar &calendar : {plain(), strange()}) {
             const qint64 length = nominalLength(calendar, step);
-            const qint64 start = random.bounded(-1000, 1000) * length + random.bounded(1000);
+            const qint64 start = random.bounded(-100, 100) * length + random.bounded(1000);
             const QList<qint64> ticks = ticksInRange(calendar, step, start, start + 30 * length);
-            QVERIFY(ticks.size() >= 29);
+            QVERIFY(ticks.size() >= 25);
             qint64 from = start;
             for (const qint64 tick : ticks) {
                 QCOMPARE(tick, firstTick(calendar, step, from));
