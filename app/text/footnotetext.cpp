@@ -24,17 +24,13 @@ QString newFootnoteId(const QStringList &usedIds)
 QList<FootnoteReference> findFootnoteReferences(const QString &text)
 {
     QList<FootnoteReference> found;
-    ClosingBracket closing(text);
     qsizetype at = 0;
     while ((at = text.indexOf(QLatin1String("[^"), at)) >= 0) {
-        const qsizetype close = closing.next(at + 2);
+        const qsizetype close = text.indexOf(u']', at + 2);
         if (close < 0)
             break;
-        if (close == at + 2) { // "[^]" names nothing
-            ++at;
-            continue;
-        }
-        found.append({text.mid(at + 2, close - at - 2), at, close + 1 - at});
+        if (close > at + 2) // "[^]" names nothing
+            found.append({text.mid(at + 2, close - at - 2), at, close + 1 - at});
         at = close + 1;
     }
     return found;

@@ -25,26 +25,4 @@ inline qsizetype skipPatternSpace(QStringView text, qsizetype from = 0)
     return from;
 }
 
-/// Finds the next closing bracket for starts that only move forward, in linear time altogether.
-class ClosingBracket
-{
-public:
-    explicit ClosingBracket(QStringView text)
-        : m_text(text)
-    {
-    }
-
-    /// The first "]" at or after `from`, or -1. `from` never decreases from call to call.
-    qsizetype next(qsizetype from)
-    {
-        if (m_place >= 0 && m_place < from)
-            m_place = m_text.indexOf(u']', from);
-        return m_place;
-    }
-
-private:
-    QStringView m_text;
-    qsizetype m_place = 0; // before the first call: a place to start from
-};
-
 } // namespace vl::app

@@ -51,24 +51,22 @@ qsizetype markerBreak(QStringView line)
     return isPatternSpace(at(end)) ? where : -1;
 }
 
-/// Calls `found(start, close)` for every `opening…]` whose content, if `closing` is "]]", is
-/// followed by a second bracket. Goes on behind a match, and one unit further where there is none.
+/// Calls `found(start, close)` for every piece from `opening` to the first "]" behind it, if
+/// `closing` stands there. All starts before a "]" share it, so a miss moves on behind it.
 template<typename Found>
 void forEachBracketed(QStringView text, QLatin1String opening, QLatin1String closing,
                       bool mayBeEmpty, Found found)
 {
-    ClosingBracket bracket(text);
     qsizetype at = 0;
     while ((at = text.indexOf(opening, at)) >= 0) {
         const qsizetype content = at + opening.size();
-        const qsizetype close = bracket.next(content);
+        const qsizetype close = text.indexOf(u']', content);
         if (close < 0)
             return;
+        at = close + 1;
         if (text.mid(close).startsWith(closing) && (mayBeEmpty || close > content)) {
-            found(at, close);
+            found(content - opening.size(), close);
             at = close + closing.size();
-        } else {
-            ++at;
         }
     }
 }

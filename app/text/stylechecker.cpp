@@ -22,7 +22,11 @@ QList<StyleIssue> StyleChecker::check(QStringView text) const
     for (const auto &rule : m_rules)
         kinds |= 1U << rule->kind();
     StyleFindings findings = scanStyle(text, kinds);
+    qsizetype count = 0;
+    for (const QList<StyleIssue> &found : findings)
+        count += found.size();
     QList<StyleIssue> issues;
+    issues.reserve(count);
     for (const auto &rule : m_rules)
         issues.append(std::move(findings[size_t(rule->kind())]));
     return issues;

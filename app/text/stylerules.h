@@ -21,6 +21,10 @@ struct StyleIssue
     bool operator==(const StyleIssue &) const = default;
 };
 
+} // namespace vl::app
+Q_DECLARE_TYPEINFO(vl::app::StyleIssue, Q_RELOCATABLE_TYPE);
+namespace vl::app {
+
 /// The categories of findings, numbered as StyleIssue::kind.
 namespace stylekind {
 constexpr int LongSentence = 0;

@@ -2,6 +2,8 @@
 
 #include "app/text/wordscan.h"
 
+#include <algorithm>
+
 namespace vl::app {
 
 namespace {
@@ -21,9 +23,11 @@ public:
 
     QString around(QStringView content) const
     {
-        QString message;
-        message.reserve(m_before.size() + content.size() + m_after.size());
-        return message.append(m_before).append(content).append(m_after);
+        QString message(m_before.size() + content.size() + m_after.size(), Qt::Uninitialized);
+        QChar *to = std::copy(m_before.cbegin(), m_before.cend(), message.data());
+        to = std::copy(content.cbegin(), content.cend(), to);
+        std::copy(m_after.cbegin(), m_after.cend(), to);
+        return message;
     }
 
 private:
@@ -249,23 +253,31 @@ qsizetype SentenceRule::checkSentence(qsizetype at)
     qsizetype first = -1;
     qsizetype last = at;
     int words = 0;
-    bool isInWord = false;
     bool isClosing = false;
-    for (; at < size; ++at) {
-        const char16_t unit = units[at];
-        const bool isEnd = isSentenceEnd(unit);
-        if (isClosing && !isEnd)
-            break;
-        isClosing = isEnd;
+    while (at < size && (!isClosing || isSentenceEnd(units[at]))) {
         // Every white-space character is one unit, so half a pair may be judged alone.
-        const bool isSpace = charclass::of(unit) & charclass::AnySpace;
-        if (!isSpace) {
-            if (first < 0)
-                first = at;
-            last = at + 1;
-            words += isInWord ? 0 : 1;
+        if (charclass::of(units[at]) & charclass::AnySpace) {
+            ++at;
+            continue;
         }
-        isInWord = !isSpace;
+        if (first < 0)
+            first = at;
+        ++words;
+        for (; at < size; ++at) {
+            const quint8 charClass = charclass::of(units[at]);
+            if (charClass & charclass::AnyWord) {
+                if (isClosing)
+                    break;
+                continue;
+            }
+            if (charClass & charclass::AnySpace)
+                break;
+            const bool isEnd = isSentenceEnd(units[at]);
+            if (isClosing && !isEnd)
+                break;
+            isClosing = isEnd;
+        }
+        last = at;
     }
     if (words > longestReadableSentence)
         m_issues.append(

@@ -45,6 +45,16 @@ constexpr std::array<quint8, 128> makeAsciiTable()
     return table;
 }
 inline constexpr std::array<quint8, 128> asciiTable = makeAsciiTable();
+
+constexpr std::array<quint8, 128> makeLowerTable()
+{
+    std::array<quint8, 128> table{};
+    for (unsigned c = 0; c < table.size(); ++c)
+        table[c] = asciiTable[c] == Letter ? quint8(c | 0x20) : 0;
+    return table;
+}
+/// The small letter of every ASCII letter, 0 for all else.
+inline constexpr std::array<quint8, 128> lowerTable = makeLowerTable();
 } // namespace detail
 
 inline quint8 of(char32_t character)
@@ -111,16 +121,44 @@ struct ScannedWord
     bool followsBlanks() const { return gapBefore == charclass::Blank; }
 };
 
+/// Reads a word from its first character on and gives the offset behind it.
+inline qsizetype readWord(QStringView text, qsizetype at, ScannedWord &word)
+{
+    const qsizetype size = text.size();
+    const char16_t *units = text.utf16();
+    quint32 hash = StyleVocabulary::hashSeed;
+    // Nearly all words are ASCII letters from end to end.
+    for (; at < size && units[at] < charclass::detail::lowerTable.size(); ++at) {
+        const quint8 folded = charclass::detail::lowerTable[units[at]];
+        if (folded == 0)
+            break;
+        hash = StyleVocabulary::hashStep(hash, folded);
+    }
+    word.classes = at > word.start ? charclass::Letter : 0;
+    while (at < size) {
+        const ScannedCharacter next = characterAt(text, at);
+        if (!(next.charClass & charclass::AnyWord))
+            break;
+        const char16_t folded = foldToList(units[at]);
+        word.isListable = word.isListable && folded < 0x80;
+        hash = StyleVocabulary::hashStep(hash, folded);
+        word.classes |= next.charClass;
+        word.pairs += next.units - 1;
+        at += next.units;
+    }
+    word.hash = hash;
+    return at;
+}
+
 /// Calls visit(word) for every word of the text from left to right.
 template<typename Visitor>
 void scanWords(QStringView text, Visitor &&visit)
 {
     const qsizetype size = text.size();
-    const char16_t *units = text.utf16();
     quint8 gap = charclass::Other;
     qsizetype at = 0;
     while (at < size) {
-        ScannedCharacter next = characterAt(text, at);
+        const ScannedCharacter next = characterAt(text, at);
         if (!(next.charClass & charclass::AnyWord)) {
             gap |= next.charClass;
             at += next.units;
@@ -129,18 +167,7 @@ void scanWords(QStringView text, Visitor &&visit)
         ScannedWord word;
         word.start = at;
         word.gapBefore = gap;
-        word.hash = StyleVocabulary::hashSeed;
-        do {
-            const char16_t folded = foldToList(units[at]);
-            word.isListable = word.isListable && folded < 0x80;
-            word.hash = StyleVocabulary::hashStep(word.hash, folded);
-            word.classes |= next.charClass;
-            word.pairs += next.units - 1;
-            at += next.units;
-            if (at >= size)
-                break;
-            next = characterAt(text, at);
-        } while (next.charClass & charclass::AnyWord);
+        at = readWord(text, at, word);
         word.end = at;
         visit(word);
         gap = 0;

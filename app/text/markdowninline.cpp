@@ -1,0 +1,443 @@
+#include "app/text/markdowninline.h"
+
+#include "app/text/markdownscan.h"
+
+#include <array>
+
+namespace vl::app {
+
+namespace {
+
+constexpr char16_t firstEscape = 0xE000;
+constexpr size_t maxEscapes = 6400; // the private-use characters of the basic plane
+
+enum Seen : unsigned
+{
+    SeenBracket = 1,
+    SeenImage = 2,
+    SeenAsterisk = 4,
+    SeenTilde = 8,
+    SeenCode = 16,
+    SeenEscape = 32
+};
+
+enum CharacterClass : quint8
+{
+    Plain,
+    Special,
+    Dropped
+};
+
+/// What the first pass has to do for a character below U+0080.
+constexpr std::array<quint8, 128> makeClasses()
+{
+    std::array<quint8, 128> classes{};
+    for (size_t c = 0; c < 0x20; ++c)
+        classes[c] = c == '\t' || c == '\n' || c == '\r' ? Plain : Dropped;
+    for (const char c : {'"', '&', '*', '<', '>', '[', '\\', '`', '~'})
+        classes[size_t(c)] = Special;
+    return classes;
+}
+constexpr std::array<quint8, 128> classes = makeClasses();
+
+inline quint8 classOf(char16_t c)
+{
+    if (c < 128)
+        return classes[c];
+    return c < 0xFFFE ? Plain : Dropped;
+}
+
+void appendEscaped(char16_t c, HtmlSink &to)
+{
+    switch (c) {
+    case u'"':
+        to.append(u"&quot;");
+        break;
+    case u'&':
+        to.append(u"&amp;");
+        break;
+    case u'<':
+        to.append(u"&lt;");
+        break;
+    case u'>':
+        to.append(u"&gt;");
+        break;
+    default:
+        to.append(c);
+    }
+}
+
+/// The end of the URL that starts at `at`: no white space, parentheses only in pairs one deep and
+/// not empty altogether, a ")" right after it. -1 if there is no such URL.
+qsizetype urlEnd(QStringView text, qsizetype at)
+{
+    const qsizetype start = at;
+    for (; at < text.size(); ++at) {
+        const char16_t c = text[at].unicode();
+        if (c == u')')
+            return at > start ? at : -1;
+        if (isPatternSpace(c))
+            return -1;
+        if (c == u'(') {
+            do {
+                if (++at == text.size() || text[at] == u'(')
+                    return -1;
+            } while (text[at] != u')');
+        }
+    }
+    return -1;
+}
+
+bool isAllowedScheme(QStringView scheme)
+{
+    for (const QLatin1String allowed :
+         {QLatin1String("http"), QLatin1String("https"), QLatin1String("mailto"),
+          QLatin1String("tel"), QLatin1String("ftp")}) {
+        if (scheme.compare(allowed, Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+/// Whether a URL may stand: relative, or of a known scheme; for images also "data:image/".
+bool isSafeUrl(QStringView url, bool image)
+{
+    qsizetype colon = 0;
+    for (; colon < url.size() && url[colon] != u':'; ++colon) {
+        if (url[colon] == u'/' || url[colon] == u'?' || url[colon] == u'#')
+            return true;
+    }
+    if (colon == url.size() || isAllowedScheme(url.left(colon)))
+        return true;
+    return image && url.left(colon).compare(QLatin1String("data"), Qt::CaseInsensitive) == 0
+           && url.mid(colon + 1, 6).compare(QLatin1String("image/"), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+MarkdownInline::MarkdownInline(HtmlSink &out, MarkdownFootnotes &footnotes)
+    : m_out(out)
+    , m_footnotes(footnotes)
+{
+}
+
+void MarkdownInline::render(QStringView text)
+{
+    m_start = m_out.size();
+    m_seen = 0;
+    escapeAndShieldCode(text);
+    if (m_seen == 0)
+        return;
+    if (m_seen & SeenBracket) {
+        if (m_footnotes.hasNumbered())
+            replaceFootnoteReferences();
+        if (m_seen & SeenImage)
+            replaceTargets(Target::Image); // first, so that an image is never taken for a link
+        replaceTargets(Target::Link);
+    }
+    if (m_seen & (SeenAsterisk | SeenTilde | SeenCode | SeenEscape))
+        finish();
+}
+
+/// Backslash escapes, removal of control characters, HTML escaping and code spans in one pass.
+/// Code goes by what is left after escaping, escaping by every backtick that is not escaped.
+void MarkdownInline::escapeAndShieldCode(QStringView text)
+{
+    m_escapes.clear();
+    m_codes.clear();
+    m_codeText.truncate(0);
+    bool insideCode = false;
+    qsizetype open = -1; // where in m_out a backtick waits for its partner
+    const char16_t *at = text.utf16();
+    const char16_t *const end = at + text.size();
+    for (;;) {
+        char16_t *to = m_out.room(end - at);
+        const char16_t *const run = at;
+        while (at != end && classOf(*at) == Plain)
+            *to++ = *at++;
+        m_out.advance(at - run);
+        if (at == end)
+            return;
+        const char16_t c = *at++;
+        if (c == u'`') {
+            insideCode = !insideCode;
+            backtick(open);
+        } else if (c == u'\\' && !insideCode && at != end && isAsciiPunctuation(*at)
+                   && m_escapes.size() < maxEscapes) {
+            m_out.append(char16_t(firstEscape + m_escapes.size()));
+            m_escapes.push_back(*at++);
+            m_seen |= SeenEscape;
+        } else {
+            appendSpecial(c);
+        }
+    }
+}
+
+void MarkdownInline::appendSpecial(char16_t c)
+{
+    switch (c) {
+    case u'*':
+        m_seen |= SeenAsterisk;
+        break;
+    case u'~':
+        m_seen |= SeenTilde;
+        break;
+    case u'[':
+        m_seen |= SeenBracket;
+        if (m_out.size() > m_start && working().back() == u'!')
+            m_seen |= SeenImage;
+        break;
+    default:
+        break;
+    }
+    if (classOf(c) != Dropped)
+        appendEscaped(c, m_out);
+}
+
+/// Closes a code span if one is open and not empty: it becomes a marker, NUL, its number, NUL. No
+/// NUL of the text itself gets this far.
+void MarkdownInline::backtick(qsizetype &open)
+{
+    if (open < 0 || m_out.size() == open + 1) {
+        open = m_out.size();
+        m_out.append(u'`');
+        return;
+    }
+    const qsizetype start = m_codeText.size();
+    m_codeText.append(m_out.from(open + 1));
+    m_out.truncate(open);
+    m_out.append(u'\0');
+    m_out.append(quint64(m_codes.size()));
+    m_out.append(u'\0');
+    m_codes.push_back({start, m_codeText.size()});
+    m_seen |= SeenCode;
+    open = -1;
+}
+
+/// Puts what a pass collected in m_scratch, and the rest of the working text from `copied` on, in
+/// the place of the working text.
+void MarkdownInline::replaceWorking(qsizetype copied)
+{
+    if (copied == 0)
+        return;
+    m_scratch.append(working().mid(copied));
+    m_out.truncate(m_start);
+    m_out.append(m_scratch.from(0));
+}
+
+void MarkdownInline::replaceFootnoteReferences()
+{
+    const QStringView text = working();
+    m_scratch.truncate(0);
+    qsizetype copied = 0;
+    qsizetype at = 0;
+    while ((at = text.indexOf(QLatin1String("[^"), at)) >= 0) {
+        const qsizetype close = text.indexOf(u']', at + 2);
+        if (close < 0)
+            break;
+        if (auto *note = m_footnotes.numbered(text.mid(at + 2, close - at - 2))) {
+            m_scratch.append(text.mid(copied, at - copied));
+            m_scratch.append(u"<sup class=\"footnote-ref\" id=\"fnref-");
+            m_scratch.append(note->number);
+            if (++note->references > 1) {
+                m_scratch.append(u'-');
+                m_scratch.append(note->references);
+            }
+            m_scratch.append(u"\"><a href=\"#fn-");
+            m_scratch.append(note->number);
+            m_scratch.append(u"\">");
+            m_scratch.append(note->number);
+            m_scratch.append(u"</a></sup>");
+            copied = close + 1;
+        }
+        at = close + 1;
+    }
+    replaceWorking(copied);
+}
+
+/// All starts before a "]" share it, and with it the URL behind; so a miss moves on behind the "]".
+void MarkdownInline::replaceTargets(Target kind)
+{
+    const QStringView text = working();
+    const bool image = kind == Target::Image;
+    const QLatin1String opening(image ? "![" : "[");
+    m_scratch.truncate(0);
+    qsizetype copied = 0;
+    qsizetype at = 0;
+    while ((at = text.indexOf(opening, at)) >= 0) {
+        const qsizetype content = at + opening.size();
+        const qsizetype close = text.indexOf(u']', content);
+        if (close < 0)
+            break;
+        const bool hasTarget =
+            (image || close > content) && close + 1 < text.size() && text[close + 1] == u'(';
+        const qsizetype end = hasTarget ? urlEnd(text, close + 2) : -1;
+        if (end < 0) {
+            at = close + 1;
+            continue;
+        }
+        const QStringView label = text.mid(content, close - content);
+        m_scratch.append(text.mid(copied, at - copied));
+        m_scratch.append(image ? QStringView(u"<img src=\"") : QStringView(u"<a href=\""));
+        m_scratch.append(checkedUrl(text.mid(close + 2, end - close - 2), kind));
+        m_scratch.append(image ? QStringView(u"\" alt=\"") : QStringView(u"\">"));
+        m_scratch.append(label);
+        m_scratch.append(image ? QStringView(u"\"/>") : QStringView(u"</a>"));
+        copied = at = end + 1;
+    }
+    replaceWorking(copied);
+}
+
+/// The URL, or "#" in its place. It is judged as it will stand in the output, with escaped
+/// characters and code put back, so that no escaped colon smuggles a scheme through.
+QStringView MarkdownInline::checkedUrl(QStringView url, Target kind)
+{
+    QStringView judged = url;
+    if (m_seen & (SeenCode | SeenEscape)) {
+        m_url.truncate(0);
+        appendRestored(url, m_url);
+        judged = m_url.from(0);
+    }
+    return isSafeUrl(judged, kind == Target::Image) ? url : QStringView(u"#");
+}
+
+void MarkdownInline::collectMarks(QStringView text)
+{
+    m_asterisks.clear();
+    m_tildes.clear();
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at] == u'*')
+            m_asterisks.push_back({at, Role::Text});
+        else if (text[at] == u'~')
+            m_tildes.push_back({at, Role::Text});
+    }
+    pairDoubled(m_asterisks);
+    pairSingle(m_asterisks);
+    pairDoubled(m_tildes);
+}
+
+/// Pairs of two marks side by side, with at least one other character and no mark between them.
+void MarkdownInline::pairDoubled(std::vector<Mark> &marks)
+{
+    for (size_t i = 0; i + 3 < marks.size();) {
+        if (marks[i + 1].place != marks[i].place + 1 || marks[i + 2].place == marks[i + 1].place + 1
+            || marks[i + 3].place != marks[i + 2].place + 1) {
+            ++i;
+            continue;
+        }
+        marks[i].role = Role::PairOpening;
+        marks[i + 2].role = Role::PairClosing;
+        marks[i + 1].role = marks[i + 3].role = Role::Skipped;
+        i += 4;
+    }
+}
+
+/// Pairs of the marks that are left: each with the next one, unless they stand side by side.
+void MarkdownInline::pairSingle(std::vector<Mark> &marks)
+{
+    Mark *open = nullptr;
+    for (Mark &mark : marks) {
+        if (mark.role != Role::Text)
+            continue;
+        if (open == nullptr || mark.place == open->place + 1) {
+            open = &mark;
+            continue;
+        }
+        open->role = Role::Opening;
+        mark.role = Role::Closing;
+        open = nullptr;
+    }
+}
+
+/// Strong, emphasis, strike-through, and then code and escapes put back, in one walk. The first
+/// three only replace marks and put no new ones in, so their pairs are found beforehand.
+void MarkdownInline::finish()
+{
+    m_asterisks.clear();
+    m_tildes.clear();
+    if (m_seen & (SeenAsterisk | SeenTilde))
+        collectMarks(working());
+    m_scratch.truncate(0);
+    m_scratch.append(working());
+    m_out.truncate(m_start);
+    const QStringView text = m_scratch.from(0);
+    qsizetype copied = 0;
+    auto asterisk = m_asterisks.cbegin();
+    auto tilde = m_tildes.cbegin();
+    while (asterisk != m_asterisks.cend() || tilde != m_tildes.cend()) {
+        const bool isTilde = asterisk == m_asterisks.cend()
+                             || (tilde != m_tildes.cend() && tilde->place < asterisk->place);
+        const Mark mark = isTilde ? *tilde++ : *asterisk++;
+        if (mark.role == Role::Text)
+            continue;
+        appendRestored(text.mid(copied, mark.place - copied), m_out);
+        appendTag(mark.role, isTilde);
+        copied = mark.place + 1;
+    }
+    appendRestored(text.mid(copied), m_out);
+}
+
+void MarkdownInline::appendTag(Role role, bool isTilde)
+{
+    switch (role) {
+    case Role::Opening:
+        m_out.append(u"<em>");
+        break;
+    case Role::Closing:
+        m_out.append(u"</em>");
+        break;
+    case Role::PairOpening:
+        m_out.append(isTilde ? QStringView(u"<del>") : QStringView(u"<strong>"));
+        break;
+    case Role::PairClosing:
+        m_out.append(isTilde ? QStringView(u"</del>") : QStringView(u"</strong>"));
+        break;
+    case Role::Text:
+    case Role::Skipped:
+        break;
+    }
+}
+
+/// Appends text with every code marker replaced by its code and every escape by its character.
+void MarkdownInline::appendRestored(QStringView text, HtmlSink &to) const
+{
+    if (!(m_seen & SeenCode)) {
+        appendUnescaped(text, to);
+        return;
+    }
+    qsizetype copied = 0;
+    qsizetype at = 0;
+    while ((at = text.indexOf(u'\0', at)) >= 0) {
+        appendUnescaped(text.mid(copied, at - copied), to);
+        size_t index = 0;
+        while (text[++at] != u'\0')
+            index = index * 10 + (text[at].unicode() - u'0');
+        const TextRange code = m_codes[index];
+        to.append(u"<code>");
+        appendUnescaped(m_codeText.from(code.start).left(code.end - code.start), to);
+        to.append(u"</code>");
+        copied = ++at;
+    }
+    appendUnescaped(text.mid(copied), to);
+}
+
+void MarkdownInline::appendUnescaped(QStringView text, HtmlSink &to) const
+{
+    const size_t count = m_escapes.size();
+    if (count == 0) {
+        to.append(text);
+        return;
+    }
+    const char16_t *at = text.utf16();
+    const char16_t *const end = at + text.size();
+    while (at != end) {
+        const char16_t *const run = at;
+        while (at != end && size_t(*at) - firstEscape >= count)
+            ++at;
+        to.append(QStringView(run, at));
+        if (at != end)
+            appendEscaped(m_escapes[size_t(*at++) - firstEscape], to);
+    }
+}
+
+} // namespace vl::app
