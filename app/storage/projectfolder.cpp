@@ -1,0 +1,139 @@
+#include "app/storage/projectfolder.h"
+
+#include "app/storage/archive.h"
+#include "core/id.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace vl::app {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct ProjectFolder
+{
+    Q_DECLARE_TR_FUNCTIONS(vl::app::ProjectFolder)
+
+public:
+    static QString unreadable() { return tr("Could not read a project file: %1"); }
+};
+
+fs::path toSystemPath(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return fs::path(path.toStdU16String());
+#else
+    return fs::path(QFile::encodeName(path).toStdString());
+#endif
+}
+
+QByteArray fromSystemPath(const fs::path &path)
+{
+    const std::u8string text = path.generic_u8string();
+    return QByteArray(reinterpret_cast<const char *>(text.data()), qsizetype(text.size()));
+}
+
+/// The name directly inside "objects/" or "taxonomy/", without ".json"; empty for other paths and
+/// hidden files.
+QByteArrayView objectName(QByteArrayView path)
+{
+    for (const QByteArrayView folder : {QByteArrayView("objects/"), QByteArrayView("taxonomy/")}) {
+        if (path.startsWith(folder) && path.indexOf('/', folder.size()) < 0
+            && path.size() > folder.size() + 5 && path[folder.size()] != '.'
+            && path.last(5).compare(QByteArrayView(".json"), Qt::CaseInsensitive) == 0)
+            return path.sliced(folder.size()).chopped(5);
+    }
+    return {};
+}
+
+} // namespace
+
+bool isOwnPath(QByteArrayView path)
+{
+    if (path == "project.json")
+        return true;
+    const QByteArrayView name = objectName(path);
+    const QString text = QString::fromLatin1(name);
+    return name.size() == 36 && path.endsWith(".json")
+           && core::uuidToText(core::uuidFromText(text)) == text;
+}
+
+bool isReadPath(QByteArrayView path)
+{
+    return path == "project.json" || !objectName(path).isEmpty();
+}
+
+Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
+{
+    if (!QDir(folder).exists())
+        return failure(ProjectFolder::tr("The project folder does not exist: %1")
+                           .arg(QDir::toNativeSeparators(folder)));
+    const fs::path root = toSystemPath(folder);
+    const QByteArray::size_type skipped = fromSystemPath(root / "x").size() - 1;
+    std::vector<QByteArray> paths;
+    std::error_code error;
+    fs::recursive_directory_iterator it(root, error);
+    QString current = folder;
+    for (; !error && it != fs::recursive_directory_iterator(); it.increment(error)) {
+        const QByteArray path = fromSystemPath(it->path()).mid(skipped);
+        current = pathInFolder(folder, path);
+        const fs::file_type type = it->symlink_status(error).type();
+        if (error)
+            break;
+        if (type == fs::file_type::directory)
+            continue;
+        const qsizetype slash = path.lastIndexOf('/');
+        if (isUnfinishedFileName(QString::fromUtf8(QByteArrayView(path).sliced(slash + 1))))
+            continue;
+        if (type != fs::file_type::regular || !isSafeEntryName(path))
+            return failure(withPath(ProjectFolder::unreadable(), current));
+        paths.push_back(path);
+    }
+    if (error)
+        return failure(withPath(ProjectFolder::unreadable(), current));
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
+Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path)
+{
+    return readRegularFile(pathInFolder(folder, path), ProjectFolder::unreadable(),
+                           ArchiveWriter::maxBytes, Links::Refuse);
+}
+
+QString pathInFolder(const QString &folder, QByteArrayView path)
+{
+    return folder + QLatin1Char('/') + QString::fromUtf8(path);
+}
+
+Result<> copyCarriedFiles(const QString &from, const QString &to)
+{
+    const Result<std::vector<QByteArray>> paths = listProjectFolder(from);
+    if (!paths)
+        return paths.asFailure();
+    const QString unwritten = ProjectFolder::tr("Could not write a project file: %1");
+    for (const QByteArray &path : *paths) {
+        if (isReadPath(path))
+            continue;
+        const Result<QByteArray> bytes = readProjectFile(from, path);
+        if (!bytes)
+            return bytes.asFailure();
+        const QString target = pathInFolder(to, path);
+        if (!makeFolder(target.left(target.lastIndexOf(QLatin1Char('/')))))
+            return failure(
+                withPath(ProjectFolder::tr("Could not create the folder for: %1"), target));
+        if (fileHolds(target, *bytes))
+            continue;
+        if (const Result<> written = writeFile(target, *bytes, {unwritten, unwritten}); !written)
+            return written;
+    }
+    return {};
+}
+
+} // namespace vl::app

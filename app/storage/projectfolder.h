@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/base/files.h"
+#include "app/base/result.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace vl::app {
+
+/// Whether the path is one that the program itself gives to a file: "project.json", or an id with
+/// ".json" in "objects/" or "taxonomy/".
+bool isOwnPath(QByteArrayView path);
+
+/// Whether the path is one that a project is read from: "project.json", or any name with ".json"
+/// directly in "objects/" or "taxonomy/" that is not hidden.
+bool isReadPath(QByteArrayView path);
+
+/// The paths of all files under the folder, hidden ones too, relative to it, in ascending order of
+/// their bytes. Fails for what cannot be packed: links, devices, unreadable folders and names that
+/// no other system could unpack. What unfinished writes left behind is passed over.
+Result<std::vector<QByteArray>> listProjectFolder(const QString &folder);
+
+/// Reads one file of a project folder; a link or a device fails like any other unreadable file.
+Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path);
+
+/// The full path of a file in a folder, from its path relative to it.
+QString pathInFolder(const QString &folder, QByteArrayView path);
+
+/// Copies every file that is not made from the model ("assets/" and whatever is unknown) from one
+/// project folder into another, which may hold some of them already.
+Result<> copyCarriedFiles(const QString &from, const QString &to);
+
+} // namespace vl::app
