@@ -97,17 +97,26 @@ std::vector<ReconcileEntry> Reconcile::build(const Files &base, const Files &loc
     return entries;
 }
 
-bool Reconcile::isValidFor(const QString &path, const QString &text)
+bool Reconcile::isValidFor(const QString &path, const QByteArray &bytes)
 {
-    return !path.endsWith(QLatin1String(".json"))
-           || !QJsonDocument::fromJson(text.toUtf8()).isNull();
+    return !path.endsWith(QLatin1String(".json")) || !QJsonDocument::fromJson(bytes).isNull();
+}
+
+Failure Reconcile::conflictsFailure()
+{
+    return failure(tr("the reconcile has conflicts to resolve first"));
+}
+
+QString Reconcile::invalidMessage(const QString &path)
+{
+    return tr("the merged file '%1' would not be valid").arg(path);
 }
 
 Result<ReconcileChanges> Reconcile::apply(const std::vector<ReconcileEntry> &entries)
 {
     for (const ReconcileEntry &entry : entries) {
         if (isConflict(entry.state))
-            return failure(tr("the reconcile has conflicts to resolve first"));
+            return conflictsFailure();
     }
     ReconcileChanges changes;
     for (const ReconcileEntry &entry : entries) {
@@ -115,10 +124,11 @@ Result<ReconcileChanges> Reconcile::apply(const std::vector<ReconcileEntry> &ent
             changes.remove.append(entry.path);
             continue;
         }
-        const QString text = entry.result.value_or(QString());
-        if (entry.state != Unchanged && !isValidFor(entry.path, text))
-            return failure(tr("the merged file '%1' would not be valid").arg(entry.path));
-        changes.write.insert_or_assign(entry.path, text);
+        if (!entry.result)
+            continue; // nothing to write, and nobody asked for a removal
+        if (entry.state != Unchanged && !isValidFor(entry.path, entry.result->toUtf8()))
+            return failure(invalidMessage(entry.path));
+        changes.write.insert_or_assign(entry.path, *entry.result);
     }
     return changes;
 }

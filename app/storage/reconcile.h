@@ -115,9 +115,12 @@ public:
     /// What to write and to remove. Fails while a conflict is unresolved, or when a ".json" file
     /// that would be written with new contents holds neither a JSON object nor a JSON array.
     static Result<ReconcileChanges> apply(const std::vector<ReconcileEntry> &entries);
-    /// Whether the text may be written to the path: any text, but in a ".json" file a JSON
-    /// document.
-    static bool isValidFor(const QString &path, const QString &text);
+    /// Whether the bytes may stand in the path: any bytes, but in a ".json" file a JSON document.
+    static bool isValidFor(const QString &path, const QByteArray &bytes);
+    /// What a reconcile with unresolved conflicts fails with.
+    static Failure conflictsFailure();
+    /// What a merged file that is no JSON document is refused with.
+    static QString invalidMessage(const QString &path);
 };
 
 } // namespace vl::app
