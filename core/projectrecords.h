@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/enumtexts.h"
 #include "core/id.h"
 
 #include <QtCore/QDate>
@@ -8,8 +9,6 @@
 
 #include <map>
 #include <optional>
-
-#include "core/enumtexts.h"
 
 namespace vl::core {
 

@@ -44,7 +44,7 @@ const Category *Taxonomy::find(const ContentId &id) const
     return found == m_categories.end() ? nullptr : &found->second;
 }
 
-Category *Taxonomy::find(const ContentId &id)
+Category *Taxonomy::editable(const ContentId &id)
 {
     const auto found = m_categories.find(id);
     return found == m_categories.end() ? nullptr : &found->second;
@@ -110,22 +110,32 @@ bool Taxonomy::add(const Category &category)
     return !category.id.isNull() && m_categories.try_emplace(category.id, category).second;
 }
 
-std::optional<Category> Taxonomy::remove(const ContentId &id)
+std::optional<Category> Taxonomy::take(const ContentId &id)
 {
     const auto found = m_categories.find(id);
     if (found == m_categories.end())
         return std::nullopt;
     Category taken = std::move(found->second);
     m_categories.erase(found);
+    return taken;
+}
+
+std::optional<Category> Taxonomy::remove(const ContentId &id)
+{
+    std::optional<Category> taken = take(id);
+    if (!taken)
+        return taken;
+    // A category may name itself, or its own child, as its parent: files hold what they hold.
+    const ContentId above = taken->parentId == id ? ContentId() : taken->parentId;
     for (auto &[otherId, category] : m_categories)
         if (category.parentId == id)
-            category.parentId = taken.parentId == otherId ? ContentId() : taken.parentId;
+            category.parentId = above == otherId ? ContentId() : above;
     return taken;
 }
 
 bool Taxonomy::rename(const ContentId &id, const QString &name)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category)
         return false;
     category->name = name;
@@ -134,7 +144,7 @@ bool Taxonomy::rename(const ContentId &id, const QString &name)
 
 bool Taxonomy::setParent(const ContentId &id, const ContentId &parentId)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category)
         return false;
     category->parentId = parentId;
@@ -143,7 +153,7 @@ bool Taxonomy::setParent(const ContentId &id, const ContentId &parentId)
 
 bool Taxonomy::insertField(const ContentId &id, qsizetype position, const FieldDefinition &field)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category || position < 0 || position > category->fields.size())
         return false;
     category->fields.insert(position, field);
@@ -152,7 +162,7 @@ bool Taxonomy::insertField(const ContentId &id, qsizetype position, const FieldD
 
 bool Taxonomy::setField(const ContentId &id, qsizetype position, const FieldDefinition &field)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category || position < 0 || position >= category->fields.size())
         return false;
     category->fields[position] = field;
@@ -161,7 +171,7 @@ bool Taxonomy::setField(const ContentId &id, qsizetype position, const FieldDefi
 
 bool Taxonomy::removeField(const ContentId &id, qsizetype position)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category || position < 0 || position >= category->fields.size())
         return false;
     category->fields.removeAt(position);
@@ -170,7 +180,7 @@ bool Taxonomy::removeField(const ContentId &id, qsizetype position)
 
 bool Taxonomy::moveField(const ContentId &id, qsizetype from, qsizetype to)
 {
-    Category *category = find(id);
+    Category *category = editable(id);
     if (!category || from < 0 || from >= category->fields.size() || to < 0
         || to >= category->fields.size())
         return false;

@@ -80,6 +80,8 @@ public:
     bool add(const Category &category);
     /// Takes a category out; its child categories move up to its parent. Nothing for an unknown id.
     std::optional<Category> remove(const ContentId &id);
+    /// Takes a category out and leaves all others as they are, also those that name it as parent.
+    std::optional<Category> take(const ContentId &id);
     /// These give false, and change nothing, for an unknown category or a place outside its fields.
     bool rename(const ContentId &id, const QString &name);
     bool setParent(const ContentId &id, const ContentId &parentId);
@@ -89,7 +91,7 @@ public:
     bool moveField(const ContentId &id, qsizetype from, qsizetype to);
 
 private:
-    Category *find(const ContentId &id);
+    Category *editable(const ContentId &id);
 
     std::map<ContentId, Category> m_categories;
 };

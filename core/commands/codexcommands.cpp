@@ -61,7 +61,7 @@ void AddCategoryCommand::redo()
 void AddCategoryCommand::undo()
 {
     if (m_wasAdded)
-        m_project.editTaxonomy().remove(m_category.id);
+        m_project.editTaxonomy().take(m_category.id);
 }
 
 QString AddCategoryCommand::text() const

@@ -21,7 +21,7 @@ void AddObjectCommand::redo()
 void AddObjectCommand::undo()
 {
     // An object that was refused (its id was taken) is still here, and its namesake stays.
-    if (!m_object && !m_id.isNull())
+    if (!m_changes.isEmpty())
         m_object = m_project.take(m_id);
 }
 

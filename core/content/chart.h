@@ -7,7 +7,7 @@
 
 namespace vl::core {
 
-/// One line, bar or slice of a chart; its values stand in the order of the chart'"'"'s categories.
+/// One line, bar or slice of a chart; its values stand in the order of the chart's categories.
 struct ChartSeries
 {
     QString name;

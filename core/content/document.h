@@ -21,7 +21,7 @@ enum class DocumentKind
 inline constexpr auto documentKindTexts =
     makeEnumTexts<DocumentKind>("prose", "screenplay", "note");
 
-/// A saved state of a document'"'"'s body.
+/// A saved state of a document's body.
 struct DocumentVersion
 {
     QString label;

@@ -27,7 +27,7 @@ struct MapRegion
     bool operator==(const MapRegion &) const = default;
 };
 
-/// A way between two places, as long as its distance in the map'"'"'s unit.
+/// A way between two places, as long as its distance in the map's unit.
 struct MapRoute
 {
     ContentId fromEntityId;
@@ -79,7 +79,7 @@ struct MapTravelSettings
 {
     double travelSpeedPerHour = 0; ///< in the distance unit; 0 while unset
     QString distanceUnit;
-    double widthDistance = 0; ///< the distance that the picture'"'"'s width stands for
+    double widthDistance = 0; ///< the distance that the picture's width stands for
 
     bool operator==(const MapTravelSettings &) const = default;
 };

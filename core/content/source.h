@@ -11,7 +11,7 @@ struct SourceData
     QString sourceType;
     QString title;
     QString citationKey;
-    std::map<QString, QString> fields; ///< by the field'"'"'s name
+    std::map<QString, QString> fields; ///< by the field's name
 
     bool operator==(const SourceData &) const = default;
 };

@@ -8,7 +8,7 @@
 
 namespace vl::core {
 
-/// A cell'"'"'s place, from 0; ordered by row, then by column.
+/// A cell's place, from 0; ordered by row, then by column.
 struct CellPosition
 {
     qint32 row = 0;
@@ -38,7 +38,7 @@ enum class CellNumberFormat
 inline constexpr auto cellNumberFormatTexts =
     makeEnumTexts<CellNumberFormat>("general", "number", "currency", "percent", "scientific");
 
-/// How a cell looks; an empty text or a zero stands for the sheet'"'"'s own.
+/// How a cell looks; an empty text or a zero stands for the sheet's own.
 struct CellFormat
 {
     bool bold = false;
