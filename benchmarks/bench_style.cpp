@@ -26,21 +26,30 @@ const QString &prose()
             return made;
         }
         const QStringList words =
-            QStringLiteral("the the the the of of of and and and to to a a in he was was he said "
-                           "that it his her with for as had not at on but is were be which by this "
-                           "from they all one so there what who would very him she my been out "
-                           "could when princess looked quickly horse general window remembered "
-                           "carriage evening answered suddenly together battle really just simply "
-                           "prior order majority taken seen nothing Moscow thought always people "
-                           "regiment something opened only family café naïve returned don’t")
+            QStringLiteral(
+                "the the the the of of of and and and to to a a in he was was he said that it "
+                "his her with for as had not at on but is were be which by this from they all "
+                "one so there what who would him she my been out could when princess looked "
+                "horse general window remembered carriage evening answered together battle "
+                "people regiment something opened thought always café naïve returned don’t")
                 .split(u' ');
+        // Sown in thinly, so that about as much is found as in a novel.
+        const QStringList weakWords =
+            QStringLiteral(
+                "very|really|just|quite|quickly|suddenly|only|in order to|taken|at the end")
+                .split(u'|');
         QRandomGenerator random(1812);
         made.reserve(proseSize + 100);
+        qsizetype previous = 0;
         while (made.size() < proseSize) {
             for (int left = 4 + random.bounded(26); left > 0; --left) {
-                made += words[random.bounded(int(words.size()))];
-                made += left == 1 ? QStringLiteral(". ")
-                                  : QString::fromUtf16(random.bounded(9) ? u" " : u", ");
+                qsizetype next = random.bounded(int(words.size()));
+                if (words[next] == words[previous])
+                    next = words.size() - 1;
+                previous = next;
+                made += random.bounded(40) ? words[next]
+                                           : weakWords[random.bounded(int(weakWords.size()))];
+                made += QString::fromUtf16(left == 1 ? u". " : random.bounded(9) ? u" " : u", ");
             }
             if (random.bounded(5) == 0)
                 made += u'\n';
