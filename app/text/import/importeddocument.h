@@ -27,6 +27,7 @@ struct ImportedManuscript
     QString title;                           ///< of the work; may be empty
     std::vector<ImportedDocument> documents; ///< the top level, in the order of reading
     QStringList skipped;                     ///< what was left out, one message each
+    bool hasFrontText = false; ///< the first that is no note is the text before all headings
 };
 
 /// A document in reading order with its level, lower levels being nearer the top.

@@ -180,14 +180,17 @@ std::span<const QStringView> PlainTextBook::linesOf(const Piece &piece) const
     return std::span(m_lines).subspan(piece.first, piece.last - piece.first);
 }
 
-/// Whether the text before a numeral stops in the middle of a sentence, as at the end of a page.
+/// Whether a sentence goes on over a numeral, as over the end of a page.
 bool PlainTextBook::isNumeralInSentence(std::size_t piece) const
 {
-    if (piece == 0 || m_pieces[piece - 1].heading)
+    if (piece == 0 || piece + 1 >= m_pieces.size() || m_pieces[piece - 1].heading
+        || m_pieces[piece + 1].heading)
         return false;
     const QStringView before = m_lines[m_pieces[piece - 1].last - 1].trimmed();
-    return before.back().isLower() || before.back() == QLatin1Char(',')
-           || before.back() == QLatin1Char('-');
+    const QStringView after = m_lines[m_pieces[piece + 1].first].trimmed();
+    return after.front().isLower()
+           && (before.back().isLower() || before.back() == QLatin1Char(',')
+               || before.back() == QLatin1Char('-'));
 }
 
 /// The numbers of pages count up like those of chapters, but fall into sentences.
@@ -342,7 +345,8 @@ void PlainTextBook::joinSubtitles()
             continue;
         ++bare[std::size_t(piece.heading->rank)];
         const Piece &next = m_pieces[i + 1];
-        const bool isText = !next.heading && next.last - next.first == 1 && i + 2 < m_pieces.size();
+        const bool hasTextBelow = i + 2 < m_pieces.size() && !m_pieces[i + 2].heading;
+        const bool isText = !next.heading && next.last - next.first == 1 && hasTextBelow;
         if (isText && looksLikeTitle(m_lines[next.first])) {
             ++titled[std::size_t(piece.heading->rank)];
             found.push_back(i);
@@ -440,7 +444,8 @@ ImportedManuscript PlainTextBook::read(const QString &fallbackTitle)
         next.document.body = bodyFrom(++i);
         documents.push_back(std::move(next));
     }
-    return {fallbackTitle, nestDocuments(std::move(documents)), {}};
+    return {
+        fallbackTitle, nestDocuments(std::move(documents)), {}, !before.isEmpty() || !hasHeadings};
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace vl::app {
 
@@ -49,19 +50,23 @@ qsizetype utf8Length(QByteArrayView bytes, qsizetype at)
 struct Utf8Count
 {
     qsizetype good = 0; ///< characters beyond ASCII
-    qsizetype bad = 0;  ///< bytes that belong to none
+    qsizetype bad = 0;  ///< runs of bytes that belong to none
 };
 
 Utf8Count countUtf8(QByteArrayView bytes)
 {
     Utf8Count count;
+    qsizetype badEnd = -1;
     for (qsizetype i = 0; i < bytes.size();) {
         if (uchar(bytes[i]) < 0x80) {
             ++i;
             continue;
         }
         const qsizetype length = utf8Length(bytes, i);
-        ++(length > 0 ? count.good : count.bad);
+        if (length > 0)
+            ++count.good;
+        else if (std::exchange(badEnd, i + 1) != i)
+            ++count.bad;
         i += std::max<qsizetype>(1, length);
     }
     return count;
@@ -105,7 +110,7 @@ std::optional<QStringDecoder::Encoding> utf16WithoutMark(QByteArrayView bytes)
         evenZeros += sample[i] == 0 ? 1 : 0;
         oddZeros += sample[i + 1] == 0 ? 1 : 0;
     }
-    const qsizetype many = std::max<qsizetype>(1, sample.size() / 2 / 10); // a tenth of the pairs
+    const qsizetype many = std::max<qsizetype>(3, sample.size() / 2 / 10); // a tenth of the pairs
     if (oddZeros >= many && evenZeros * 20 <= oddZeros)
         return QStringDecoder::Utf16LE;
     if (evenZeros >= many && oddZeros * 20 <= evenZeros)
@@ -156,8 +161,7 @@ QString fromBytes(QByteArrayView bytes)
         return decoder.decode(bytes);
     }
     const Utf8Count count = countUtf8(bytes);
-    return count.bad == 0 || count.good > count.bad ? fromDamagedUtf8(bytes)
-                                                    : fromSingleBytes(bytes);
+    return count.good >= count.bad ? fromDamagedUtf8(bytes) : fromSingleBytes(bytes);
 }
 
 } // namespace
