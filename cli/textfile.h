@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/base/result.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace vl::cli {
+
+/// Reads a file, or standard input when the path is "-" or empty. Fails with the storage layer's
+/// message.
+app::Result<QByteArray> readInput(const QString &path);
+
+/// The same as text: UTF-8 with or without a byte-order mark, bytes that are none as U+FFFD.
+app::Result<QString> readInputText(const QString &path);
+
+} // namespace vl::cli
