@@ -184,7 +184,7 @@ void TestHealth::report()
         QStringLiteral("- **Dialogue:** 2 words (11.8%)\n- **Narration:** 15 words (88.2%)\n"),
         QStringLiteral("- **Most dialogue:** One \\| %2 (28.6%)\n"),
         QStringLiteral("- **Sentences:** 4\n- **Words in a sentence:** 4.3\n"),
-        QStringLiteral("| Ada | 2 | 9 | 52.9% | 4 | 2 |\n| Bo | 1 | 8 | 47.1% | 8 | 1 |\n"),
+        QStringLiteral("| Ada | 2 | 9 | 52.9% | 5 | 2 |\n| Bo | 1 | 8 | 47.1% | 8 | 1 |\n"),
         QStringLiteral("\n\n## Writing style\n\nNo style issues flagged.\n\n## World coverage\n"),
         QStringLiteral("### People\n\n| Entity | Mentions | Scenes | First scene | Last scene |\n"
                        "| --- | ---: | ---: | --- | --- |\n| B\\_o | 3 | 2 | One \\| %2 | Three |\n"
