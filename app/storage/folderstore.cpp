@@ -44,7 +44,8 @@ enum class Standing
 
 Standing standing(const QString &folder, const FolderSave::Target &target)
 {
-    const Result<QByteArray> bytes = readRegularFile(folder + u'/' + target.path, QString());
+    const Result<QByteArray> bytes =
+        readRegularFile(folder + u'/' + target.path, QStringLiteral("%1"));
     if (!bytes)
         return Standing::Missing;
     if (*bytes == target.bytes)

@@ -44,7 +44,7 @@ public:
             QStringLiteral("\U0001F409 dragon"),
             QStringLiteral("bell\a"),
             QStringLiteral("a & b < c / d"),
-            QString(QChar(0xFEFF)) + QStringLiteral("marked"),
+            QStringLiteral("half ") + QChar(0xD83D) + QStringLiteral(" a pair"),
         };
         return words[below(int(std::size(words)))] + QString::number(below(1000));
     }
