@@ -21,6 +21,12 @@ constexpr qsizetype mixedSize = 10'000'000; // UTF-16 units
 class MixedMarkdown
 {
 public:
+    /// In dense text every few words are marked, else every third piece of some dozen words.
+    explicit MixedMarkdown(bool isDense)
+        : m_isDense(isDense)
+    {
+    }
+
     QString make()
     {
         m_text.reserve(mixedSize + 4000);
@@ -88,8 +94,8 @@ private:
         for (; count > 0; --count) {
             m_text += start;
             for (int pieces = 1 + m_random.bounded(6); pieces > 0; --pieces) {
-                words(6 + m_random.bounded(14));
-                if (m_random.bounded(3) == 0)
+                words(m_isDense ? 2 + m_random.bounded(4) : 6 + m_random.bounded(14));
+                if (m_isDense || m_random.bounded(3) == 0)
                     marked();
             }
             m_text += u'\n';
@@ -122,6 +128,7 @@ private:
     QRandomGenerator m_random{1605};
     QString m_text;
     int m_footnotes = 0;
+    bool m_isDense;
 };
 
 std::string renderedByMd4c(const QByteArray &markdown)
@@ -143,9 +150,9 @@ double median(std::vector<double> values)
 }
 
 /// Both renderers by turns on ten million units of mixed Markdown; the counters hold the medians.
-void mixedAgainstMd4c(benchmark::State &state)
+void mixedAgainstMd4c(benchmark::State &state, bool isDense)
 {
-    const QString text = MixedMarkdown().make();
+    const QString text = MixedMarkdown(isDense).make();
     const QByteArray utf8 = text.toUtf8();
     std::vector<double> ours;
     std::vector<double> md4c;
@@ -183,7 +190,8 @@ void wideSeparator(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(mixedAgainstMd4c)->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(mixedAgainstMd4c, mixed, false)->Iterations(5)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(mixedAgainstMd4c, dense, true)->Iterations(5)->Unit(benchmark::kMillisecond);
 BENCHMARK(wideSeparator)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(hostile, brackets, u"[", u"")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(hostile, asterisks, u"*", u"a")->Unit(benchmark::kMillisecond);
