@@ -25,6 +25,25 @@ using core::TimelineEvent;
 
 namespace {
 
+/// Has the memory of the objects that come next brought near: most of the checks' time would go
+/// into waiting for it.
+void fetchSoon(const std::vector<const core::ContentObject *> &objects, size_t current)
+{
+    constexpr size_t lineSize = 64;
+    constexpr size_t objectsAhead = 16;
+    constexpr size_t participantsAhead = 8;
+    if (current + objectsAhead < objects.size()) {
+        const auto *begin = reinterpret_cast<const char *>(objects[current + objectsAhead]);
+        for (size_t offset = 0; offset < sizeof(TimelineEvent); offset += lineSize)
+            __builtin_prefetch(begin + offset);
+    }
+    if (current + participantsAhead < objects.size()) {
+        const auto *event = core::contentCast<TimelineEvent>(objects[current + participantsAhead]);
+        if (event)
+            __builtin_prefetch(event->data().participants.constData());
+    }
+}
+
 /// One run of the checks over the events of a project. Entities that events and routes name are
 /// numbered in the order of their ids; events by their place in the project.
 class TimelineCheck
@@ -50,6 +69,12 @@ private:
         size_t participantsEnd = 0; ///< where its stretch of m_participants ends
     };
 
+    struct Journey
+    {
+        const Entity *participant = nullptr;
+        EventPair events;
+    };
+
     void collect();
     int number(const ContentId &id);
     const Entity *resolve(const ContentId &id) const;
@@ -58,14 +83,13 @@ private:
     void indexParticipants();
 
     void checkReferences();
-    void checkPlaces(EventPairFinder &finder);
+    void checkPairs(const TravelTable &routes);
     void checkLifespans();
-    void checkTravel(EventPairFinder &finder);
+    void tellJourneys();
     void checkConstraints();
     void checkConstraint(const Event &event, const EventConstraint &constraint, const Event &other);
 
     std::span<const int> participants(size_t event) const;
-    void placedEventsOf(size_t entity, std::vector<PlacedEvent> &placed) const;
     PlacedEvent placed(int event) const;
     QString title(const Event &event) const;
     bool isFull() const { return m_conflicts.size() >= m_limit; }
@@ -77,13 +101,16 @@ private:
     QList<TimelineConflict> m_conflicts;
 
     std::vector<Event> m_events;
-    std::vector<int> m_participants; ///< of all events, each once an event, in order
+    std::vector<ContentId> m_eventIds; ///< by event, ascending
+    std::vector<int> m_constrained;    ///< the events that have constraints
+    std::vector<int> m_participants;   ///< of all events, each once an event, in order
     std::vector<TravelTable::Route> m_routes;
     QHash<ContentId, int> m_numbers;
     std::vector<ContentId> m_ids;
     std::vector<const Entity *> m_entities; ///< by number; null where the id leads nowhere
-    std::vector<int> m_eventsOf;            ///< of all entities, in event order
-    std::vector<size_t> m_eventsOfBegin;    ///< by entity, and the end of the last
+    std::vector<PlacedEvent> m_placed;      ///< of all participants that exist
+    std::vector<size_t> m_placedBegin;      ///< by entity, and the end of the last
+    std::vector<Journey> m_journeys;        ///< that no route allows in time
 };
 
 TimelineCheck::TimelineCheck(const Project &project, const QList<const Project *> &mounted,
@@ -100,14 +127,11 @@ QList<TimelineConflict> TimelineCheck::run()
     numberInIdOrder();
     sortParticipants();
     indexParticipants();
-    const TravelTable routes(m_routes, int(m_ids.size()));
-    EventPairFinder finder(routes, int(m_ids.size()));
 
     checkReferences();
-    checkPlaces(finder);
+    checkPairs(TravelTable(m_routes, int(m_ids.size())));
     checkLifespans();
-    if (!routes.isEmpty())
-        checkTravel(finder);
+    tellJourneys();
     checkConstraints();
     return std::move(m_conflicts);
 }
@@ -163,12 +187,20 @@ void TimelineCheck::collect()
                 m_participants.push_back(number(id));
         }
         entry.participantsEnd = m_participants.size();
+        if (!data.constraints.isEmpty())
+            m_constrained.push_back(int(m_events.size()));
         m_events.push_back(entry);
+        m_eventIds.push_back(event.id());
     };
-    for (const auto &[id, object] : m_project.objects()) {
-        if (const auto *event = core::contentCast<TimelineEvent>(object.get()))
+    std::vector<const core::ContentObject *> objects;
+    objects.reserve(size_t(m_project.size()));
+    for (const auto &[id, object] : m_project.objects())
+        objects.push_back(object.get());
+    for (size_t i = 0; i < objects.size(); ++i) {
+        fetchSoon(objects, i);
+        if (const auto *event = core::contentCast<TimelineEvent>(objects[i]))
             addEvent(*event);
-        else if (const auto *map = core::contentCast<core::Map>(object.get()))
+        else if (const auto *map = core::contentCast<core::Map>(objects[i]))
             addRoutes(*map);
     }
 }
@@ -217,19 +249,28 @@ void TimelineCheck::sortParticipants()
     m_participants.erase(kept, m_participants.end());
 }
 
+/// Lists the events that have a place by participant, in event order.
 void TimelineCheck::indexParticipants()
 {
-    m_eventsOfBegin.assign(m_entities.size() + 1, 0);
-    for (const int participant : m_participants)
-        ++m_eventsOfBegin[size_t(participant) + 1];
-    for (size_t i = 1; i < m_eventsOfBegin.size(); ++i)
-        m_eventsOfBegin[i] += m_eventsOfBegin[i - 1];
-    m_eventsOf.resize(m_participants.size());
-    std::vector<size_t> next = m_eventsOfBegin;
-    for (size_t i = 0; i < m_events.size(); ++i) {
-        for (const int participant : participants(i))
-            m_eventsOf[next[size_t(participant)]++] = int(i);
-    }
+    m_placedBegin.assign(m_entities.size() + 1, 0);
+    const auto forEach = [this](auto use) {
+        for (size_t i = 0; i < m_events.size(); ++i) {
+            if (m_events[i].place < 0)
+                continue;
+            for (const int participant : participants(i)) {
+                if (m_entities[size_t(participant)])
+                    use(size_t(participant), int(i));
+            }
+        }
+    };
+    forEach([this](size_t participant, int) { ++m_placedBegin[participant + 1]; });
+    for (size_t i = 1; i < m_placedBegin.size(); ++i)
+        m_placedBegin[i] += m_placedBegin[i - 1];
+    m_placed.resize(m_placedBegin.back());
+    std::vector<size_t> next = m_placedBegin;
+    forEach([this, &next](size_t participant, int event) {
+        m_placed[next[participant]++] = placed(event);
+    });
 }
 
 std::span<const int> TimelineCheck::participants(size_t event) const
@@ -242,16 +283,6 @@ PlacedEvent TimelineCheck::placed(int event) const
 {
     const Event &entry = m_events[size_t(event)];
     return {entry.interval, entry.place, event};
-}
-
-/// The events of an entity that have a place, in event order.
-void TimelineCheck::placedEventsOf(size_t entity, std::vector<PlacedEvent> &placedEvents) const
-{
-    placedEvents.clear();
-    for (size_t i = m_eventsOfBegin[entity]; i < m_eventsOfBegin[entity + 1]; ++i) {
-        if (m_events[size_t(m_eventsOf[i])].place >= 0)
-            placedEvents.push_back(placed(m_eventsOf[i]));
-    }
 }
 
 QString TimelineCheck::title(const Event &event) const
@@ -281,13 +312,16 @@ void TimelineCheck::checkReferences()
     }
 }
 
-void TimelineCheck::checkPlaces(EventPairFinder &finder)
+/// Looks for both sorts of contradicting pairs while a participant's events are at hand; those that
+/// are too far apart are told later.
+void TimelineCheck::checkPairs(const TravelTable &routes)
 {
-    std::vector<PlacedEvent> events;
+    EventPairFinder finder(routes, int(m_ids.size()));
     for (size_t entity = 0; entity < m_entities.size() && !isFull(); ++entity) {
-        if (!m_entities[entity])
+        const std::span events = std::span(m_placed).subspan(
+            m_placedBegin[entity], m_placedBegin[entity + 1] - m_placedBegin[entity]);
+        if (events.size() < 2)
             continue;
-        placedEventsOf(entity, events);
         for (const auto &[i, j] :
              finder.inTwoPlaces(events, size_t(m_limit - m_conflicts.size()))) {
             const Event &first = m_events[size_t(i)];
@@ -296,6 +330,11 @@ void TimelineCheck::checkPlaces(EventPairFinder &finder)
                     .arg(nameOf(m_entities[entity]), title(first), title(second)),
                 {first.event->id(), second.event->id()});
         }
+        if (routes.isEmpty())
+            continue;
+        for (const EventPair &pair :
+             finder.tooFarApart(events, size_t(m_limit) - m_journeys.size()))
+            m_journeys.push_back({m_entities[entity], pair});
     }
 }
 
@@ -319,45 +358,36 @@ void TimelineCheck::checkLifespans()
     }
 }
 
-void TimelineCheck::checkTravel(EventPairFinder &finder)
+void TimelineCheck::tellJourneys()
 {
-    std::vector<PlacedEvent> events;
-    for (size_t entity = 0; entity < m_entities.size() && !isFull(); ++entity) {
-        if (!m_entities[entity])
-            continue;
-        placedEventsOf(entity, events);
-        for (const auto &[i, j] :
-             finder.tooFarApart(events, size_t(m_limit - m_conflicts.size()))) {
-            const bool isInOrder = earlierOf(placed(i), placed(j)).event == i;
-            const Event &earlier = m_events[size_t(isInOrder ? i : j)];
-            const Event &later = m_events[size_t(isInOrder ? j : i)];
-            add(tr("%1 cannot travel from %2 to %3 in time between \"%4\" and \"%5\".")
-                    .arg(nameOf(m_entities[entity]), nameOf(m_entities[size_t(earlier.place)]),
-                         nameOf(m_entities[size_t(later.place)]), title(earlier), title(later)),
-                {earlier.event->id(), later.event->id()});
-        }
+    for (const Journey &journey : m_journeys) {
+        if (isFull())
+            return;
+        const auto [i, j] = journey.events;
+        const bool isInOrder = earlierOf(placed(i), placed(j)).event == i;
+        const Event &earlier = m_events[size_t(isInOrder ? i : j)];
+        const Event &later = m_events[size_t(isInOrder ? j : i)];
+        add(tr("%1 cannot travel from %2 to %3 in time between \"%4\" and \"%5\".")
+                .arg(nameOf(journey.participant), nameOf(m_entities[size_t(earlier.place)]),
+                     nameOf(m_entities[size_t(later.place)]), title(earlier), title(later)),
+            {earlier.event->id(), later.event->id()});
     }
 }
 
 void TimelineCheck::checkConstraints()
 {
-    QHash<ContentId, size_t> numbers;
-    const auto hasConstraints = [](const Event &e) {
-        return !e.event->data().constraints.isEmpty();
-    };
-    if (std::none_of(m_events.begin(), m_events.end(), hasConstraints))
-        return;
-    numbers.reserve(qsizetype(m_events.size()));
-    for (size_t i = 0; i < m_events.size(); ++i)
-        numbers.insert(m_events[i].event->id(), i);
-
-    for (const Event &event : m_events) {
+    for (const int number : m_constrained) {
+        const Event &event = m_events[size_t(number)];
         for (const EventConstraint &constraint : event.event->data().constraints) {
-            if (constraint.otherId.isNull() || constraint.otherId == event.event->id())
+            if (constraint.otherId.isNull())
                 continue;
-            const auto other = numbers.constFind(constraint.otherId);
-            if (other != numbers.constEnd())
-                checkConstraint(event, constraint, m_events[*other]);
+            const auto other =
+                std::lower_bound(m_eventIds.begin(), m_eventIds.end(), constraint.otherId);
+            if (other == m_eventIds.end() || *other != constraint.otherId)
+                continue;
+            const auto position = other - m_eventIds.begin();
+            if (position != number)
+                checkConstraint(event, constraint, m_events[size_t(position)]);
         }
     }
 }

@@ -72,7 +72,7 @@ void EventPairFinder::addPair(const PlacedEvent &a, const PlacedEvent &b)
 
 /// Compares all pairs, in their order, until the limit is reached.
 template<typename Check>
-void EventPairFinder::compareAll(const std::vector<PlacedEvent> &events, size_t limit, Check check)
+void EventPairFinder::compareAll(std::span<const PlacedEvent> events, size_t limit, Check check)
 {
     m_pairs.clear();
     for (size_t i = 0; i < events.size(); ++i) {
@@ -88,7 +88,7 @@ void EventPairFinder::compareAll(const std::vector<PlacedEvent> &events, size_t 
 /// Puts the pairs that were found in order. More than the limit are found again from the beginning:
 /// those that come first are wanted, not those that were met first.
 template<typename Check>
-const std::vector<EventPair> &EventPairFinder::finish(const std::vector<PlacedEvent> &events,
+const std::vector<EventPair> &EventPairFinder::finish(std::span<const PlacedEvent> events,
                                                       size_t limit, Check check)
 {
     if (m_pairs.size() > limit)
@@ -98,7 +98,7 @@ const std::vector<EventPair> &EventPairFinder::finish(const std::vector<PlacedEv
     return m_pairs;
 }
 
-const std::vector<EventPair> &EventPairFinder::inTwoPlaces(const std::vector<PlacedEvent> &events,
+const std::vector<EventPair> &EventPairFinder::inTwoPlaces(std::span<const PlacedEvent> events,
                                                            size_t limit)
 {
     if (events.size() <= fewEvents) {
@@ -106,7 +106,7 @@ const std::vector<EventPair> &EventPairFinder::inTwoPlaces(const std::vector<Pla
         return m_pairs;
     }
     m_pairs.clear();
-    m_byStart = events;
+    m_byStart.assign(events.begin(), events.end());
     std::sort(m_byStart.begin(), m_byStart.end(), [](const PlacedEvent &a, const PlacedEvent &b) {
         const qint64 first = firstMinute(a);
         const qint64 second = firstMinute(b);
@@ -191,7 +191,7 @@ void EventPairFinder::deactivateAll()
 }
 
 /// Whether a route joins two of the places at which the events happen.
-bool EventPairFinder::areJoined(const std::vector<PlacedEvent> &events)
+bool EventPairFinder::areJoined(std::span<const PlacedEvent> events)
 {
     for (const PlacedEvent &event : events)
         mark(event.place);
@@ -206,9 +206,9 @@ bool EventPairFinder::areJoined(const std::vector<PlacedEvent> &events)
     return isJoined;
 }
 
-void EventPairFinder::groupByPlace(const std::vector<PlacedEvent> &events)
+void EventPairFinder::groupByPlace(std::span<const PlacedEvent> events)
 {
-    m_byStart = events;
+    m_byStart.assign(events.begin(), events.end());
     std::sort(m_byStart.begin(), m_byStart.end(), [](const PlacedEvent &a, const PlacedEvent &b) {
         if (a.place != b.place)
             return a.place < b.place;
@@ -232,7 +232,7 @@ void EventPairFinder::groupByPlace(const std::vector<PlacedEvent> &events)
     }
 }
 
-const std::vector<EventPair> &EventPairFinder::tooFarApart(const std::vector<PlacedEvent> &events,
+const std::vector<EventPair> &EventPairFinder::tooFarApart(std::span<const PlacedEvent> events,
                                                            size_t limit)
 {
     m_pairs.clear();

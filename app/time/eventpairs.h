@@ -3,6 +3,7 @@
 #include "app/time/interval.h"
 #include "app/time/traveltable.h"
 
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -40,10 +41,10 @@ public:
 
     /// The pairs in two places at once, in ascending order, at most `limit` of them. The events
     /// come in the order of their numbers. The list stays good until the next call.
-    const std::vector<EventPair> &inTwoPlaces(const std::vector<PlacedEvent> &events, size_t limit);
+    const std::vector<EventPair> &inTwoPlaces(std::span<const PlacedEvent> events, size_t limit);
 
     /// The pairs too far apart for their routes, likewise.
-    const std::vector<EventPair> &tooFarApart(const std::vector<PlacedEvent> &events, size_t limit);
+    const std::vector<EventPair> &tooFarApart(std::span<const PlacedEvent> events, size_t limit);
 
 private:
     /// The events at one place, as stretches of m_byStart and m_byEnd.
@@ -57,17 +58,17 @@ private:
 
     void addPair(const PlacedEvent &a, const PlacedEvent &b);
     template<typename Check>
-    void compareAll(const std::vector<PlacedEvent> &events, size_t limit, Check check);
+    void compareAll(std::span<const PlacedEvent> events, size_t limit, Check check);
     template<typename Check>
-    const std::vector<EventPair> &finish(const std::vector<PlacedEvent> &events, size_t limit,
+    const std::vector<EventPair> &finish(std::span<const PlacedEvent> events, size_t limit,
                                          Check check);
     void sweep(size_t limit);
     void meetActive(const PlacedEvent &event);
     void activate(const PlacedEvent &event);
     void mark(int place);
     void deactivateAll();
-    bool areJoined(const std::vector<PlacedEvent> &events);
-    void groupByPlace(const std::vector<PlacedEvent> &events);
+    bool areJoined(std::span<const PlacedEvent> events);
+    void groupByPlace(std::span<const PlacedEvent> events);
     void travel(const Group &few, const Group &many, double minutes, size_t limit);
     void compareReversed(const Group &group, const Group &other, size_t limit);
 
