@@ -154,25 +154,6 @@ void removeCategory(benchmark::State &state)
 }
 BENCHMARK(removeCategory);
 
-/// The step that the user takes: the entities of the category move up in the same group.
-void removeCategoryWithItsEntities(benchmark::State &state)
-{
-    World &all = world();
-    CommandStack stack;
-    for (auto _ : state) {
-        const ContentId category = all.categories.back();
-        const ContentId above = all.project.taxonomy().find(category)->parentId;
-        stack.beginMacro(QStringLiteral("Remove category"));
-        for (const ContentId &id : all.entities)
-            if (auto *entity = all.project.find<Entity>(id); entity->categoryId() == category)
-                stack.push(std::make_unique<SetEntityCategoryCommand>(*entity, above));
-        stack.push(std::make_unique<RemoveCategoryCommand>(all.project, category));
-        stack.endMacro();
-        stack.undo();
-    }
-}
-BENCHMARK(removeCategoryWithItsEntities);
-
 void moveTask(benchmark::State &state)
 {
     run(state, [](World &all) {

@@ -17,8 +17,25 @@ struct Texts
 
 // Name, usage, help, function.
 const CommandRow rows[] = {
-    {"render", "[FILE]", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Turn Markdown into HTML"),
-     runRender},
+    {"info", "PROJECT [--json]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Count what a project holds"), runInfo},
+    {"validate", "PROJECT", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Tell whether a project loads"),
+     runValidate},
+    {"render", "[FILE]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Turn Markdown into an HTML fragment"), runRender},
+    {"style", "[FILE|PROJECT] [--json]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Check the style of a text, or of a project"),
+     runStyle},
+    {"health", "PROJECT [--format FORMAT]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue",
+                       "Report how the manuscript stands, as “markdown” or “html”"),
+     runHealth},
+    {"export",
+     "FORMAT PROJECT --output FILE [--title TITLE] [--author NAME] [--contact TEXT] "
+     "[--pen-name NAME]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Write the manuscript as “rtf”"), runExport},
+    {"batch", "", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Answer JSON requests, one a line"),
+     runBatch},
 };
 
 QString programName()

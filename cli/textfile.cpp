@@ -1,6 +1,7 @@
 #include "cli/textfile.h"
 
 #include "app/base/files.h"
+#include "cli/console.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
@@ -38,6 +39,16 @@ app::Result<QString> readInputText(const QString &path)
     if (view.startsWith("\xEF\xBB\xBF"))
         view = view.sliced(3);
     return QString::fromUtf8(view);
+}
+
+app::Result<> writeOutput(const QString &path, const QByteArray &bytes, Console &console)
+{
+    if (path != QLatin1String("-"))
+        return app::writeFile(
+            path, bytes,
+            {Texts::tr("Cannot write file: %1"), Texts::tr("Failed to write file: %1")});
+    console.writeBytes(bytes);
+    return {};
 }
 
 } // namespace vl::cli

@@ -14,4 +14,8 @@ app::Result<QByteArray> readInput(const QString &path);
 /// The same as text: UTF-8 with or without a byte-order mark, bytes that are none as U+FFFD.
 app::Result<QString> readInputText(const QString &path);
 
+class Console;
+/// Replaces a file as a whole, or writes to standard output when the path is "-".
+app::Result<> writeOutput(const QString &path, const QByteArray &bytes, Console &console);
+
 } // namespace vl::cli

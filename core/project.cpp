@@ -2,6 +2,18 @@
 
 namespace vl::core {
 
+namespace {
+
+/// The place of an id in a list of objects that stand in id order.
+auto placeOf(std::vector<ContentObject *> &objects, const ContentId &id)
+{
+    return std::lower_bound(
+        objects.begin(), objects.end(), id,
+        [](const ContentObject *object, const ContentId &wanted) { return object->id() < wanted; });
+}
+
+} // namespace
+
 Project::Project() = default;
 Project::~Project() = default;
 
@@ -15,6 +27,11 @@ bool Project::add(std::unique_ptr<ContentObject> &&object)
     if (place != m_objects.end() && place->first == added->id())
         return false;
     m_objects.emplace_hint(place, added->id(), std::move(object));
+    std::vector<ContentObject *> &sameKind = m_byKind.at(std::size_t(added->kind()));
+    if (sameKind.empty() || sameKind.back()->id() < added->id())
+        sameKind.push_back(added);
+    else
+        sameKind.insert(placeOf(sameKind, added->id()), added);
     if (auto *document = contentCast<Document>(added))
         m_documentTree.insert(*document);
     return true;
@@ -27,6 +44,8 @@ std::unique_ptr<ContentObject> Project::take(const ContentId &id)
         return nullptr;
     std::unique_ptr<ContentObject> object = std::move(found->second);
     m_objects.erase(found);
+    std::vector<ContentObject *> &sameKind = m_byKind.at(std::size_t(object->kind()));
+    sameKind.erase(placeOf(sameKind, id));
     if (auto *document = contentCast<Document>(object.get()))
         m_documentTree.remove(*document);
     return object;

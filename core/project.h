@@ -8,6 +8,8 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
+#include <array>
 #include <map>
 #include <memory>
 #include <set>
@@ -44,10 +46,10 @@ public:
     template<typename T>
     std::vector<T *> all() const
     {
-        std::vector<T *> list;
-        for (const auto &[id, object] : m_objects)
-            if (T *cast = contentCast<T>(object.get()))
-                list.push_back(cast);
+        const std::vector<ContentObject *> &objects = m_byKind.at(std::size_t(T::staticKind));
+        std::vector<T *> list(objects.size());
+        std::transform(objects.begin(), objects.end(), list.begin(),
+                       [](ContentObject *object) { return static_cast<T *>(object); });
         return list;
     }
     /// All objects by id.
@@ -120,6 +122,8 @@ public:
 private:
     DocumentTree m_documentTree; ///< outlives the documents, which tell it of their moves
     std::map<ContentId, std::unique_ptr<ContentObject>> m_objects;
+    /// The same objects apart by kind, in id order; the few tasks are found among all the scenes.
+    std::array<std::vector<ContentObject *>, contentKindTexts.size()> m_byKind;
     Taxonomy m_taxonomy;
     std::set<ContentId> m_pinned;
     QList<SavedSearch> m_savedSearches;

@@ -39,8 +39,8 @@ public:
     MarkdownFootnote *numbered(QStringView id);
 
 private:
-    void collectDefinitions(const std::vector<qsizetype> &marks);
-    void numberReferences(const std::vector<qsizetype> &marks);
+    void collectDefinitions();
+    void numberReferences();
 
     QStringView m_text;
     std::vector<TextRange> m_definitionLines;

@@ -36,13 +36,12 @@ private:
     };
     struct Mark
     {
-        qsizetype place = 0; ///< counted from the start of the working text
+        qsizetype place = 0;
         Role role = Role::Text;
     };
 
     QStringView working() const { return m_out.from(m_start); }
-    void replaceWorking(qsizetype first, qsizetype copied);
-    void dropMarksFrom(qsizetype place);
+    void replaceWorking(qsizetype copied);
 
     void escapeAndShieldCode(QStringView text);
     void appendSpecial(char16_t c);
@@ -52,11 +51,10 @@ private:
     void replaceTargets(Target kind);
     QStringView checkedUrl(QStringView url, Target kind);
 
-    void collectMarks(qsizetype first);
+    void collectMarks(QStringView text);
     static void pairDoubled(std::vector<Mark> &marks);
     static void pairSingle(std::vector<Mark> &marks);
     void finish();
-    qsizetype firstToFinish() const;
     void appendTag(Role role, bool isTilde);
     void appendRestored(QStringView text, HtmlSink &to) const;
     void appendUnescaped(QStringView text, HtmlSink &to) const;
@@ -70,8 +68,6 @@ private:
     unsigned m_seen = 0;   // which marks the working text may hold
     std::vector<char16_t> m_escapes;
     std::vector<TextRange> m_codes; // in m_codeText
-    // What the first pass saw in the working text; valid until a reference or target is replaced.
-    std::vector<qsizetype> m_brackets;
     std::vector<Mark> m_asterisks;
     std::vector<Mark> m_tildes;
 };

@@ -6,6 +6,12 @@
 namespace vl::cli {
 
 // What the rows of the catalogue run; each in a file of its name.
+ExitStatus runBatch(const Arguments &arguments, Console &console);
+ExitStatus runExport(const Arguments &arguments, Console &console);
+ExitStatus runHealth(const Arguments &arguments, Console &console);
+ExitStatus runInfo(const Arguments &arguments, Console &console);
 ExitStatus runRender(const Arguments &arguments, Console &console);
+ExitStatus runStyle(const Arguments &arguments, Console &console);
+ExitStatus runValidate(const Arguments &arguments, Console &console);
 
 } // namespace vl::cli

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/base/result.h"
+#include "app/storage/archive.h"
+#include "core/project.h"
+
+#include <memory>
+#include <optional>
+
+namespace vl::cli {
+
+/// Whether a project at this path is a single file: what stands there decides, and for a path where
+/// nothing stands its ending.
+bool isBundlePath(const QString &path);
+
+/// The folder's or the file's own name, without ".vellum".
+QString projectName(const QString &path);
+
+/// A project that was read and is left as it is: a bundle is read where it lies, without the
+/// working copy that the desktop program has of it.
+class ProjectSource
+{
+public:
+    static app::Result<ProjectSource> open(const QString &path);
+
+    const QString &path() const { return m_path; }
+    core::Project &project() const { return *m_project; }
+    /// The archive of a bundle, null for a folder.
+    const app::Archive *archive() const { return m_archive ? &*m_archive : nullptr; }
+    /// What the project takes on disk, in bytes: the file, or all files in the folder.
+    qint64 bytesOnDisk() const;
+
+private:
+    ProjectSource(QString path, std::unique_ptr<core::Project> project,
+                  std::optional<app::Archive> archive);
+
+    QString m_path;
+    std::unique_ptr<core::Project> m_project;
+    std::optional<app::Archive> m_archive;
+};
+
+} // namespace vl::cli
