@@ -99,6 +99,7 @@ private:
     std::vector<QStringView> m_lines;
     PlainTextLayout m_layout;
     std::vector<Piece> m_pieces;
+    bool m_hasContents = false; ///< a table of contents stands before the first heading
 };
 
 PlainTextBook::PlainTextBook(const QString &text)
@@ -328,6 +329,9 @@ void PlainTextBook::dropContentsRun(std::size_t first, std::size_t last, QHash<q
         --later[keyOf(*m_pieces[i].heading)];
     if (hollow < 3 || again * 2 < keep - first)
         return;
+    m_hasContents = m_hasContents
+                    || std::none_of(m_pieces.begin(), m_pieces.begin() + std::ptrdiff_t(first),
+                                    [](const Piece &piece) { return piece.heading.has_value(); });
     for (std::size_t i = first; i < keep; ++i)
         demote(m_pieces[i]);
 }
@@ -435,6 +439,8 @@ ImportedManuscript PlainTextBook::read(const QString &fallbackTitle)
         front.level = hasHeadings ? levelOf[i] : 0;
         front.document.title = hasHeadings ? PlainTextImport::tr("Front Matter") : fallbackTitle;
         front.document.body = before;
+        if (m_hasContents) // which a manuscript has none of
+            front.document.kind = core::DocumentKind::Note;
         documents.push_back(std::move(front));
     }
     while (i < m_pieces.size()) {

@@ -198,19 +198,20 @@ void TestImport::plainHeadings_data()
         << QByteArray("and so/1/he went/2/away.") << "File=and so\n\n1\n\nhe went\n\n2\n\naway.";
     QTest::newRow("numerals below chapters") << QByteArray("CHAPTER ONE/I/A/II/B/CHAPTER TWO/C")
                                              << "CHAPTER ONE(I=A; II=B); CHAPTER TWO=C";
-    QTest::newRow("contents") << QByteArray("CONTENTS/CHAPTER I/CHAPTER II/CHAPTER III/"
-                                            "CHAPTER I/a/CHAPTER II/b/CHAPTER III/c")
-                              << "Front Matter=CONTENTS\n\nCHAPTER I\n\nCHAPTER II\n\nCHAPTER III; "
-                                 "CHAPTER I=a; CHAPTER II=b; CHAPTER III=c";
+    QTest::newRow("contents")
+        << QByteArray("CONTENTS/CHAPTER I/CHAPTER II/CHAPTER III/"
+                      "CHAPTER I/a/CHAPTER II/b/CHAPTER III/c")
+        << "?Front Matter=CONTENTS\n\nCHAPTER I\n\nCHAPTER II\n\nCHAPTER III; "
+           "CHAPTER I=a; CHAPTER II=b; CHAPTER III=c";
     QTest::newRow("contents with a preface behind")
         << QByteArray("CHAPTER I/CHAPTER II/CHAPTER III/CHAPTER IV/p/CHAPTER I/a/CHAPTER II/b/"
                       "CHAPTER III/c/CHAPTER IV/d")
-        << "Front Matter=CHAPTER I\n\nCHAPTER II\n\nCHAPTER III\n\nCHAPTER IV\n\np; "
+        << "?Front Matter=CHAPTER I\n\nCHAPTER II\n\nCHAPTER III\n\nCHAPTER IV\n\np; "
            "CHAPTER I=a; CHAPTER II=b; CHAPTER III=c; CHAPTER IV=d";
     QTest::newRow("contents with books")
         << QByteArray("BOOK ONE/CHAPTER I/CHAPTER II/BOOK TWO/CHAPTER I/CHAPTER II/"
                       "BOOK ONE/CHAPTER I/a/CHAPTER II/b/BOOK TWO/CHAPTER I/c/CHAPTER II/d")
-        << "Front Matter=BOOK ONE\n\nCHAPTER I\n\nCHAPTER II\n\nBOOK TWO\n\nCHAPTER I\n\n"
+        << "?Front Matter=BOOK ONE\n\nCHAPTER I\n\nCHAPTER II\n\nBOOK TWO\n\nCHAPTER I\n\n"
            "CHAPTER II; BOOK ONE(CHAPTER I=a; CHAPTER II=b); BOOK TWO(CHAPTER I=c; CHAPTER II=d)";
     QTest::newRow("contents in one block")
         << QByteArray("CHAPTER I\nCHAPTER II\nCHAPTER III/CHAPTER I/a")
