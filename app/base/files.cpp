@@ -35,7 +35,8 @@ constexpr int singleSyncs = 8;
 
 QString withPath(const QString &message, const QString &path)
 {
-    return message.arg(QDir::toNativeSeparators(path));
+    // A caller that shows no message hands in none.
+    return message.isEmpty() ? QString() : message.arg(QDir::toNativeSeparators(path));
 }
 
 bool isUnfinishedFileName(const QString &fileName)

@@ -5,6 +5,10 @@
 
 #include <cstring>
 
+#if defined(Q_OS_LINUX)
+#include <sys/mman.h>
+#endif
+
 namespace vl::app {
 
 /// A text that grows at its end, for writers that put out millions of short pieces.
@@ -70,6 +74,19 @@ private:
         m_text.resize(capacity);
         m_data = reinterpret_cast<char16_t *>(m_text.data());
         m_capacity = capacity;
+        wantLargePages();
+    }
+
+    /// For a text of many megabytes a third of the time would go into page faults of 4 KiB each.
+    void wantLargePages() const
+    {
+#if defined(Q_OS_LINUX) && defined(MADV_HUGEPAGE)
+        constexpr quintptr pageSize = 1 << 21;
+        const quintptr first = (quintptr(m_data) + pageSize - 1) & ~(pageSize - 1);
+        const quintptr end = quintptr(m_data + m_capacity) & ~(pageSize - 1);
+        if (end > first)
+            madvise(reinterpret_cast<void *>(first), end - first, MADV_HUGEPAGE);
+#endif
     }
 
     QString m_text; // its size is the capacity until take()

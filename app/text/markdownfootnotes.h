@@ -39,8 +39,8 @@ public:
     MarkdownFootnote *numbered(QStringView id);
 
 private:
-    void collectDefinitions();
-    void numberReferences();
+    void collectDefinitions(const std::vector<qsizetype> &marks);
+    void numberReferences(const std::vector<qsizetype> &marks);
 
     QStringView m_text;
     std::vector<TextRange> m_definitionLines;

@@ -36,12 +36,13 @@ private:
     };
     struct Mark
     {
-        qsizetype place = 0;
+        qsizetype place = 0; ///< counted from the start of the working text
         Role role = Role::Text;
     };
 
     QStringView working() const { return m_out.from(m_start); }
-    void replaceWorking(qsizetype copied);
+    void replaceWorking(qsizetype first, qsizetype copied);
+    void dropMarksFrom(qsizetype place);
 
     void escapeAndShieldCode(QStringView text);
     void appendSpecial(char16_t c);
@@ -51,10 +52,11 @@ private:
     void replaceTargets(Target kind);
     QStringView checkedUrl(QStringView url, Target kind);
 
-    void collectMarks(QStringView text);
+    void collectMarks(qsizetype first);
     static void pairDoubled(std::vector<Mark> &marks);
     static void pairSingle(std::vector<Mark> &marks);
     void finish();
+    qsizetype firstToFinish() const;
     void appendTag(Role role, bool isTilde);
     void appendRestored(QStringView text, HtmlSink &to) const;
     void appendUnescaped(QStringView text, HtmlSink &to) const;
@@ -68,6 +70,8 @@ private:
     unsigned m_seen = 0;   // which marks the working text may hold
     std::vector<char16_t> m_escapes;
     std::vector<TextRange> m_codes; // in m_codeText
+    // What the first pass saw in the working text; valid until a reference or target is replaced.
+    std::vector<qsizetype> m_brackets;
     std::vector<Mark> m_asterisks;
     std::vector<Mark> m_tildes;
 };

@@ -165,7 +165,7 @@ public:
     explicit BlockRenderer(QStringView text)
         : m_footnotes(text)
         , m_lines(text, m_footnotes.definitionLines())
-        , m_out(text.size() + text.size() / 4 + 64)
+        , m_out(text.size() + text.size() / 2 + 64)
         , m_inline(m_out, m_footnotes)
     {
     }

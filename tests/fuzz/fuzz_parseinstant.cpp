@@ -24,7 +24,7 @@ Calendar calendarOf(const QString &text)
     for (const QString &name : text.split(QLatin1Char(';'))) {
         const qint32 length = name.isEmpty() ? 0 : qint32(name[0].unicode()) - 64;
         const bool isHuge = name.size() == 3;
-        calendar.months.append({name, isHuge ? length * 10'000'000 : length});
+        calendar.months.append({name, isHuge ? length * 30'000 : length});
     }
     if (calendar.months.size() % 2 == 0)
         calendar.eraName = calendar.months.takeLast().name;

@@ -138,37 +138,37 @@ void TestMarkdown::renderRandom_data()
                              QStringLiteral("\r\n"), QStringLiteral("\t")};
     QTest::newRow("emphasis and code")
         << split(u"* ** *** ~ ~~ ` `` \\ a b \\* \\` \\~ \uE000 \uE001 \x01 _ <") + blanks << 24
-        << 8000;
+        << 4000;
     QTest::newRow("links and images")
         << split(u"[ ] ( ) ]( ![ [a]( x) ! \\ \\: \\) : / javascript: http: data:image/ # ` `b` "
                  u"* & \" \uE000 \u00A0")
                + blanks
-        << 24 << 8000;
+        << 24 << 4000;
     QTest::newRow("footnotes")
         << split(u"[^a] [^b] [^c] [^a]: [^b]: [^`a`]: [^`a`] [^ ] [ ^ : ! ]( a b ` [^]")
                + QStringList{QStringLiteral("\n[^a]: "), QStringLiteral("\n \u2003[^b]:"),
                              QStringLiteral("[^") + nul + u'0' + nul + u']',
                              QStringLiteral("\n[^") + nul + u'0' + nul + QStringLiteral("]: n")}
                + blanks
-        << 20 << 8000;
+        << 20 << 4000;
     QTest::newRow("blocks")
         << split(u"# ## ####### - * _ --- *** > + 1. a b | ` %1 \u00A0 \u2003 \u2028 \v \f")
                + blanks
                + QStringList{QStringLiteral("# "), QStringLiteral("- "), QStringLiteral("> ")}
-        << 20 << 8000;
+        << 20 << 4000;
     QTest::newRow("tables") << split(u"| || \\| \\ - -- :- -: :-: --- a `b` ` * %1 \u3000")
                                    + QStringList{QStringLiteral("\n|-|-|\n"),
                                                  QStringLiteral("\n:-:|--:\n"),
                                                  QStringLiteral("a|b")}
                                    + blanks
-                            << 24 << 8000;
+                            << 24 << 4000;
     QTest::newRow("any units")
         << split(u"a * ** ` [ ] ( ) \\ ~ ~~ & < > \" | - # ! ^ \uE000 \uE001 \uF8FF \uFFFE \uFFFF "
                  u"\uFFFD \u0085 \U0001F600")
                + QStringList{nul, QString(QChar(0xD83D)), QString(QChar(0xDE00)),
                              QStringLiteral("\x1f")}
                + blanks
-        << 40 << 8000;
+        << 40 << 4000;
 }
 
 static QString randomText(std::mt19937 &random, const QStringList &pieces, int length)

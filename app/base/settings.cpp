@@ -1,0 +1,104 @@
+#include "app/base/settings.h"
+
+#include "app/base/settingskeys.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+namespace vl::app {
+
+namespace {
+
+constexpr qsizetype mostRecentProjects = 8;
+
+QString nameOf(const SettingKey &key)
+{
+    return QString::fromLatin1(key.name);
+}
+
+} // namespace
+
+Settings::Settings()
+    : m_store(std::make_unique<QSettings>())
+{
+}
+
+Settings::Settings(const QString &iniFile)
+    : m_store(std::make_unique<QSettings>(iniFile, QSettings::IniFormat))
+{
+}
+
+QString Settings::text(const SettingKey &key) const
+{
+    return m_store->value(nameOf(key), QString::fromUtf8(key.defaultValue)).toString();
+}
+
+bool Settings::flag(const SettingKey &key) const
+{
+    return text(key) == QLatin1String("true");
+}
+
+void Settings::set(const SettingKey &key, const QString &value)
+{
+    m_store->setValue(nameOf(key), value);
+}
+
+void Settings::set(const SettingKey &key, bool value)
+{
+    set(key, value ? QStringLiteral("true") : QStringLiteral("false"));
+}
+
+QString Settings::text(const QString &key) const
+{
+    return m_store->value(key).toString();
+}
+
+bool Settings::contains(const QString &key) const
+{
+    return m_store->contains(key);
+}
+
+void Settings::set(const QString &key, const QString &value)
+{
+    m_store->setValue(key, value);
+}
+
+void Settings::remove(const QString &key)
+{
+    m_store->remove(key);
+}
+
+QByteArray Settings::bytes(const QString &key) const
+{
+    return m_store->value(key).toByteArray();
+}
+
+void Settings::setBytes(const QString &key, const QByteArray &value)
+{
+    m_store->setValue(key, value);
+}
+
+QStringList Settings::recentProjects() const
+{
+    return text(settings::recentProjects).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void Settings::addRecentProject(const QString &path)
+{
+    if (path.isEmpty())
+        return;
+    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    QStringList list = recentProjects();
+    list.removeAll(absolute);
+    list.prepend(absolute);
+    if (list.size() > mostRecentProjects)
+        list.resize(mostRecentProjects);
+    set(settings::recentProjects, list.join(u'\n'));
+}
+
+void Settings::clearRecentProjects()
+{
+    set(settings::recentProjects, QString());
+}
+
+} // namespace vl::app

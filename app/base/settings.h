@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtCore/QSettings>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <memory>
+
+namespace vl::app {
+
+/// A key of the user's settings with the value that a missing entry stands for.
+struct SettingKey
+{
+    const char *name;
+    const char *defaultValue;
+};
+
+/// The user's settings. Values are texts, booleans "true" and "false".
+class Settings
+{
+public:
+    /// The store of this user and program.
+    Settings();
+    /// A store in a file, for tests.
+    explicit Settings(const QString &iniFile);
+
+    QString text(const SettingKey &key) const;
+    bool flag(const SettingKey &key) const;
+    void set(const SettingKey &key, const QString &value);
+    void set(const SettingKey &key, bool value);
+    /// The entry as it stands, empty when there is none; and whether there is one.
+    QString text(const QString &key) const;
+    bool contains(const QString &key) const;
+    void set(const QString &key, const QString &value);
+    void remove(const QString &key);
+
+    QByteArray bytes(const QString &key) const;
+    void setBytes(const QString &key, const QByteArray &value);
+
+    /// The projects opened last, as absolute paths, the latest first; at most eight.
+    QStringList recentProjects() const;
+    void addRecentProject(const QString &path);
+    void clearRecentProjects();
+
+private:
+    std::unique_ptr<QSettings> m_store;
+};
+
+} // namespace vl::app

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "core/id.h"
+
+#include <QtCore/QAbstractItemModel>
+#include <QtCore/QHash>
+#include <QtCore/QList>
+
+#include <memory>
+#include <vector>
+
+namespace vl::core {
+class ChangeSet;
+class Document;
+} // namespace vl::core
+
+namespace vl::app {
+
+class Workspace;
+
+/// The manuscript tree of the open project. It follows the history row by row and never rebuilds
+/// itself for a change; its setters push commands.
+class DocumentsModel final : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Column
+    {
+        TitleColumn,
+        WordsColumn,
+        StatusColumn,
+        ColumnCount
+    };
+    enum Role
+    {
+        WordsRole = Qt::UserRole, ///< words of the document alone (qlonglong)
+        TreeWordsRole,            ///< words of the document and all below it (qlonglong)
+        IsNoteRole,               ///< whether it is a note, which stands beside the manuscript
+        IsScreenplayRole,
+    };
+
+    explicit DocumentsModel(Workspace &workspace, QObject *parent = nullptr);
+    ~DocumentsModel() override;
+
+    /// The document in a row, the null id for the invisible root; and its row, if it has one.
+    core::ContentId idAt(const QModelIndex &index) const;
+    QModelIndex indexOf(const core::ContentId &id, int column = TitleColumn) const;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+    /// Renames; an empty name, or the present one, is refused.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                         const QModelIndex &parent) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
+
+private:
+    struct Node
+    {
+        core::ContentId id;
+        Node *parent = nullptr;
+        std::vector<std::unique_ptr<Node>> children;
+        qsizetype words = 0;
+        qsizetype treeWords = 0;
+    };
+
+    void reset();
+    void apply(const core::ChangeSet &changes);
+    void removeNode(Node &node);
+    void insertNode(const core::Document &document);
+    void placeNode(Node &node);
+    void adoptLostChildren(Node &node);
+    void refresh(Node &node);
+    void changeWords(Node *node, qsizetype difference);
+    void emitRow(const Node &node, int firstColumn, int lastColumn);
+
+    Node *wantedParent(const core::Document &document) const;
+    /// Where the document belongs among the children, itself not counted.
+    int wantedRow(const core::Document &document, const Node &parent) const;
+    bool standsBefore(const core::Document &a, const core::Document &b) const;
+    Node *nodeAt(const QModelIndex &index) const;
+    static int rowOf(const Node &node);
+    QModelIndex indexOf(const Node &node, int column = TitleColumn) const;
+    const core::Document *document(const Node &node) const;
+
+    Workspace &m_workspace;
+    std::unique_ptr<Node> m_root;
+    QHash<core::ContentId, Node *> m_nodes;
+};
+
+} // namespace vl::app

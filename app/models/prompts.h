@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace vl::app {
+
+/// What a flow asks of the user. The program answers with dialogs, a test with what it likes.
+class Prompts
+{
+public:
+    enum class Unsaved
+    {
+        Save,
+        Discard,
+        Cancel
+    };
+
+    virtual ~Prompts() = default;
+
+    /// What becomes of unsaved work in the project of this name.
+    virtual Unsaved askUnsaved(const QString &projectName) = 0;
+    /// Whether to go on with something that costs work; `action` names the button that does it.
+    virtual bool confirm(const QString &question, const QString &detail, const QString &action) = 0;
+    /// These give an empty path when the user calls it off.
+    virtual QString chooseProjectToOpen() = 0;
+    virtual QString chooseProjectFolderToOpen() = 0;
+    virtual QString chooseBundleToSave(const QString &suggestion) = 0;
+    virtual QString chooseFolderToSave(const QString &suggestion) = 0;
+    /// A short text such as a name; nothing in it when called off.
+    virtual QString askText(const QString &title, const QString &label, const QString &text) = 0;
+    virtual void showError(const QString &title, const QString &message) = 0;
+
+protected:
+    Prompts() = default;
+    Prompts(const Prompts &) = default;
+    Prompts &operator=(const Prompts &) = default;
+};
+
+} // namespace vl::app

@@ -1,0 +1,76 @@
+#include "app/models/workspace.h"
+
+namespace vl::app {
+
+Workspace::Workspace()
+    : m_current(std::make_unique<OpenProject>())
+{
+    listen();
+}
+
+Workspace::~Workspace() = default;
+
+void Workspace::replaceProject(std::unique_ptr<OpenProject> project)
+{
+    Q_ASSERT(project);
+    // Panels still refer to the old project until they heard of the new one.
+    const std::unique_ptr<OpenProject> old = std::exchange(m_current, std::move(project));
+    old->disconnect(this);
+    m_selection.clear();
+    listen();
+    Q_EMIT projectReplaced();
+    Q_EMIT selectionChanged();
+    Q_EMIT historyChanged();
+    Q_EMIT locationChanged();
+}
+
+void Workspace::listen()
+{
+    connect(m_current.get(), &OpenProject::changed, this, [this](const core::ChangeSet &changes) {
+        dropLostSelection(changes);
+        Q_EMIT changed(changes);
+    });
+    connect(m_current.get(), &OpenProject::historyChanged, this, &Workspace::historyChanged);
+    connect(m_current.get(), &OpenProject::locationChanged, this, &Workspace::locationChanged);
+    connect(m_current.get(), &OpenProject::aboutToSave, this, &Workspace::flushRequested);
+}
+
+void Workspace::flush()
+{
+    Q_EMIT flushRequested();
+}
+
+void Workspace::undo()
+{
+    flush();
+    history().undo();
+}
+
+void Workspace::redo()
+{
+    flush();
+    history().redo();
+}
+
+void Workspace::select(const QList<core::ContentId> &ids)
+{
+    if (ids == m_selection)
+        return;
+    m_selection = ids;
+    Q_EMIT selectionChanged();
+}
+
+void Workspace::dropLostSelection(const core::ChangeSet &changes)
+{
+    const auto isLost = [&](const core::ContentId &id) {
+        const auto removedFrom = [&id](const core::ChangeSet::Changes &map) {
+            const auto found = map.find(id);
+            return found != map.end() && found->second == core::ChangeSet::Change::Removed;
+        };
+        return removedFrom(changes.objects()) || removedFrom(changes.categories());
+    };
+    if (m_selection.removeIf(isLost) > 0)
+        Q_EMIT selectionChanged();
+}
+
+} // namespace vl::app

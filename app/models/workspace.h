@@ -1,0 +1,80 @@
+#pragma once
+
+#include "app/storage/openproject.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include <memory>
+
+namespace vl::app {
+
+/// What all panels share: the open project and the objects selected in it.
+class Workspace final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Workspace();
+    ~Workspace() override;
+
+    /// The open project; there is always one, if only an empty one without a place.
+    OpenProject &current() const { return *m_current; }
+    core::Project &project() const { return m_current->project(); }
+    core::CommandStack &history() const { return m_current->history(); }
+    /// Puts another project in place of the present one, which goes.
+    void replaceProject(std::unique_ptr<OpenProject> project);
+
+    /// Runs a command as a step of the history.
+    void push(std::unique_ptr<core::Command> command) { m_current->push(std::move(command)); }
+    template<typename C, typename... Arguments>
+    void push(Arguments &&...arguments)
+    {
+        push(std::make_unique<C>(std::forward<Arguments>(arguments)...));
+    }
+
+    /// Has the editors hand in what is typed and not yet a step of the history.
+    void flush();
+    /// Both flush first, so that what was typed last is what goes first.
+    void undo();
+    void redo();
+
+    /// The selected objects and categories, in the order of the panel that selected them.
+    const QList<core::ContentId> &selection() const { return m_selection; }
+    void select(const QList<core::ContentId> &ids);
+    void select(const core::ContentId &id) { select(QList<core::ContentId>{id}); }
+
+Q_SIGNALS:
+    /// Another project is open: everything shown is to be read anew.
+    void projectReplaced();
+    void changed(const vl::core::ChangeSet &changes);
+    void historyChanged();
+    void locationChanged();
+    void flushRequested();
+    void selectionChanged();
+
+private:
+    void listen();
+    void dropLostSelection(const core::ChangeSet &changes);
+
+    std::unique_ptr<OpenProject> m_current;
+    QList<core::ContentId> m_selection;
+};
+
+/// Opens a group of the history for the life of this object.
+class MacroScope
+{
+public:
+    MacroScope(Workspace &workspace, const QString &label)
+        : m_history(workspace.history())
+    {
+        m_history.beginMacro(label);
+    }
+    ~MacroScope() { m_history.endMacro(); }
+    Q_DISABLE_COPY_MOVE(MacroScope)
+
+private:
+    core::CommandStack &m_history;
+};
+
+} // namespace vl::app

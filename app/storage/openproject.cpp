@@ -1,0 +1,203 @@
+#include "app/storage/openproject.h"
+
+#include "app/storage/projectstore.h"
+
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QFutureWatcher>
+
+namespace vl::app {
+
+/// A save on its way, and the state of the history that it holds.
+struct OpenProject::RunningSave
+{
+    explicit RunningSave(ProjectStore &store)
+        : store(store)
+    {
+    }
+
+    ProjectStore &store;
+    std::unique_ptr<PendingSave> pending;
+    core::ChangeSet touched; ///< unsaved again when the save fails
+    qsizetype cleanIndex = 0;
+    quint64 branch = 0;
+    QFutureWatcher<Result<>> watcher;
+};
+
+OpenProject::OpenProject()
+    : OpenProject(std::make_unique<core::Project>(), nullptr)
+{
+}
+
+OpenProject::OpenProject(std::unique_ptr<core::Project> project,
+                         std::unique_ptr<ProjectStore> store)
+    : m_project(std::move(project))
+    , m_store(std::move(store))
+{
+    listen();
+}
+
+OpenProject::~OpenProject()
+{
+    if (m_running)
+        m_running->watcher.waitForFinished();
+    m_history.setListener(nullptr);
+}
+
+void OpenProject::listen()
+{
+    m_history.setListener([this](const core::ChangeSet &changes) {
+        if (!changes.isEmpty()) {
+            m_unsaved.append(changes);
+            Q_EMIT changed(changes);
+        }
+        Q_EMIT historyChanged();
+    });
+}
+
+Result<std::unique_ptr<OpenProject>> OpenProject::open(const QString &path)
+{
+    Result<OpenedStore> opened = openStore(path);
+    if (!opened)
+        return opened.asFailure();
+    return std::unique_ptr<OpenProject>(
+        new OpenProject(std::move(opened->project), std::move(opened->store)));
+}
+
+QString OpenProject::path() const
+{
+    return m_store ? m_store->path() : QString();
+}
+
+bool OpenProject::isBundle() const
+{
+    return m_store && m_store->isBundle();
+}
+
+QString OpenProject::folder() const
+{
+    return m_store ? m_store->folder() : QString();
+}
+
+QString OpenProject::name() const
+{
+    if (!m_store)
+        return tr("Untitled");
+    const QFileInfo info(m_store->path());
+    return m_store->isBundle() ? info.completeBaseName() : info.fileName();
+}
+
+std::unique_ptr<OpenProject::RunningSave> OpenProject::beginSave(ProjectStore &store,
+                                                                 bool everything)
+{
+    auto save = std::make_unique<RunningSave>(store);
+    save->pending = store.prepare(*m_project, everything ? nullptr : &m_unsaved);
+    save->touched = std::exchange(m_unsaved, {});
+    save->cleanIndex = m_history.undoCount();
+    save->branch = m_history.branch();
+    return save;
+}
+
+Result<> OpenProject::endSave(RunningSave &save, const Result<> &result)
+{
+    save.store.finished(*save.pending, bool(result));
+    if (!result) {
+        save.touched.append(m_unsaved);
+        m_unsaved = std::move(save.touched);
+        Q_EMIT saveFailed(result.message());
+        return result;
+    }
+    // Steps thrown away meanwhile may have been those that led to the saved state.
+    m_history.setCleanIndex(save.branch == m_history.branch() ? save.cleanIndex : -1);
+    Q_EMIT saved();
+    return result;
+}
+
+Result<> OpenProject::save(OutsideChanges outside)
+{
+    Q_EMIT aboutToSave();
+    finishSaving();
+    if (!m_store)
+        return failure(tr("This project has no save location yet; use saveAs()."));
+    const std::unique_ptr<RunningSave> save = beginSave(*m_store, false);
+    return endSave(*save, save->pending->commit(outside));
+}
+
+void OpenProject::saveInBackground()
+{
+    Q_EMIT aboutToSave();
+    if (!m_store) {
+        Q_EMIT saveFailed(tr("This project has no save location yet; use saveAs()."));
+        return;
+    }
+    if (m_running) {
+        m_savesAgain = true;
+        return;
+    }
+    m_running = beginSave(*m_store, false);
+    connect(&m_running->watcher, &QFutureWatcherBase::finished, this,
+            &OpenProject::backgroundSaveEnded);
+    m_running->watcher.setFuture(QtConcurrent::run(
+        [pending = m_running->pending.get()] { return pending->commit(OutsideChanges::Refuse); }));
+}
+
+void OpenProject::backgroundSaveEnded()
+{
+    if (!m_running)
+        return; // it was waited for
+    const std::unique_ptr<RunningSave> ended = std::move(m_running);
+    const Result<> result = endSave(*ended, ended->watcher.result());
+    if (std::exchange(m_savesAgain, false) && result && isDirty())
+        saveInBackground();
+}
+
+void OpenProject::finishSaving()
+{
+    while (m_running) {
+        m_running->watcher.waitForFinished();
+        backgroundSaveEnded();
+    }
+}
+
+bool OpenProject::meetsOutsideChanges()
+{
+    return m_store && m_store->prepare(*m_project, &m_unsaved)->meetsOutsideChanges();
+}
+
+Result<> OpenProject::saveAsBundle(const QString &path)
+{
+    Q_EMIT aboutToSave();
+    finishSaving();
+    Result<std::unique_ptr<ProjectStore>> store = newBundleStore(path, folder());
+    return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
+}
+
+Result<> OpenProject::saveAsFolder(const QString &folder)
+{
+    Q_EMIT aboutToSave();
+    finishSaving();
+    Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, this->folder());
+    return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
+}
+
+Result<> OpenProject::saveInto(std::unique_ptr<ProjectStore> store)
+{
+    const std::unique_ptr<RunningSave> save = beginSave(*store, true);
+    const Result<> result = save->pending->commit(OutsideChanges::Overwrite);
+    if (result) {
+        store->finished(*save->pending, true);
+        std::swap(m_store, store); // the old one goes at the end of this call
+        m_history.setClean();
+        Q_EMIT saved();
+        Q_EMIT locationChanged();
+        return result;
+    }
+    // The project stays where it was, with all that it had not saved there.
+    store->finished(*save->pending, false);
+    m_unsaved = std::move(save->touched);
+    Q_EMIT saveFailed(result.message());
+    return result;
+}
+
+} // namespace vl::app

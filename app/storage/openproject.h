@@ -1,0 +1,93 @@
+#pragma once
+
+#include "app/base/result.h"
+#include "app/storage/folderstore.h"
+#include "core/commandstack.h"
+#include "core/project.h"
+
+#include <QtCore/QObject>
+
+#include <memory>
+
+namespace vl::app {
+
+class ProjectStore;
+
+/// The project that is open: its model, its history, and the place where it is saved.
+class OpenProject final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An empty project that has no place yet.
+    OpenProject();
+    ~OpenProject() override;
+
+    /// Opens a ".vellum" file or a project folder.
+    static Result<std::unique_ptr<OpenProject>> open(const QString &path);
+
+    core::Project &project() { return *m_project; }
+    const core::Project &project() const { return *m_project; }
+    const core::CommandStack &history() const { return m_history; }
+    core::CommandStack &history() { return m_history; }
+
+    /// Runs a command as a step of the history, or as a part of the open group.
+    void push(std::unique_ptr<core::Command> command) { m_history.push(std::move(command)); }
+
+    bool isDirty() const { return m_history.isDirty(); }
+    bool hasLocation() const { return m_store != nullptr; }
+    /// The ".vellum" file or the folder; empty while the project has no place.
+    QString path() const;
+    bool isBundle() const;
+    /// What the project is called: the name of its file or folder, or "Untitled".
+    QString name() const;
+    /// The folder under which "assets/…" paths stand; empty while the project has no place.
+    QString folder() const;
+
+    /// Saves to the place of the project and marks the history clean. Emits aboutToSave() first,
+    /// so that editors hand in what is typed. Without a place it fails.
+    Result<> save(OutsideChanges outside = OutsideChanges::Refuse);
+    /// The same with the writing on another thread. What is saved is the state at the call; the
+    /// history is clean there once saved() comes, and saveFailed() tells why it did not. A call
+    /// while another save runs starts when that one ends.
+    void saveInBackground();
+    bool isSaving() const { return m_running != nullptr; }
+    /// Waits for a save that runs in the background, and for the one that waits behind it.
+    void finishSaving();
+    /// Whether others changed what a save would write over now.
+    bool meetsOutsideChanges();
+    /// Saves as a ".vellum" file, or as a folder, which becomes the project's place. The files
+    /// under "assets/" and others that the project carries come along.
+    Result<> saveAsBundle(const QString &path);
+    Result<> saveAsFolder(const QString &folder);
+
+Q_SIGNALS:
+    /// The model changed, by a push, an undo or a redo.
+    void changed(const vl::core::ChangeSet &changes);
+    /// The steps, their names or the clean mark may be others now.
+    void historyChanged();
+    void aboutToSave();
+    void saved();
+    void saveFailed(const QString &message);
+    void locationChanged();
+
+private:
+    struct RunningSave;
+
+    OpenProject(std::unique_ptr<core::Project> project, std::unique_ptr<ProjectStore> store);
+
+    void listen();
+    std::unique_ptr<RunningSave> beginSave(ProjectStore &store, bool everything);
+    Result<> endSave(RunningSave &save, const Result<> &result);
+    Result<> saveInto(std::unique_ptr<ProjectStore> store);
+    void backgroundSaveEnded();
+
+    std::unique_ptr<core::Project> m_project;
+    core::CommandStack m_history; ///< goes before the project that its commands refer to
+    std::unique_ptr<ProjectStore> m_store;
+    core::ChangeSet m_unsaved; ///< what changed since the files were last read or written
+    std::unique_ptr<RunningSave> m_running; ///< the save that another thread carries out
+    bool m_savesAgain = false;              ///< another save was asked for meanwhile
+};
+
+} // namespace vl::app

@@ -1,0 +1,95 @@
+#include "desktop/dialogs/dialogprompts.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+namespace vl::desktop {
+
+namespace {
+
+const QLatin1String bundleSuffix(".vellum");
+
+} // namespace
+
+app::Prompts::Unsaved DialogPrompts::askUnsaved(const QString &projectName)
+{
+    QMessageBox box(QMessageBox::Question, tr("Unsaved Changes"),
+                    tr("“%1” has changes that are not saved.").arg(projectName),
+                    QMessageBox::NoButton, m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("What you wrote since the last save is lost if you discard it."));
+    const auto *save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    const auto *discard = box.addButton(tr("&Discard Changes"), QMessageBox::DestructiveRole);
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(qobject_cast<QPushButton *>(box.buttons().constFirst()));
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == save)
+        return Unsaved::Save;
+    return box.clickedButton() == discard ? Unsaved::Discard : Unsaved::Cancel;
+}
+
+bool DialogPrompts::confirm(const QString &question, const QString &detail, const QString &action)
+{
+    QMessageBox box(QMessageBox::Question, QCoreApplication::applicationName(), question,
+                    QMessageBox::NoButton, m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(detail);
+    const auto *go = box.addButton(action, QMessageBox::DestructiveRole);
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    return box.clickedButton() == go;
+}
+
+QString DialogPrompts::chooseProjectToOpen()
+{
+    return QFileDialog::getOpenFileName(m_window, tr("Open Project"), QDir::homePath(),
+                                        tr("Ivorel projects (*.vellum)"));
+}
+
+QString DialogPrompts::chooseProjectFolderToOpen()
+{
+    return QFileDialog::getExistingDirectory(m_window, tr("Open Project Folder"), QDir::homePath());
+}
+
+QString DialogPrompts::chooseBundleToSave(const QString &suggestion)
+{
+    QString path = QFileDialog::getSaveFileName(m_window, tr("Save Project As"),
+                                                QDir::home().filePath(suggestion + bundleSuffix),
+                                                tr("Ivorel projects (*.vellum)"));
+    if (!path.isEmpty() && !path.endsWith(bundleSuffix, Qt::CaseInsensitive)) {
+        path += bundleSuffix;
+        // The dialog asked about another name.
+        if (QFileInfo::exists(path)
+            && !confirm(tr("“%1” exists already.").arg(QDir::toNativeSeparators(path)),
+                        tr("Its contents are replaced."), tr("Replace")))
+            return {};
+    }
+    return path;
+}
+
+QString DialogPrompts::chooseFolderToSave(const QString & /*suggestion*/)
+{
+    return QFileDialog::getExistingDirectory(m_window, tr("Save Project as Folder"),
+                                             QDir::homePath());
+}
+
+QString DialogPrompts::askText(const QString &title, const QString &label, const QString &text)
+{
+    return QInputDialog::getText(m_window, title, label, QLineEdit::Normal, text);
+}
+
+void DialogPrompts::showError(const QString &title, const QString &message)
+{
+    QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok, m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+} // namespace vl::desktop

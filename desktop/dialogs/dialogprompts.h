@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/models/prompts.h"
+
+#include <QtCore/QCoreApplication>
+
+class QWidget;
+
+namespace vl::desktop {
+
+/// Asks the user with dialogs over a window.
+class DialogPrompts final : public app::Prompts
+{
+    Q_DECLARE_TR_FUNCTIONS(vl::desktop::DialogPrompts)
+
+public:
+    explicit DialogPrompts(QWidget *window)
+        : m_window(window)
+    {
+    }
+
+    Unsaved askUnsaved(const QString &projectName) override;
+    bool confirm(const QString &question, const QString &detail, const QString &action) override;
+    QString chooseProjectToOpen() override;
+    QString chooseProjectFolderToOpen() override;
+    QString chooseBundleToSave(const QString &suggestion) override;
+    QString chooseFolderToSave(const QString &suggestion) override;
+    QString askText(const QString &title, const QString &label, const QString &text) override;
+    void showError(const QString &title, const QString &message) override;
+
+private:
+    QWidget *m_window;
+};
+
+} // namespace vl::desktop

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/id.h"
+#include "desktop/panels/panelcontext.h"
+
+#include <QtCore/QList>
+#include <QtWidgets/QWidget>
+
+class QLineEdit;
+class QSortFilterProxyModel;
+class QStackedWidget;
+class QTreeView;
+
+namespace vl::app {
+class DocumentsModel;
+}
+
+namespace vl::desktop {
+
+/// The manuscript tree: documents and notes, in the order in which they are read.
+class DocumentsPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    DocumentsPanel(const PanelContext &context, QWidget *parent);
+    ~DocumentsPanel() override;
+
+private:
+    void buildToolBar(QLayout *layout);
+    void buildTree(QLayout *layout);
+    void bindActions();
+    QWidget *makeEmptyState();
+    void showProject();
+    void updateEmptyState();
+    void updateActions();
+    void showContextMenu(const QPoint &position);
+
+    void addDocument();
+    void addNote();
+    void addInside();
+    void rename(const core::ContentId &id);
+    void removeSelected();
+    void selectFromWorkspace();
+    void selectInWorkspace();
+    QList<core::ContentId> selectedIds() const;
+    core::ContentId currentId() const;
+
+    PanelContext m_context;
+    app::DocumentsModel *m_model;
+    QSortFilterProxyModel *m_filtered;
+    QLineEdit *m_filter = nullptr;
+    QTreeView *m_tree = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    bool m_isFollowing = false; ///< while one side's selection is carried over to the other
+};
+
+} // namespace vl::desktop

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace vl::app {
+class Prompts;
+class Settings;
+class Workspace;
+} // namespace vl::app
+
+namespace vl::desktop {
+
+class ActionRegistry;
+
+/// What every panel is handed; all of it outlives the panels.
+struct PanelContext
+{
+    app::Workspace &workspace;
+    ActionRegistry &actions;
+    app::Settings &settings;
+    app::Prompts &prompts;
+};
+
+} // namespace vl::desktop

@@ -1,0 +1,176 @@
+#include "desktop/shell/mainwindow.h"
+
+#include "app/base/settingskeys.h"
+#include "desktop/shell/panelhost.h"
+#include "desktop/shell/theme.h"
+
+#include <QtGui/QActionGroup>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
+
+namespace vl::desktop {
+
+namespace {
+
+const QLatin1String layoutKey("general/layout");
+const QLatin1String geometryKey("general/geometry");
+constexpr int messageMilliseconds = 4000;
+constexpr int windowEdges = 48; // room for the frame that the desktop puts round the window
+
+/// The entry of a step: what it does, then what it does it to, in plain text.
+QString stepText(const QString &verb, const QString &step)
+{
+    QString escaped = step;
+    escaped.replace(u'&', QLatin1String("&&"));
+    return step.isEmpty() ? verb : QStringLiteral("%1 %2").arg(verb, escaped);
+}
+
+} // namespace
+
+MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
+    : m_settings(settings)
+    , m_dialogs(this)
+    , m_prompts(prompts ? *prompts : m_dialogs)
+    , m_flows(m_workspace, m_prompts, settings)
+    , m_actions(settings)
+{
+    m_panels = new PanelHost(this, PanelContext{m_workspace, m_actions, m_settings, m_prompts});
+    bindActions();
+    buildMenus();
+    buildToolBar();
+    statusBar();
+    for (QAction *action : m_actions.all())
+        addAction(action);
+
+    connect(&m_workspace, &app::Workspace::historyChanged, this, [this] {
+        updateTitle();
+        updateSteps();
+    });
+    connect(&m_workspace, &app::Workspace::locationChanged, this, &MainWindow::updateTitle);
+    updateTitle();
+    updateSteps();
+    restoreWindow();
+}
+
+MainWindow::~MainWindow()
+{
+    // The panels go before what they were handed.
+    delete takeCentralWidget();
+}
+
+bool MainWindow::openProject(const QString &path)
+{
+    return m_flows.open(path);
+}
+
+void MainWindow::bindActions()
+{
+    m_actions.bind("file.new", this, [this] { m_flows.newProject(); });
+    m_actions.bind("file.open", this, [this] { m_flows.chooseAndOpen(); });
+    m_actions.bind("file.openFolder", this, [this] { m_flows.chooseAndOpenFolder(); });
+    m_actions.bind("file.save", this, [this] { save(&app::ProjectFlows::save); });
+    m_actions.bind("file.saveAs", this, [this] { save(&app::ProjectFlows::saveAs); });
+    m_actions.bind("file.saveAsFolder", this, [this] { save(&app::ProjectFlows::saveAsFolder); });
+    m_actions.bind("file.quit", this, &QWidget::close);
+    m_actions.bind("edit.undo", &m_workspace, &app::Workspace::undo);
+    m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
+    m_actions.bind("view.nextPanel", m_panels, &PanelHost::focusNext);
+    m_actions.bind("view.resetLayout", m_panels, &PanelHost::resetLayout);
+    m_actions.bind("help.about", this, &MainWindow::showAbout);
+}
+
+void MainWindow::save(bool (app::ProjectFlows::*how)())
+{
+    if ((m_flows.*how)())
+        statusBar()->showMessage(tr("Saved “%1”.").arg(m_workspace.current().name()),
+                                 messageMilliseconds);
+}
+
+void MainWindow::buildMenus()
+{
+    m_actions.fill(menuBar()->addMenu(tr("&File")), Menu::File);
+    m_actions.fill(menuBar()->addMenu(tr("&Edit")), Menu::Edit);
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    QMenu *themeMenu = view->addMenu(tr("&Theme"));
+    auto *group = new QActionGroup(themeMenu);
+    const Theme &present = themeNamed(m_settings.text(app::settings::theme));
+    for (const Theme &theme : themes()) {
+        QAction *entry = themeMenu->addAction(QCoreApplication::translate("Themes", theme.name));
+        entry->setCheckable(true);
+        entry->setChecked(&theme == &present);
+        group->addAction(entry);
+        connect(entry, &QAction::triggered, this, [this, &theme] {
+            applyTheme(theme);
+            m_settings.set(app::settings::theme, QLatin1String(theme.name));
+        });
+    }
+    m_actions.fill(view, Menu::View);
+    view->addSeparator();
+    m_panels->addToggles(view);
+    m_actions.fill(menuBar()->addMenu(tr("&Help")), Menu::Help);
+}
+
+void MainWindow::buildToolBar()
+{
+    QToolBar *bar = addToolBar(tr("Main"));
+    bar->setObjectName(QStringLiteral("primaryToolBar"));
+    bar->setMovable(false);
+    for (const char *id : {"file.open", "file.save", "edit.undo", "edit.redo"})
+        bar->addAction(m_actions[id]);
+}
+
+void MainWindow::restoreWindow()
+{
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(qMin(1400, room.width() - windowEdges), qMin(900, room.height() - windowEdges));
+    restoreGeometry(m_settings.bytes(geometryKey));
+    m_panels->restoreLayout(m_settings.bytes(layoutKey));
+}
+
+void MainWindow::updateTitle()
+{
+    const app::OpenProject &current = m_workspace.current();
+    setWindowTitle(tr("%1[*] – Ivorel").arg(current.name()));
+    setWindowFilePath(QString());
+    setWindowModified(current.isDirty());
+}
+
+void MainWindow::updateSteps()
+{
+    const core::CommandStack &history = m_workspace.history();
+    QAction *undo = m_actions["edit.undo"];
+    QAction *redo = m_actions["edit.redo"];
+    // Undo stays reachable without a step: what is being typed becomes one when it is asked for.
+    undo->setText(stepText(tr("&Undo"), history.undoText()));
+    undo->setToolTip(stepText(tr("Undo"), history.undoText()));
+    undo->setIconText(tr("Undo"));
+    redo->setText(stepText(tr("&Redo"), history.redoText()));
+    redo->setToolTip(stepText(tr("Redo"), history.redoText()));
+    redo->setIconText(tr("Redo"));
+    redo->setEnabled(history.canRedo());
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Ivorel"),
+                       tr("<h3>Ivorel %1</h3><p>A workspace for writing and worldbuilding.</p>")
+                           .arg(QCoreApplication::applicationVersion().toHtmlEscaped()));
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_flows.mayClose()) {
+        event->ignore();
+        return;
+    }
+    m_settings.setBytes(geometryKey, saveGeometry());
+    m_settings.setBytes(layoutKey, m_panels->saveLayout());
+    event->accept();
+}
+
+} // namespace vl::desktop

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/base/settings.h"
+#include "app/models/projectflows.h"
+#include "app/models/workspace.h"
+#include "desktop/actions/actionregistry.h"
+#include "desktop/dialogs/dialogprompts.h"
+
+#include <QtWidgets/QMainWindow>
+
+namespace vl::desktop {
+
+class PanelHost;
+
+/// The window: puts the project, the panels, the menus and the flows together.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// The settings outlive the window. Tests hand in prompts of their own, which outlive it too.
+    explicit MainWindow(app::Settings &settings, app::Prompts *prompts = nullptr);
+    ~MainWindow() override;
+
+    /// Opens a project, telling the user when it does not load.
+    bool openProject(const QString &path);
+    app::Workspace &workspace() { return m_workspace; }
+    const ActionRegistry &actions() const { return m_actions; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void bindActions();
+    void buildMenus();
+    void buildToolBar();
+    void restoreWindow();
+    void updateTitle();
+    void updateSteps();
+    void showAbout();
+    void save(bool (app::ProjectFlows::*how)());
+
+    app::Settings &m_settings;
+    DialogPrompts m_dialogs;
+    app::Prompts &m_prompts;
+    app::Workspace m_workspace;
+    app::ProjectFlows m_flows;
+    ActionRegistry m_actions;
+    PanelHost *m_panels = nullptr;
+};
+
+} // namespace vl::desktop

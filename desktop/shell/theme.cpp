@@ -1,0 +1,85 @@
+#include "desktop/shell/theme.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleFactory>
+
+#include <algorithm>
+
+namespace vl::desktop {
+
+namespace {
+
+constexpr Theme table[] = {
+    {"Light", false, 0xfff0f0f0, 0xff1a1a1a, 0xffffffff, 0xff1a1a1a, 0xffe8e8e8, 0xff1a1a1a,
+     0xff2f6fdb, 0xffffffff, 0xff1a5fb4},
+    {"Dark", true, 0xff2b2b2b, 0xffe6e6e6, 0xff1e1e1e, 0xffe6e6e6, 0xff3a3a3a, 0xffe6e6e6,
+     0xff4a86e8, 0xffffffff, 0xff8ab4f8},
+    {"High Contrast", true, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff,
+     0xffffff00, 0xff000000, 0xff00ffff},
+    {"Sepia", false, 0xfff4ecd8, 0xff3b2f1e, 0xfffaf3e0, 0xff3b2f1e, 0xffece0c8, 0xff3b2f1e,
+     0xffb5895f, 0xffffffff, 0xff7a4f1c},
+};
+
+} // namespace
+
+std::span<const Theme> themes()
+{
+    return table;
+}
+
+const Theme &themeNamed(const QString &name)
+{
+    const auto *found = std::find_if(std::begin(table), std::end(table), [&](const Theme &theme) {
+        return QLatin1String(theme.name) == name;
+    });
+    return found == std::end(table) ? table[0] : *found;
+}
+
+QColor mix(const QColor &over, const QColor &under, double amount)
+{
+    const auto channel = [amount](int a, int b) { return qRound(a * amount + b * (1 - amount)); };
+    return QColor(channel(over.red(), under.red()), channel(over.green(), under.green()),
+                  channel(over.blue(), under.blue()));
+}
+
+QPalette paletteOf(const Theme &theme)
+{
+    QPalette palette;
+    const QColor window(theme.window);
+    const QColor text(theme.text);
+    const QColor base(theme.base);
+    const QColor button(theme.button);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, QColor(theme.windowText));
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, mix(window, base, 0.5));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::PlaceholderText, mix(text, base, quietAmount));
+    palette.setColor(QPalette::Button, button);
+    palette.setColor(QPalette::ButtonText, QColor(theme.buttonText));
+    palette.setColor(QPalette::BrightText, QColor(theme.highlightedText));
+    palette.setColor(QPalette::Highlight, QColor(theme.highlight));
+    palette.setColor(QPalette::HighlightedText, QColor(theme.highlightedText));
+    palette.setColor(QPalette::Link, QColor(theme.link));
+    palette.setColor(QPalette::LinkVisited, mix(QColor(theme.link), text, 0.7));
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::ToolTipText, text);
+    // The frames of the style; a dark window needs lighter edges than its ground, not darker ones.
+    const QColor ink = theme.isDark ? QColor(Qt::white) : QColor(Qt::black);
+    palette.setColor(QPalette::Light, mix(Qt::white, button, theme.isDark ? 0.12 : 0.6));
+    palette.setColor(QPalette::Midlight, mix(Qt::white, button, theme.isDark ? 0.08 : 0.3));
+    palette.setColor(QPalette::Mid, mix(ink, button, 0.25));
+    palette.setColor(QPalette::Dark, mix(ink, button, 0.4));
+    palette.setColor(QPalette::Shadow, mix(ink, button, 0.6));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, mix(palette.color(role), window, 0.5));
+    return palette;
+}
+
+void applyTheme(const Theme &theme)
+{
+    QApplication::setPalette(paletteOf(theme));
+}
+
+} // namespace vl::desktop

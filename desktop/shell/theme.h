@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/QLatin1String>
+#include <QtGui/QColor>
+#include <QtGui/QPalette>
+
+#include <span>
+
+namespace vl::desktop {
+
+/// The colours of the whole window.
+struct Theme
+{
+    const char *name;
+    bool isDark;
+    QRgb window;
+    QRgb windowText;
+    QRgb base;
+    QRgb text;
+    QRgb button;
+    QRgb buttonText;
+    QRgb highlight;
+    QRgb highlightedText;
+    QRgb link;
+};
+
+std::span<const Theme> themes();
+/// The theme of this name, "Light" when there is none.
+const Theme &themeNamed(const QString &name);
+QPalette paletteOf(const Theme &theme);
+/// Shows the whole program in the theme.
+void applyTheme(const Theme &theme);
+
+/// How much of the text's colour secondary text has over its ground; it keeps a contrast of 4.5:1
+/// in every theme.
+inline constexpr double quietAmount = 0.72;
+
+/// A colour between the two: all of `over` at 1, all of `under` at 0.
+QColor mix(const QColor &over, const QColor &under, double amount);
+
+} // namespace vl::desktop

@@ -1,0 +1,290 @@
+#include "app/models/documentoperations.h"
+#include "core/commands/documentcommands.h"
+#include "desktop/panels/catalogue.h"
+#include "desktop/panels/editortextwidget.h"
+#include "desktop/shell/mainwindow.h"
+#include "desktop/shell/theme.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtGui/QAccessible>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTreeView>
+
+using namespace vl;
+using core::Document;
+using core::DocumentKind;
+
+namespace {
+
+struct Window
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    desktop::MainWindow window{settings, &prompts};
+    desktop::EditorTextWidget *text = window.findChild<desktop::EditorTextWidget *>();
+    QTreeView *tree = window.findChild<QTreeView *>(QStringLiteral("documentsTree"));
+
+    Window()
+    {
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("the window does not show");
+    }
+    Document &add(const QString &body)
+    {
+        app::Workspace &workspace = window.workspace();
+        const auto id = app::DocumentOperations(workspace).add(DocumentKind::Prose, {});
+        auto *document = workspace.project().find<Document>(id);
+        document->setBody(body);
+        workspace.select(id);
+        return *document;
+    }
+};
+
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double c) {
+            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+               + 0.0722 * linear(color.blueF());
+    };
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyControlHasAName();
+    void everyActionIsUniqueAndBound();
+    void typingBecomesStepsOfTheHistory();
+    void nothingTypedIsLost();
+    void oddCharactersSurviveTheWidget();
+    void theTreeMovesAndRenames();
+    void closingAsks();
+    void theLayoutComesBack();
+    void secondaryTextIsLegible_data();
+    void secondaryTextIsLegible();
+};
+
+void TestMainWindow::everyControlHasAName()
+{
+    const Window desk;
+    int seen = 0;
+    const auto widgets = desk.window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isControl =
+            qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
+            || qobject_cast<QAbstractItemView *>(widget) || qobject_cast<QComboBox *>(widget)
+            || qobject_cast<QPlainTextEdit *>(widget);
+        const QString className = QLatin1String(widget->metaObject()->className());
+        if (!isControl || className.startsWith(QLatin1String("ads::"))
+            || widget->objectName().startsWith(QLatin1String("qt_")))
+            continue;
+        ++seen;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY(accessible);
+        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(),
+                 qPrintable(className + u' ' + widget->objectName() + u' '
+                            + (widget->parent() ? widget->parent()->objectName() : QString())));
+    }
+    QVERIFY(seen > 6);
+}
+
+void TestMainWindow::everyActionIsUniqueAndBound()
+{
+    const Window desk;
+    QSet<QString> ids;
+    QHash<QString, QString> keys;
+    for (const QAction *action : desk.window.actions().all()) {
+        QVERIFY2(!ids.contains(action->objectName()), qPrintable(action->objectName()));
+        ids.insert(action->objectName());
+        QVERIFY2(action->property("bound").toBool(), qPrintable(action->objectName()));
+        for (const QKeySequence &shortcut : action->shortcuts()) {
+            QVERIFY2(shortcut.isEmpty() || !keys.contains(shortcut.toString()),
+                     qPrintable(shortcut.toString()));
+            keys.insert(shortcut.toString(), action->objectName());
+        }
+    }
+    QSet<QString> panels;
+    for (const desktop::PanelRow &row : desktop::panelCatalogue())
+        panels.insert(QLatin1String(row.objectName));
+    QCOMPARE(size_t(panels.size()), desktop::panelCatalogue().size());
+}
+
+void TestMainWindow::typingBecomesStepsOfTheHistory()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("Once"));
+    core::CommandStack &history = desk.window.workspace().history();
+    const auto steps = history.undoCount();
+    desk.text->setFocus();
+    desk.text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(desk.text, QStringLiteral(" upon"));
+    QCOMPARE(document.body(), QStringLiteral("Once"));
+    QTest::qWait(1); // a key is not a pause
+    QCOMPARE(history.undoCount(), steps);
+    QTRY_COMPARE_WITH_TIMEOUT(history.undoCount(), steps + 1, 5000);
+    QCOMPARE(document.body(), QStringLiteral("Once upon"));
+
+    QTest::keyClicks(desk.text, QStringLiteral(" a time"));
+    // One step back takes what was typed since the pause, whether it was handed in or not.
+    QTest::keyClick(desk.text, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.text->text(), QStringLiteral("Once upon"));
+    QCOMPARE(desk.text->caret(), 9);
+    QTest::keyClick(desk.text, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk.text->text(), QStringLiteral("Once"));
+    QTest::keySequence(desk.text, QKeySequence::Redo);
+    QTest::keySequence(desk.text, QKeySequence::Redo);
+    QCOMPARE(desk.text->text(), QStringLiteral("Once upon a time"));
+    QCOMPARE(document.body(), desk.text->text());
+}
+
+void TestMainWindow::nothingTypedIsLost()
+{
+    Window desk;
+    Document &first = desk.add(QStringLiteral("First."));
+    Document &second = desk.add(QStringLiteral("Second."));
+    desk.text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(desk.text, QStringLiteral(" More."));
+    desk.window.workspace().select(first.id());
+    QCOMPARE(desk.text->text(), QStringLiteral("First."));
+    QCOMPARE(second.body(), QStringLiteral("Second. More."));
+
+    // A step of somebody else meets what is typed and not handed in yet.
+    desk.text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(desk.text, QStringLiteral(" Typed."));
+    desk.window.workspace().push<core::SetDocumentBodyCommand>(first, QStringLiteral("The First."));
+    QCOMPARE(desk.text->text(), QStringLiteral("The First. Typed."));
+    desk.window.workspace().flush();
+    QCOMPARE(first.body(), QStringLiteral("The First. Typed."));
+
+    // A save hands in what is typed.
+    QTest::keyClicks(desk.text, QStringLiteral("!"));
+    desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
+    desk.window.actions()["file.saveAsFolder"]->trigger();
+    QCOMPARE(desk.prompts.errors, QStringList());
+    QVERIFY(desk.window.openProject(desk.prompts.path));
+    QStringList bodies;
+    for (const Document *document : desk.window.workspace().project().all<Document>())
+        bodies.append(document->body());
+    QVERIFY2(bodies.contains(QStringLiteral("The First. Typed.!")), qPrintable(bodies.join(u'|')));
+}
+
+void TestMainWindow::oddCharactersSurviveTheWidget()
+{
+    Window desk;
+    const QString odd = QStringLiteral("a\u00a0b\u2028c\r\nd\u200be\tf \U0001F600 \u05d0\u05d1");
+    Document &document = desk.add(odd);
+    desk.text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(desk.text, QStringLiteral("!"));
+    desk.window.workspace().flush();
+    QCOMPARE(document.body(), odd + u'!');
+}
+
+void TestMainWindow::theTreeMovesAndRenames()
+{
+    Window desk;
+    desk.add(QStringLiteral("one"));
+    desk.add(QStringLiteral("two"));
+    const QModelIndex first = desk.tree->model()->index(0, 0);
+    desk.tree->setCurrentIndex(first);
+    desk.tree->setFocus();
+    QTest::keyClick(desk.tree, Qt::Key_F2);
+    auto *field = desk.tree->viewport()->findChild<QLineEdit *>();
+    QVERIFY(field);
+    field->setText(QStringLiteral("Renamed"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_COMPARE(desk.tree->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
+
+    QTest::keyClick(desk.tree, Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(desk.tree->model()->index(1, 0).data().toString(), QStringLiteral("Renamed"));
+    QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Renamed"));
+
+    QTest::keyClick(desk.tree, Qt::Key_Delete); // the answer is no
+    QCOMPARE(desk.tree->model()->rowCount(), 2);
+    QCOMPARE(desk.prompts.questions.size(), 1);
+    desk.prompts.confirms = true;
+    QTest::keyClick(desk.tree, Qt::Key_Delete);
+    QCOMPARE(desk.tree->model()->rowCount(), 1);
+    desk.window.workspace().undo();
+    QCOMPARE(desk.tree->model()->rowCount(), 2);
+}
+
+void TestMainWindow::closingAsks()
+{
+    Window desk;
+    desk.add(QStringLiteral("one"));
+    QVERIFY(!desk.window.close());
+    QCOMPARE(desk.prompts.questions.size(), 1);
+    desk.prompts.unsaved = app::Prompts::Unsaved::Discard;
+    QVERIFY(desk.window.close());
+}
+
+void TestMainWindow::theLayoutComesBack()
+{
+    QTemporaryDir dir;
+    app::Settings settings(dir.filePath(QStringLiteral("settings.ini")));
+    test::FakePrompts prompts;
+    const auto toggle = [](desktop::MainWindow &window) {
+        for (QAction *action : window.findChildren<QAction *>())
+            if (action->isCheckable() && action->text() == u"Documents")
+                return action;
+        return static_cast<QAction *>(nullptr);
+    };
+    {
+        desktop::MainWindow window(settings, &prompts);
+        window.show();
+        QVERIFY(toggle(window));
+        toggle(window)->trigger();
+        QVERIFY(!toggle(window)->isChecked());
+        window.close();
+    }
+    desktop::MainWindow window(settings, &prompts);
+    QVERIFY(!toggle(window)->isChecked());
+    window.actions()["view.resetLayout"]->trigger();
+    QVERIFY(toggle(window)->isChecked());
+}
+
+void TestMainWindow::secondaryTextIsLegible_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("least");
+    for (const desktop::Theme &theme : desktop::themes()) {
+        const QString name = QLatin1String(theme.name);
+        QTest::newRow(theme.name) << name << (name == u"High Contrast" ? 7.0 : 4.5);
+    }
+}
+
+void TestMainWindow::secondaryTextIsLegible()
+{
+    QFETCH(QString, name);
+    QFETCH(double, least);
+    const QPalette palette = desktop::paletteOf(desktop::themeNamed(name));
+    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+    for (const auto &[text, ground] :
+         {Pair{QPalette::WindowText, QPalette::Window}, Pair{QPalette::Text, QPalette::Base},
+          Pair{QPalette::Text, QPalette::AlternateBase},
+          Pair{QPalette::ButtonText, QPalette::Button},
+          Pair{QPalette::PlaceholderText, QPalette::Base}, Pair{QPalette::Link, QPalette::Base},
+          Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
+        const double found = contrast(palette.color(text), palette.color(ground));
+        QVERIFY2(found >= least, qPrintable(QStringLiteral("role %1: %2").arg(text).arg(found)));
+    }
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

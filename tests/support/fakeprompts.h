@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/models/prompts.h"
+
+namespace vl::test {
+
+/// Answers as the test set it up, and remembers what was asked.
+class FakePrompts final : public app::Prompts
+{
+public:
+    Unsaved unsaved = Unsaved::Cancel;
+    bool confirms = false;
+    QString path; ///< what every choice of a place gives
+    QStringList questions;
+    QStringList errors;
+
+    Unsaved askUnsaved(const QString &projectName) override
+    {
+        questions.append(projectName);
+        return unsaved;
+    }
+    bool confirm(const QString &question, const QString &, const QString &) override
+    {
+        questions.append(question);
+        return confirms;
+    }
+    QString chooseProjectToOpen() override { return path; }
+    QString chooseProjectFolderToOpen() override { return path; }
+    QString chooseBundleToSave(const QString &) override { return path; }
+    QString chooseFolderToSave(const QString &) override { return path; }
+    QString askText(const QString &, const QString &, const QString &text) override { return text; }
+    void showError(const QString &, const QString &message) override { errors.append(message); }
+};
+
+} // namespace vl::test
