@@ -115,6 +115,8 @@ char *JsonWriter::reserve(qsizetype count)
 
 void JsonWriter::append(std::string_view text)
 {
+    if (text.empty()) // which may have no address
+        return;
     std::memcpy(reserve(qsizetype(text.size())), text.data(), text.size());
     m_size += qsizetype(text.size());
 }
