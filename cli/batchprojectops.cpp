@@ -1,6 +1,7 @@
 #include "cli/batchops.h"
 
 #include "app/storage/projectwriter.h"
+#include "cli/continuityfindings.h"
 #include "cli/projectsource.h"
 
 namespace vl::cli {
@@ -24,7 +25,19 @@ app::Result<QJsonValue> roundTrip(BatchMembers &request)
     return QJsonValue(QJsonObject{{QStringLiteral("objects"), source->project().size()}});
 }
 
+app::Result<QJsonValue> checkContinuity(BatchMembers &request)
+{
+    const QString path = request.text("project");
+    if (request.hasFailed())
+        return request.failure();
+    const app::Result<ProjectSource> source = ProjectSource::open(path);
+    if (!source)
+        return source.asFailure();
+    return QJsonValue(findContinuityFaults(*source).toJson());
+}
+
 const BatchOp rows[] = {
+    {"continuity.check", checkContinuity},
     {"project.roundTrip", roundTrip},
 };
 

@@ -7,6 +7,7 @@ namespace vl::cli {
 
 // What the rows of the catalogue run; each in a file of its name.
 ExitStatus runBatch(const Arguments &arguments, Console &console);
+ExitStatus runConflicts(const Arguments &arguments, Console &console);
 ExitStatus runExport(const Arguments &arguments, Console &console);
 ExitStatus runHealth(const Arguments &arguments, Console &console);
 ExitStatus runInfo(const Arguments &arguments, Console &console);

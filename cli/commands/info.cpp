@@ -1,7 +1,7 @@
 #include "cli/commands/commands.h"
 
+#include "app/base/wordcount.h"
 #include "app/text/manuscript.h"
-#include "app/text/prosestatistics.h"
 #include "cli/projectsource.h"
 
 #include <QtCore/QJsonDocument>
@@ -28,7 +28,7 @@ Figures countIn(const ProjectSource &source)
         ++figures.kinds.at(std::size_t(object->kind()));
     figures.categories = source.project().taxonomy().size();
     for (const app::ManuscriptEntry &entry : app::readManuscript(source.project()).entries)
-        figures.words += app::measureProse(entry.text).words;
+        figures.words += app::countWords(entry.text);
     figures.bytes = source.bytesOnDisk();
     return figures;
 }
