@@ -25,13 +25,12 @@ QJsonObject errorReply(const QString &message)
     return {{QStringLiteral("error"), message}};
 }
 
-app::Result<QJsonValue> runRequest(const QJsonObject &request)
+app::Result<QJsonValue> runRequest(const QJsonObject &request, std::span<const BatchOp> ops)
 {
     BatchMembers members(request);
     const QString op = members.text("op");
     if (members.hasFailed())
         return members.failure();
-    const std::span<const BatchOp> ops = batchOps();
     const auto found = std::find_if(ops.begin(), ops.end(), [&op](const BatchOp &row) {
         return op == QLatin1String(row.name);
     });
@@ -56,6 +55,11 @@ std::span<const BatchOp> batchOps()
 
 QByteArray batchReply(QByteArrayView line)
 {
+    return batchReply(line, batchOps());
+}
+
+QByteArray batchReply(QByteArrayView line, std::span<const BatchOp> ops)
+{
     QJsonParseError error;
     // The line is read in place; nothing of it is kept beyond the reply.
     const QByteArray bytes = QByteArray::fromRawData(line.data(), line.size());
@@ -63,7 +67,7 @@ QByteArray batchReply(QByteArrayView line)
     if (!document.isObject())
         return toLine(errorReply(Texts::tr("The line is not a JSON object.")));
     const QJsonObject request = document.object();
-    const app::Result<QJsonValue> result = runRequest(request);
+    const app::Result<QJsonValue> result = runRequest(request, ops);
     QJsonObject reply =
         result ? QJsonObject{{QStringLiteral("result"), *result}} : errorReply(result.message());
     if (const auto id = request.constFind(QLatin1String("id")); id != request.constEnd())

@@ -27,6 +27,8 @@ std::span<const BatchOp> batchProjectOps();
 /// The reply to one line of the pipe, without a line feed. Any bytes get one: what is no request is
 /// told so.
 QByteArray batchReply(QByteArrayView line);
+/// The same where there are only these operations.
+QByteArray batchReply(QByteArrayView line, std::span<const BatchOp> ops);
 
 /// What the reply to a line of too many bytes is.
 QByteArray batchReplyToLongLine();
