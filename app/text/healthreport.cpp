@@ -334,6 +334,7 @@ void Writer::writePointsOfView()
     if (byName.empty() || (byName.size() == 1 && previous.isEmpty()))
         return m_page.line(tr("No scene names a point of view."));
     std::vector<View> views;
+    views.reserve(byName.size());
     for (const auto &[name, view] : byName)
         views.push_back(view);
     std::stable_sort(views.begin(), views.end(),
