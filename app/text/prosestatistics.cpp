@@ -1,5 +1,6 @@
 #include "app/text/prosestatistics.h"
 
+#include "app/base/wordcount.h"
 #include "app/text/markdowntext.h"
 
 #include <algorithm>
@@ -264,12 +265,7 @@ int countSyllables(QStringView word)
 ProseStatistics measureProse(const QString &text)
 {
     ProseStatistics result;
-    bool isInWord = false;
-    for (const QChar unit : text) {
-        const bool isSpace = unit.isSpace();
-        result.words += !isSpace && !isInWord;
-        isInWord = !isSpace;
-    }
+    result.words = countWords(text);
     const QString plain = text.contains(u'[') ? withoutEmbedsAndReferences(text) : text;
     ProseMeter meter(result);
     for (const QStringView line : QStringView(plain).tokenize(u'\n'))

@@ -8,7 +8,7 @@ namespace vl::app {
 /// What can be counted in prose. Records of several texts are added up.
 struct ProseStatistics
 {
-    qint64 words = 0;      ///< runs of characters that are not white space, as counted everywhere
+    qint64 words = 0;      ///< as countWords counts them
     qint64 paragraphs = 0; ///< blocks between blank lines that hold a letter or digit, no headings
     qint64 sentences = 0;
     qint64 spokenWords = 0;     ///< words inside quotation marks
