@@ -89,7 +89,7 @@ Result<> FolderMerge::compareFiles(const Paths &base, const Paths &local, const 
             contents[side] = std::move(text).value_or(QString());
         }
         if (!isText) {
-            const Result<> done = compareBinaryFile(path, files[0], files[1], files[2]);
+            Result<> done = compareBinaryFile(path, files[0], files[1], files[2]);
             if (!done)
                 return done;
             continue;
@@ -174,7 +174,7 @@ Result<> FolderMerge::write(const QString &folder) const
     if (!makeFolder(folder))
         return failure(withPath(tr("Cannot create project folder: %1"), folder));
     for (const auto &[path, text] : changes->write) {
-        if (const Result<> added = add(path, text.toUtf8()); !added)
+        if (Result<> added = add(path, text.toUtf8()); !added)
             return added;
     }
     for (const auto &[path, source] : m_binaries) {
@@ -182,7 +182,7 @@ Result<> FolderMerge::write(const QString &folder) const
             readRegularFile(source, tr("Cannot read file: %1"), defaultReadLimit, Links::Refuse);
         if (!bytes)
             return bytes.asFailure();
-        if (const Result<> added = add(path, *bytes); !added)
+        if (Result<> added = add(path, *bytes); !added)
             return added;
     }
     return batch.commit();
