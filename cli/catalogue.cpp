@@ -34,6 +34,13 @@ const CommandRow rows[] = {
      QT_TRANSLATE_NOOP("vl::cli::Catalogue",
                        "Report how the manuscript stands, as “markdown” or “html”"),
      runHealth},
+    {"merge", "BASE LOCAL REMOTE [--output FOLDER]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Merge three copies of a project folder"), runMerge},
+    {"merge-file", "BASE LOCAL REMOTE [--output FILE] [--path NAME]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue",
+                       "Merge three versions of a file, for git too: prints the result or writes "
+                       "it to FILE; a NAME that ends in “.json” must stay valid"),
+     runMergeFile},
     {"export",
      "FORMAT PROJECT --output FILE [--title TITLE] [--author NAME] [--contact TEXT] "
      "[--pen-name NAME]",

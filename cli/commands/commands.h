@@ -11,6 +11,8 @@ ExitStatus runConflicts(const Arguments &arguments, Console &console);
 ExitStatus runExport(const Arguments &arguments, Console &console);
 ExitStatus runHealth(const Arguments &arguments, Console &console);
 ExitStatus runInfo(const Arguments &arguments, Console &console);
+ExitStatus runMerge(const Arguments &arguments, Console &console);
+ExitStatus runMergeFile(const Arguments &arguments, Console &console);
 ExitStatus runRender(const Arguments &arguments, Console &console);
 ExitStatus runStyle(const Arguments &arguments, Console &console);
 ExitStatus runValidate(const Arguments &arguments, Console &console);
