@@ -16,6 +16,7 @@ constexpr int maxDifferencesOfDistinct = 128; ///< the same where the sparse sea
 constexpr qint64 maxSparsePairs = 4'000'000;  ///< equal pairs that the sparse search remembers
 constexpr qint64 sparsePairCost = 30;         ///< in steps of the bit vectors
 constexpr qint64 maxBitSteps = 500'000'000;   ///< about half a second
+constexpr qint64 firstLook = 512;             ///< columns to each side of the diagonal
 constexpr int rarePairs = 16;                 ///< a number with at most so many equal pairs is rare
 
 /// The greedy search along diagonals of Myers (1986): fast where little differs.
@@ -179,10 +180,16 @@ Pairs alignByBits(Sequence rows, Sequence columns, const Occurrences &columnInde
         if (pairs.size() > known.size())
             known = std::move(pairs);
     };
-    // A look along the diagonal costs a sixteenth of the table and often narrows the band to less.
-    const qint64 narrow = bits.cost({m, n, m / 32, m / 32});
-    if (narrow <= maxBitSteps && bits.cost(bandOfLongest()) > 2 * narrow)
-        tryWithin(m / 32);
+    // Looks along the diagonal cost little and often narrow the band by far.
+    for (qint64 width = firstLook; width < m / 8; width *= 4) {
+        const qint64 cost = bits.cost({m, n, width, width});
+        const size_t length = known.size();
+        if (cost > maxBitSteps || bits.cost(bandOfLongest()) < 4 * cost)
+            break;
+        tryWithin(width);
+        if (known.size() == length)
+            break;
+    }
     if (bits.cost(bandOfLongest()) <= maxBitSteps)
         return bits.align(bandOfLongest());
     qint64 width = m;
