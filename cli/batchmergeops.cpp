@@ -67,6 +67,8 @@ app::Result<QJsonValue> applyMerge(BatchMembers &request)
                                                   int(ReconcileState::ConflictDeleted)));
         entry.result = each.textOrNull("result");
         entry.conflictText = each.optionalText("conflictText");
+        if (!entry.result && !app::isConflict(entry.state) && !app::isDeletion(entry.state))
+            each.refuse(BatchMembers::tr("The entry \"%1\" has no result.").arg(entry.path));
         entries.push_back(std::move(entry));
     }
     if (request.hasFailed())

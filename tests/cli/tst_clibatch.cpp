@@ -176,6 +176,9 @@ void TestCliBatch::replies_data()
     row("apply what is no JSON",
         R"({"op":"merge.apply","entries":[{"path":"c.json","state":3,"result":"{"}]})",
         R"({"result":{"error":"the merged file 'c.json' would not be valid"}})");
+    row("apply what has no result",
+        R"({"op":"merge.apply","entries":[{"path":"c","state":3,"result":null}]})",
+        R"({"error":"The entry \"c\" has no result."})");
     row("apply an unknown state",
         R"({"op":"merge.apply","entries":[{"path":"c","state":11,"result":"x"}]})",
         R"({"error":"The member \"entries[0].state\" must be an integer from 0 to 10."})");
