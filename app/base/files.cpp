@@ -1,5 +1,6 @@
 #include "app/base/files.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -23,13 +24,28 @@ namespace {
 
 const QLatin1String unfinishedPrefix(".ivorel-");
 const QLatin1String unfinishedSuffix(".tmp");
-constexpr int randomDigits = 16;
+constexpr int nameDigits = 8;   // tell which file the temporary is for
+constexpr int randomDigits = 8; // tell it from others for the same file
 
 /// Small pieces are gathered to this many bytes before they go to the system.
 constexpr qsizetype gatherSize = 256 * 1024;
 /// Up to here each file of a batch is synced by itself; beyond, one sync of the file system is
 /// cheaper.
 constexpr int singleSyncs = 8;
+
+QByteArray hexDigits(quint32 value)
+{
+    return QByteArray::number(value, 16).rightJustified(8, '0');
+}
+
+/// How the names of all temporaries for a file of this name begin (FNV-1a of the name).
+QByteArray unfinishedNameStart(QByteArrayView fileName)
+{
+    quint32 hash = 2166136261U;
+    for (const char byte : fileName)
+        hash = (hash ^ uchar(byte)) * 16777619U;
+    return unfinishedPrefix.data() + hexDigits(hash);
+}
 
 } // namespace
 
@@ -41,19 +57,40 @@ QString withPath(const QString &message, const QString &path)
 
 bool isUnfinishedFileName(const QString &fileName)
 {
-    return fileName.size() == unfinishedPrefix.size() + randomDigits + unfinishedSuffix.size()
+    return fileName.size()
+               == unfinishedPrefix.size() + nameDigits + randomDigits + unfinishedSuffix.size()
            && fileName.startsWith(unfinishedPrefix) && fileName.endsWith(unfinishedSuffix);
+}
+
+static void removeUnfinished(QDir folder, const QString &start)
+{
+    const QStringList names =
+        folder.entryList({start + QLatin1Char('*')}, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        if (isUnfinishedFileName(name))
+            folder.remove(name);
+    }
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return true;
+    return makeFolder(path)
+           && QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 void removeUnfinishedFiles(const QString &folder)
 {
-    QDir dir(folder);
-    const QStringList names = dir.entryList({unfinishedPrefix + QLatin1Char('*')},
-                                            QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QString &name : names) {
-        if (isUnfinishedFileName(name))
-            dir.remove(name);
-    }
+    removeUnfinished(QDir(folder), unfinishedPrefix);
+}
+
+void removeUnfinishedFilesOf(const QString &path)
+{
+    const QFileInfo info(path);
+    const QFileInfo target(info.isSymLink() ? info.symLinkTarget() : path);
+    const QByteArray name = QFile::encodeName(target.fileName());
+    removeUnfinished(target.absoluteDir(), QString::fromLatin1(unfinishedNameStart(name)));
 }
 
 #ifdef Q_OS_UNIX
@@ -260,6 +297,67 @@ bool renamePath(const QString &from, const QString &to, Durability durability)
            && (folderOf(source) == folderOf(target) || syncFolderAt(folderOf(source)));
 }
 
+Result<> createFile(const QString &path, QByteArrayView bytes, const WriteMessages &messages)
+{
+    const QByteArray name = QFile::encodeName(path);
+    const int handle = openFile(name, O_WRONLY | O_CREAT | O_EXCL, 0666);
+    if (handle < 0)
+        return failure(withPath(messages.cannotOpen, path));
+    bool written = writeAll(handle, bytes);
+#ifndef Q_OS_LINUX
+    written = written && syncHandle(handle, true); // no way to do it for all of them later
+#endif
+    if ((::close(handle) != 0 && errno != EINTR) || !written) {
+        ::unlink(name.constData());
+        return failure(withPath(messages.cannotWrite, path));
+    }
+    return {};
+}
+
+bool syncFileSystem(const QString &folder)
+{
+#ifdef Q_OS_LINUX
+    const int handle = openFile(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY);
+    if (handle < 0)
+        return false;
+    const bool done = ::syncfs(handle) == 0;
+    ::close(handle);
+    return done;
+#else
+    return syncFolder(folder);
+#endif
+}
+
+FileIdentity FileIdentity::of(const QString &path)
+{
+    FileIdentity identity;
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        return identity;
+    const auto nanoseconds = [](const timespec &time) {
+        return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+    };
+    identity.device = quint64(status.st_dev);
+    identity.node = quint64(status.st_ino);
+    identity.size = status.st_size;
+#ifdef Q_OS_MACOS
+    identity.modified = nanoseconds(status.st_mtimespec);
+    identity.changed = nanoseconds(status.st_ctimespec);
+#else
+    identity.modified = nanoseconds(status.st_mtim);
+    identity.changed = nanoseconds(status.st_ctim);
+#endif
+    return identity;
+}
+
+bool areSameFile(const QString &a, const QString &b)
+{
+    const FileIdentity first = FileIdentity::of(a);
+    const FileIdentity second = FileIdentity::of(b);
+    return first.isFile() && second.isFile() && first.device == second.device
+           && first.node == second.node;
+}
+
 struct AtomicFile::Handle
 {
     QByteArray target;
@@ -281,10 +379,11 @@ Result<> AtomicFile::open()
         return openFailure();
 
     const QByteArray folder = folderOf(handle.target);
+    const QByteArray start = unfinishedNameStart(
+        QByteArrayView(handle.target).sliced(handle.target.lastIndexOf('/') + 1));
     for (int attempt = 0; attempt < 16 && handle.file < 0; ++attempt) {
-        const QByteArray digits = QByteArray::number(QRandomGenerator::global()->generate64(), 16);
-        handle.temporary = folder + '/' + unfinishedPrefix.data()
-                           + digits.rightJustified(randomDigits, '0') + unfinishedSuffix.data();
+        const QByteArray digits = hexDigits(QRandomGenerator::global()->generate());
+        handle.temporary = folder + '/' + start + digits + unfinishedSuffix.data();
         handle.file = openFile(handle.temporary, O_WRONLY | O_CREAT | O_EXCL, 0666);
         if (handle.file < 0 && errno != EEXIST)
             break;
@@ -346,6 +445,7 @@ Result<> AtomicFile::moveIntoPlace()
     if (::rename(handle.temporary.constData(), handle.target.constData()) != 0)
         return writeFailure();
     handle.temporary.clear();
+    m_isInPlace = true;
     return {};
 }
 
@@ -473,6 +573,41 @@ bool renamePath(const QString &from, const QString &to, Durability)
     return QDir().rename(from, to);
 }
 
+Result<> createFile(const QString &path, QByteArrayView bytes, const WriteMessages &messages)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return failure(withPath(messages.cannotOpen, path));
+    if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush()) {
+        file.remove();
+        return failure(withPath(messages.cannotWrite, path));
+    }
+    return {};
+}
+
+bool syncFileSystem(const QString &)
+{
+    return true;
+}
+
+FileIdentity FileIdentity::of(const QString &path)
+{
+    FileIdentity identity;
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return identity;
+    identity.size = info.size();
+    identity.modified = info.lastModified().toMSecsSinceEpoch() * 1'000'000;
+    identity.changed = info.birthTime().toMSecsSinceEpoch() * 1'000'000;
+    return identity;
+}
+
+bool areSameFile(const QString &a, const QString &b)
+{
+    const QString first = QFileInfo(a).canonicalFilePath();
+    return !first.isEmpty() && first == QFileInfo(b).canonicalFilePath();
+}
+
 struct AtomicFile::Handle
 {
     std::unique_ptr<QSaveFile> file;
@@ -499,7 +634,8 @@ Result<> AtomicFile::finishWriting(bool)
 
 Result<> AtomicFile::moveIntoPlace()
 {
-    return m_handle->file->commit() ? Result<>() : writeFailure();
+    m_isInPlace = m_handle->file->commit();
+    return m_isInPlace ? Result<>() : writeFailure();
 }
 
 Result<> AtomicFile::commit(Durability)

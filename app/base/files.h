@@ -46,11 +46,15 @@ Result<QByteArray> readRegularFile(const QString &path, const QString &message,
 /// Whether a regular file stands there with exactly these bytes.
 bool fileHolds(const QString &path, QByteArrayView bytes);
 
-/// The message with the path, in native separators, in place of "%1".
+/// The message with the path, in native separators, in place of "%1"; an empty one stays empty.
 QString withPath(const QString &message, const QString &path);
 
 /// Makes a folder and its parents; true when it exists afterwards.
 bool makeFolder(const QString &path, Durability durability = Durability::Synced);
+
+/// Makes a folder that only this user may look into, and its parents; one that exists is left as it
+/// is. True when it exists afterwards.
+bool makePrivateFolder(const QString &path);
 
 /// Forces a folder's entries (new, renamed and removed files) to the disk; false when that failed.
 bool syncFolder(const QString &path);
@@ -65,9 +69,37 @@ bool renamePath(const QString &from, const QString &to, Durability durability = 
 /// Whether the file name is that of an unfinished write, left over when the program was killed.
 bool isUnfinishedFileName(const QString &fileName);
 
+/// Removes what unfinished writes of this one file left beside it. Only for a file that no other
+/// program is writing.
+void removeUnfinishedFilesOf(const QString &path);
+
 /// Removes what unfinished writes left directly in the folder. Only for a folder that no other
 /// program is writing to.
 void removeUnfinishedFiles(const QString &folder);
+
+/// Writes a file where none stands, directly under its name: for folders that nobody reads before
+/// all of them is there. Removes the file again when it could not be written whole.
+Result<> createFile(const QString &path, QByteArrayView bytes, const WriteMessages &messages);
+
+/// Forces everything written to the file system of this folder to the disk; false when that failed.
+bool syncFileSystem(const QString &folder);
+
+/// What the system tells of a file that stays the same as long as nobody replaces or writes it.
+struct FileIdentity
+{
+    quint64 device = 0;
+    quint64 node = 0;
+    qint64 size = -1;    ///< in bytes; -1 when there is no regular file
+    qint64 modified = 0; ///< in nanoseconds, like `changed`
+    qint64 changed = 0;
+
+    static FileIdentity of(const QString &path);
+    bool isFile() const { return size >= 0; }
+    bool operator==(const FileIdentity &) const = default;
+};
+
+/// Whether the two paths lead to one and the same existing file.
+bool areSameFile(const QString &a, const QString &b);
 
 /// One file being replaced as a whole: bytes go to a temporary beside it, which takes its name on
 /// commit. Unless committed the temporary is removed and the old file stays as it was. A symbolic
@@ -85,8 +117,10 @@ public:
     /// Appends bytes.
     Result<> write(QByteArrayView bytes);
     /// Puts the written bytes in the file's place. After a failure of the very last step, the sync
-    /// of the folder, the new file may stand already; at any other failure the old one does.
+    /// of the folder, the new file stands already; at any other failure the old one does.
     Result<> commit(Durability durability = Durability::Synced);
+    /// Whether the new file stands under its name.
+    bool isInPlace() const { return m_isInPlace; }
 
 private:
     friend class FileBatch;
@@ -101,6 +135,7 @@ private:
     QString m_path;
     WriteMessages m_messages;
     std::unique_ptr<Handle> m_handle;
+    bool m_isInPlace = false;
 };
 
 /// Replaces one file as a whole.

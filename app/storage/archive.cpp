@@ -98,27 +98,6 @@ bool isPlainMode(quint32 attributes, bool folder)
     return type == 0 || type == (folder ? 4U : 8U);
 }
 
-/// Distinct names, none of which is also a folder; a folder may be named by an entry of its own.
-bool namesAreDistinct(const std::vector<Archive::Entry> &entries)
-{
-    std::vector<QByteArrayView> names;
-    names.reserve(entries.size());
-    for (const Archive::Entry &entry : entries)
-        names.emplace_back(entry.name);
-    std::sort(names.begin(), names.end(), folderFirst);
-    for (size_t i = 1; i < names.size(); ++i) {
-        const QByteArrayView before = names[i - 1];
-        const QByteArrayView name = names[i];
-        if (name == before)
-            return false;
-        const bool inside = !isFolderName(before) && name.size() > before.size()
-                            && name.startsWith(before) && name[before.size()] == '/';
-        if (inside)
-            return false;
-    }
-    return true;
-}
-
 struct FreeDecompressor
 {
     void operator()(libdeflate_decompressor *it) const { libdeflate_free_decompressor(it); }
@@ -165,6 +144,22 @@ bool isSafeEntryName(QByteArrayView name)
         if (slash < 0)
             break;
         start = slash + 1;
+    }
+    return true;
+}
+
+bool areDistinctNames(std::vector<QByteArrayView> names)
+{
+    std::sort(names.begin(), names.end(), folderFirst);
+    for (size_t i = 1; i < names.size(); ++i) {
+        const QByteArrayView before = names[i - 1];
+        const QByteArrayView name = names[i];
+        if (name == before)
+            return false;
+        const bool inside = !isFolderName(before) && name.size() > before.size()
+                            && name.startsWith(before) && name[before.size()] == '/';
+        if (inside)
+            return false;
     }
     return true;
 }
@@ -316,8 +311,12 @@ bool Archive::readDirectory(const Directory &directory)
         all.push_back(std::move(entry));
         at = next;
     }
+    std::vector<QByteArrayView> names;
+    names.reserve(all.size());
+    for (const Entry &entry : all)
+        names.emplace_back(entry.name);
     if (at != directory.end || total > unsuspectedBytes + unsuspectedExpansion * m_bytes.size()
-        || !namesAreDistinct(all))
+        || !areDistinctNames(std::move(names)))
         return false;
 
     std::sort(extents.begin(), extents.end(),

@@ -16,6 +16,10 @@ namespace vl::app {
 /// letter, no NUL, valid UTF-8.
 bool isSafeEntryName(QByteArrayView name);
 
+/// Whether no name comes twice and none is also the folder of another. A name that ends in "/" is
+/// that of a folder.
+bool areDistinctNames(std::vector<QByteArrayView> names);
+
 /// Writes a ZIP archive of stored entries piece by piece into a sink. The same entries give the
 /// same bytes at any time: dates are fixed and nothing is compressed.
 class ArchiveWriter

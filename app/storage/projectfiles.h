@@ -3,6 +3,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <vector>
+
 namespace vl::app {
 
 /// One file of a project in memory.
@@ -13,5 +15,8 @@ struct ProjectFile
 
     bool operator==(const ProjectFile &) const = default;
 };
+
+/// All files that a project is read from or written as, each path once.
+using ProjectFiles = std::vector<ProjectFile>;
 
 } // namespace vl::app

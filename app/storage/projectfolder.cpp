@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 
 #include <algorithm>
@@ -99,6 +100,15 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
         return failure(withPath(ProjectFolder::unreadable(), current));
     std::sort(paths.begin(), paths.end());
     return paths;
+}
+
+void removeUnfinishedFilesUnder(const QString &folder)
+{
+    QDirIterator it(folder, QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                    QDirIterator::Subdirectories);
+    removeUnfinishedFiles(folder);
+    while (it.hasNext())
+        removeUnfinishedFiles(it.next());
 }
 
 Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path)

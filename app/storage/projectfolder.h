@@ -23,6 +23,9 @@ bool isReadPath(QByteArrayView path);
 /// no other system could unpack. What unfinished writes left behind is passed over.
 Result<std::vector<QByteArray>> listProjectFolder(const QString &folder);
 
+/// Removes what unfinished writes left anywhere under a folder that nobody else writes to.
+void removeUnfinishedFilesUnder(const QString &folder);
+
 /// Reads one file of a project folder; a link or a device fails like any other unreadable file.
 Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path);
 
