@@ -1,5 +1,6 @@
 #include "app/storage/projectstore.h"
 
+#include "app/storage/bundleprojectstore.h"
 #include "app/storage/projectfolder.h"
 
 #include <QtCore/QCoreApplication>
@@ -98,7 +99,10 @@ Result<OpenedStore> openStore(const QString &path)
 {
     const QFileInfo info(path);
     const QString absolute = QDir::cleanPath(info.absoluteFilePath());
-    return openFolder(absolute);
+    return info.isDir() ? openFolder(absolute)
+           : info.suffix().compare(QLatin1String("vellum"), Qt::CaseInsensitive) == 0
+               ? openBundleStore(absolute)
+               : openFolder(absolute);
 }
 
 Result<std::unique_ptr<ProjectStore>> newFolderStore(const QString &folder,
