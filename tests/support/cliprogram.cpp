@@ -1,7 +1,6 @@
 #include "tests/support/cliprogram.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
@@ -22,18 +21,6 @@ Outcome runCli(const QString &program, const QStringList &arguments, const QByte
                 QString::fromUtf8(process.readAllStandardError())};
     return {process.exitCode(), process.readAllStandardOutput(),
             QString::fromUtf8(process.readAllStandardError()).trimmed()};
-}
-
-QMap<QString, QByteArray> filesUnder(const QString &folder)
-{
-    QMap<QString, QByteArray> files;
-    QDirIterator iterator(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (iterator.hasNext()) {
-        QFile file(iterator.next());
-        files.insert(QDir(folder).relativeFilePath(file.fileName()),
-                     file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable"));
-    }
-    return files;
 }
 
 bool writeTestFile(const QString &path, const QByteArray &bytes)

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/support/folders.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -18,9 +19,6 @@ struct Outcome
 /// Runs the command-line program to its end.
 Outcome runCli(const QString &program, const QStringList &arguments, const QByteArray &input = {},
                const QString &workingFolder = {});
-
-/// All files under a folder with their bytes, by relative path.
-QMap<QString, QByteArray> filesUnder(const QString &folder);
 
 /// Writes a file, making its folder; false when that failed.
 bool writeTestFile(const QString &path, const QByteArray &bytes);
