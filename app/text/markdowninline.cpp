@@ -170,12 +170,24 @@ qsizetype urlEnd(QStringView text, qsizetype at)
     return -1;
 }
 
+/// Whether the text is this lower-case one, capitals of ASCII apart; other letters have no kin
+/// here, although Unicode folds a long s to an s.
+bool isText(QStringView text, QLatin1String lower)
+{
+    if (text.size() != lower.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if ((c >= u'A' && c <= u'Z' ? char16_t(c + 0x20) : c) != lower[i].unicode())
+            return false;
+    }
+    return true;
+}
+
 bool isAllowedScheme(QStringView scheme)
 {
-    for (const QLatin1String allowed :
-         {QLatin1String("http"), QLatin1String("https"), QLatin1String("mailto"),
-          QLatin1String("tel"), QLatin1String("ftp")}) {
-        if (scheme.compare(allowed, Qt::CaseInsensitive) == 0)
+    for (const char *const allowed : {"http", "https", "mailto", "tel", "ftp"}) {
+        if (isText(scheme, QLatin1String(allowed)))
             return true;
     }
     return false;
@@ -191,8 +203,8 @@ bool isSafeUrl(QStringView url, bool image)
     }
     if (colon == url.size() || isAllowedScheme(url.left(colon)))
         return true;
-    return image && url.left(colon).compare(QLatin1String("data"), Qt::CaseInsensitive) == 0
-           && url.mid(colon + 1, 6).compare(QLatin1String("image/"), Qt::CaseInsensitive) == 0;
+    return image && isText(url.left(colon), QLatin1String("data"))
+           && isText(url.mid(colon + 1, 6), QLatin1String("image/"));
 }
 
 } // namespace

@@ -209,8 +209,9 @@ private:
 
     static QString restored(QString text, const QStringList &codes, const QString &escapes)
     {
-        for (qsizetype i = 0; i < codes.size(); ++i)
-            text.replace(QChar(u'\0') + QString::number(i) + QChar(u'\0'), codes[i]);
+        static const auto marker = re("\\x00([0-9]+)\\x00");
+        text = replaced(text, marker,
+                        [&](const auto &match) { return codes[match.captured(1).toInt()]; });
         QString result;
         for (const QChar c : text) {
             if (c >= QChar(0xE000) && c.unicode() < 0xE000 + escapes.size())

@@ -89,6 +89,7 @@ void TestMarkdown::render_data()
         u"[x](javascript:alert(1)) [p](data:image/png;base64,AAA) ![p](data:text/html,x) [x](:a)",
         u"<p><a href=\"#\">x</a> <a href=\"#\">p</a> <img src=\"#\" alt=\"p\"/> "
         u"<a href=\"#\">x</a></p>\n");
+    row("a scheme with a long s", u"[x](http\u017F://a)", u"<p><a href=\"#\">x</a></p>\n");
     row("escaped colon", u"[x](javascript\\:a) [x](java\x01script\\:a) [x](http\\://a)",
         u"<p><a href=\"#\">x</a> <a href=\"#\">x</a> <a href=\"http://a\">x</a></p>\n");
     row("colon by a private-use character", u"[x](javascript\uE000a) \\:",
@@ -105,6 +106,8 @@ void TestMarkdown::render_data()
         u"<a href=\"#fnref-1\" class=\"footnote-backref\">\u21A9</a></p></li>\n"
         u"<li id=\"fn-2\"><p>A <a href=\"#fnref-2\" class=\"footnote-backref\">\u21A9</a></p>"
         u"</li>\n</ol>\n</section>\n");
+    row("a digit between code spans", u"`a` `b`1`c`",
+        u"<p><code>a</code> <code>b</code>1<code>c</code></p>\n");
     QTest::newRow("NUL makes no code marker")
         << QStringLiteral("`a` ") + QChar(u'\0') + u'0' + QChar(u'\0')
         << QStringLiteral("<p><code>a</code> 0</p>\n");
