@@ -81,11 +81,12 @@ private:
     void wantLargePages() const
     {
 #if defined(Q_OS_LINUX) && defined(MADV_HUGEPAGE)
-        constexpr quintptr pageSize = 1 << 21;
-        const quintptr first = (quintptr(m_data) + pageSize - 1) & ~(pageSize - 1);
-        const quintptr end = quintptr(m_data + m_capacity) & ~(pageSize - 1);
-        if (end > first)
-            madvise(reinterpret_cast<void *>(first), end - first, MADV_HUGEPAGE);
+        constexpr size_t pageSize = 1 << 21;
+        auto *const bytes = reinterpret_cast<char *>(m_data);
+        const size_t size = size_t(m_capacity) * sizeof(char16_t);
+        const size_t before = (pageSize - quintptr(bytes) % pageSize) % pageSize;
+        if (size >= before + pageSize) // advice only: that it may fail does not matter
+            madvise(bytes + before, (size - before) / pageSize * pageSize, MADV_HUGEPAGE);
 #endif
     }
 

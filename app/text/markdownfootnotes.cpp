@@ -14,14 +14,14 @@ std::vector<qsizetype> footnoteMarks(QStringView text)
 {
     std::vector<qsizetype> marks;
     const auto *const bytes = reinterpret_cast<const char *>(text.utf16());
-    const size_t size = size_t(text.size()) * sizeof(char16_t);
+    const auto size = size_t(text.size()) * sizeof(char16_t);
     size_t at = 0;
     while (at < size) {
         const void *const found = std::memchr(bytes + at, '^', size - at);
         if (found == nullptr)
             break;
         at = size_t(static_cast<const char *>(found) - bytes) + 1;
-        const qsizetype unit = qsizetype((at - 1) / sizeof(char16_t));
+        const auto unit = qsizetype((at - 1) / sizeof(char16_t));
         if (unit > 0 && text[unit] == u'^' && text[unit - 1] == u'[') {
             marks.push_back(unit - 1);
             at = size_t(unit + 1) * sizeof(char16_t);

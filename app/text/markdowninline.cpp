@@ -39,8 +39,8 @@ constexpr std::array<quint8, 128> makeClasses()
     std::array<quint8, 128> classes{};
     for (size_t c = 0; c < 0x20; ++c)
         classes[c] = c == '\t' || c == '\n' || c == '\r' ? Plain : Dropped;
-    for (const char c : {'"', '&', '*', '<', '>', '[', '\\', '`', '~'})
-        classes[size_t(c)] = Special;
+    for (const char16_t c : {u'"', u'&', u'*', u'<', u'>', u'[', u'\\', u'`', u'~'})
+        classes[c] = Special;
     return classes;
 }
 constexpr std::array<quint8, 128> classes = makeClasses();
