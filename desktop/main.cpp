@@ -2,6 +2,8 @@
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/theme.h"
 
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleFactory>
 
@@ -14,6 +16,18 @@ int main(int argc, char *argv[])
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
 
     vl::app::Settings settings;
+    const QString language = settings.text(vl::app::settings::language);
+    const QLocale locale = language.isEmpty() ? QLocale::system() : QLocale(language);
+    QLocale::setDefault(locale);
+    QTranslator texts;
+    if (texts.load(locale, QStringLiteral("ivorel"), QStringLiteral("_"), QStringLiteral(":/i18n"))
+        || texts.load(QStringLiteral(":/i18n/ivorel_en.qm"))) // for its plural forms
+        QCoreApplication::installTranslator(&texts);
+    QTranslator toolkitTexts;
+    if (toolkitTexts.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&toolkitTexts);
+
     vl::desktop::applyTheme(vl::desktop::themeNamed(settings.text(vl::app::settings::theme)));
 
     vl::desktop::MainWindow window(settings);

@@ -41,7 +41,7 @@ void SetFieldValueCommand::undo()
 
 QString SetFieldValueCommand::text() const
 {
-    return tr("Set field value");
+    return Command::tr("Set field value");
 }
 
 AddCategoryCommand::AddCategoryCommand(Project &project, const Category &category)
@@ -66,7 +66,7 @@ void AddCategoryCommand::undo()
 
 QString AddCategoryCommand::text() const
 {
-    return tr("Add category");
+    return Command::tr("Add category");
 }
 
 RemoveCategoryCommand::RemoveCategoryCommand(Project &project, const ContentId &categoryId)
@@ -104,7 +104,7 @@ void RemoveCategoryCommand::undo()
 
 QString RemoveCategoryCommand::text() const
 {
-    return tr("Remove category");
+    return Command::tr("Remove category");
 }
 
 RenameCategoryCommand::RenameCategoryCommand(Project &project, const ContentId &categoryId,
@@ -134,7 +134,7 @@ void RenameCategoryCommand::undo()
 
 QString RenameCategoryCommand::text() const
 {
-    return tr("Rename category");
+    return Command::tr("Rename category");
 }
 
 MoveCategoryCommand::MoveCategoryCommand(Project &project, const ContentId &categoryId,
@@ -168,7 +168,7 @@ void MoveCategoryCommand::undo()
 
 QString MoveCategoryCommand::text() const
 {
-    return tr("Move category");
+    return Command::tr("Move category");
 }
 
 AddFieldCommand::AddFieldCommand(Project &project, const ContentId &categoryId,
@@ -199,7 +199,7 @@ void AddFieldCommand::undo()
 
 QString AddFieldCommand::text() const
 {
-    return tr("Add field");
+    return Command::tr("Add field");
 }
 
 RemoveFieldCommand::RemoveFieldCommand(Project &project, const ContentId &categoryId,
@@ -229,7 +229,7 @@ void RemoveFieldCommand::undo()
 
 QString RemoveFieldCommand::text() const
 {
-    return tr("Remove field");
+    return Command::tr("Remove field");
 }
 
 MoveFieldCommand::MoveFieldCommand(Project &project, const ContentId &categoryId,
@@ -261,7 +261,7 @@ void MoveFieldCommand::undo()
 
 QString MoveFieldCommand::text() const
 {
-    return tr("Move field");
+    return Command::tr("Move field");
 }
 
 SetFieldCommand::SetFieldCommand(Project &project, const ContentId &categoryId,
@@ -291,7 +291,7 @@ void SetFieldCommand::undo()
 
 QString SetFieldCommand::text() const
 {
-    return tr("Edit field");
+    return Command::tr("Edit field");
 }
 
 } // namespace vl::core

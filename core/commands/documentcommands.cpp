@@ -48,7 +48,7 @@ void SetDocumentBodyCommand::keepDifference(const QString &before, const QString
 
 QString SetDocumentBodyCommand::text() const
 {
-    return tr("Edit document body");
+    return Command::tr("Edit document body");
 }
 
 MoveDocumentCommand::MoveDocumentCommand(Project &project, const ContentId &documentId,
@@ -138,7 +138,7 @@ void MoveDocumentCommand::undo()
 
 QString MoveDocumentCommand::text() const
 {
-    return tr("Move document");
+    return Command::tr("Move document");
 }
 
 } // namespace vl::core

@@ -27,7 +27,7 @@ void AddObjectCommand::undo()
 
 QString AddObjectCommand::text() const
 {
-    return tr("Add object");
+    return Command::tr("Add object");
 }
 
 RemoveObjectCommand::RemoveObjectCommand(Project &project, const ContentId &id)
@@ -53,7 +53,7 @@ void RemoveObjectCommand::undo()
 
 QString RemoveObjectCommand::text() const
 {
-    return tr("Remove object");
+    return Command::tr("Remove object");
 }
 
 SetPinnedCommand::SetPinnedCommand(Project &project, const ContentId &id, bool pinned)
@@ -77,7 +77,7 @@ void SetPinnedCommand::undo()
 
 QString SetPinnedCommand::text() const
 {
-    return m_pinned ? tr("Pin") : tr("Unpin");
+    return m_pinned ? Command::tr("Pin") : Command::tr("Unpin");
 }
 
 } // namespace vl::core

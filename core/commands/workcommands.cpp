@@ -24,7 +24,7 @@ void SetTaskDoneCommand::undo()
 
 QString SetTaskDoneCommand::text() const
 {
-    return m_done ? tr("Complete task") : tr("Reopen task");
+    return m_done ? Command::tr("Complete task") : Command::tr("Reopen task");
 }
 
 MoveTaskCommand::MoveTaskCommand(Project &project, const ContentId &taskId, int newPosition)
@@ -73,7 +73,7 @@ void MoveTaskCommand::undo()
 
 QString MoveTaskCommand::text() const
 {
-    return tr("Move task");
+    return Command::tr("Move task");
 }
 
 SetSpreadsheetCellCommand::SetSpreadsheetCellCommand(Spreadsheet &spreadsheet,
@@ -99,7 +99,7 @@ void SetSpreadsheetCellCommand::undo()
 
 QString SetSpreadsheetCellCommand::text() const
 {
-    return tr("Edit cell");
+    return Command::tr("Edit cell");
 }
 
 SetCellFormatsCommand::SetCellFormatsCommand(Spreadsheet &spreadsheet, CellFormats formats,

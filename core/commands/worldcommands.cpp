@@ -31,7 +31,7 @@ void SetCanvasCardCommand::undo()
 
 QString SetCanvasCardCommand::text() const
 {
-    return tr("Move card");
+    return Command::tr("Move card");
 }
 
 RemoveCanvasCardCommand::RemoveCanvasCardCommand(Canvas &canvas, const ContentId &objectId)
@@ -55,7 +55,7 @@ void RemoveCanvasCardCommand::undo()
 
 QString RemoveCanvasCardCommand::text() const
 {
-    return tr("Remove card");
+    return Command::tr("Remove card");
 }
 
 AddCanvasConnectionCommand::AddCanvasConnectionCommand(Canvas &canvas,
@@ -78,7 +78,7 @@ void AddCanvasConnectionCommand::undo()
 
 QString AddCanvasConnectionCommand::text() const
 {
-    return tr("Connect cards");
+    return Command::tr("Connect cards");
 }
 
 RemoveCanvasConnectionCommand::RemoveCanvasConnectionCommand(Canvas &canvas,
@@ -103,7 +103,7 @@ void RemoveCanvasConnectionCommand::undo()
 
 QString RemoveCanvasConnectionCommand::text() const
 {
-    return tr("Disconnect cards");
+    return Command::tr("Disconnect cards");
 }
 
 AddMediaAnnotationCommand::AddMediaAnnotationCommand(Media &media,
@@ -126,7 +126,7 @@ void AddMediaAnnotationCommand::undo()
 
 QString AddMediaAnnotationCommand::text() const
 {
-    return tr("Add annotation");
+    return Command::tr("Add annotation");
 }
 
 RemoveMediaAnnotationCommand::RemoveMediaAnnotationCommand(Media &media, int index)
@@ -152,7 +152,7 @@ void RemoveMediaAnnotationCommand::undo()
 
 QString RemoveMediaAnnotationCommand::text() const
 {
-    return tr("Remove annotation");
+    return Command::tr("Remove annotation");
 }
 
 } // namespace vl::core

@@ -1,5 +1,6 @@
 #include "desktop/shell/theme.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleFactory>
 
@@ -10,14 +11,14 @@ namespace vl::desktop {
 namespace {
 
 constexpr Theme table[] = {
-    {"Light", false, 0xfff0f0f0, 0xff1a1a1a, 0xffffffff, 0xff1a1a1a, 0xffe8e8e8, 0xff1a1a1a,
-     0xff2f6fdb, 0xffffffff, 0xff1a5fb4},
-    {"Dark", true, 0xff2b2b2b, 0xffe6e6e6, 0xff1e1e1e, 0xffe6e6e6, 0xff3a3a3a, 0xffe6e6e6,
-     0xff4a86e8, 0xffffffff, 0xff8ab4f8},
-    {"High Contrast", true, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff, 0xff000000, 0xffffffff,
-     0xffffff00, 0xff000000, 0xff00ffff},
-    {"Sepia", false, 0xfff4ecd8, 0xff3b2f1e, 0xfffaf3e0, 0xff3b2f1e, 0xffece0c8, 0xff3b2f1e,
-     0xffb5895f, 0xffffffff, 0xff7a4f1c},
+    {QT_TRANSLATE_NOOP("Themes", "Light"), false, 0xfff0f0f0, 0xff1a1a1a, 0xffffffff, 0xff1a1a1a,
+     0xffe8e8e8, 0xff1a1a1a, 0xff2f6fdb, 0xffffffff, 0xff1a5fb4},
+    {QT_TRANSLATE_NOOP("Themes", "Dark"), true, 0xff2b2b2b, 0xffe6e6e6, 0xff1e1e1e, 0xffe6e6e6,
+     0xff3a3a3a, 0xffe6e6e6, 0xff4a86e8, 0xffffffff, 0xff8ab4f8},
+    {QT_TRANSLATE_NOOP("Themes", "High Contrast"), true, 0xff000000, 0xffffffff, 0xff000000,
+     0xffffffff, 0xff000000, 0xffffffff, 0xffffff00, 0xff000000, 0xff00ffff},
+    {QT_TRANSLATE_NOOP("Themes", "Sepia"), false, 0xfff4ecd8, 0xff3b2f1e, 0xfffaf3e0, 0xff3b2f1e,
+     0xffece0c8, 0xff3b2f1e, 0xffb5895f, 0xffffffff, 0xff7a4f1c},
 };
 
 } // namespace

@@ -1,0 +1,1775 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>Actions</name>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;New Project…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Open…</translation>
+    </message>
+    <message>
+        <source>Open Project Fol&amp;der…</source>
+        <translation>Open Project Fol&amp;der…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Save &amp;As…</translation>
+    </message>
+    <message>
+        <source>Save as Fo&amp;lder…</source>
+        <translation>Save as Fo&amp;lder…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Document…</source>
+        <translation>Document…</translation>
+    </message>
+    <message>
+        <source>Note…</source>
+        <translation>Note…</translation>
+    </message>
+    <message>
+        <source>Document Inside</source>
+        <translation>Document Inside</translation>
+    </message>
+    <message>
+        <source>Split Document at Cursor</source>
+        <translation>Split Document at Cursor</translation>
+    </message>
+    <message>
+        <source>Move Document Up</source>
+        <translation>Move Document Up</translation>
+    </message>
+    <message>
+        <source>Move Document Down</source>
+        <translation>Move Document Down</translation>
+    </message>
+    <message>
+        <source>Promote Document</source>
+        <translation>Promote Document</translation>
+    </message>
+    <message>
+        <source>Demote</source>
+        <translation>Demote</translation>
+    </message>
+    <message>
+        <source>Next Panel</source>
+        <translation>Next Panel</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>&amp;Reset Layout</translation>
+    </message>
+    <message>
+        <source>About Ivorel</source>
+        <translation>About Ivorel</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMembers</name>
+    <message>
+        <source>The texts in "%1" must be strings.</source>
+        <translation>The texts in "%1" must be strings.</translation>
+    </message>
+</context>
+<context>
+    <name>Panels</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Close %1</translation>
+    </message>
+    <message>
+        <source>Panel area button</source>
+        <translation>Panel area button</translation>
+    </message>
+</context>
+<context>
+    <name>ReckoningView</name>
+    <message>
+        <source>New reckoning</source>
+        <translation>New reckoning</translation>
+    </message>
+</context>
+<context>
+    <name>Themes</name>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>High Contrast</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app</name>
+    <message>
+        <source>Rule "%1" refers to an entity that is no longer in the project.</source>
+        <translation>Rule "%1" refers to an entity that is no longer in the project.</translation>
+    </message>
+    <message>
+        <source>Rule "%1": %2's %3 %4 "%5", but is "%6".</source>
+        <translation>Rule "%1": %2's %3 %4 "%5", but is "%6".</translation>
+    </message>
+    <message>
+        <source>must not be</source>
+        <translation>must not be</translation>
+    </message>
+    <message>
+        <source>must be</source>
+        <translation>must be</translation>
+    </message>
+    <message>
+        <source>(unset)</source>
+        <translation>(unset)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Assets</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>Cannot create project folder: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>Failed to write file: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BundleProjectStore</name>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>The project changed outside Ivorel since you opened it.</translation>
+    </message>
+    <message>
+        <source>The project file is gone: %1</source>
+        <translation>The project file is gone: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CalendarText</name>
+    <message>
+        <source>%1 %2, Year %3</source>
+        <extracomment>A full date: %1 is the day, %2 the month, %3 the year. Typed dates are read back from this form, so keep the word for "Year" equal to the one translated below.</extracomment>
+        <translation>%1 %2, Year %3</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
+        <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ContinuityChecker</name>
+    <message>
+        <source>An entity</source>
+        <translation>An entity</translation>
+    </message>
+    <message>
+        <source>Untitled event</source>
+        <translation>Untitled event</translation>
+    </message>
+    <message>
+        <source>"%1" happens at a location that no longer exists.</source>
+        <translation>"%1" happens at a location that no longer exists.</translation>
+    </message>
+    <message>
+        <source>"%1" lists a participant that no longer exists.</source>
+        <translation>"%1" lists a participant that no longer exists.</translation>
+    </message>
+    <message>
+        <source>%1 is in two places at once: "%2" and "%3".</source>
+        <translation>%1 is in two places at once: "%2" and "%3".</translation>
+    </message>
+    <message>
+        <source>%1 takes part in "%2" before being born.</source>
+        <translation>%1 takes part in "%2" before being born.</translation>
+    </message>
+    <message>
+        <source>%1 takes part in "%2" after death.</source>
+        <translation>%1 takes part in "%2" after death.</translation>
+    </message>
+    <message>
+        <source>%1 cannot travel from %2 to %3 in time between "%4" and "%5".</source>
+        <translation>%1 cannot travel from %2 to %3 in time between "%4" and "%5".</translation>
+    </message>
+    <message>
+        <source>must start after</source>
+        <translation>must start after</translation>
+    </message>
+    <message>
+        <source>must end before</source>
+        <translation>must end before</translation>
+    </message>
+    <message>
+        <source>must happen during</source>
+        <translation>must happen during</translation>
+    </message>
+    <message>
+        <source>"%1" %2 "%3", but does not.</source>
+        <extracomment>%1 and %3 are titles of events, %2 is one of the phrases "must start after" and so on.</extracomment>
+        <translation>"%1" %2 "%3", but does not.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::DocumentOperations</name>
+    <message>
+        <source>Add note</source>
+        <translation>Add note</translation>
+    </message>
+    <message>
+        <source>Add document</source>
+        <translation>Add document</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>New Note</translation>
+    </message>
+    <message>
+        <source>New Document</source>
+        <translation>New Document</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n note</numerusform><numerusform>%n notes</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n document</numerusform><numerusform>%n documents</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scene(s)</source>
+        <translation>
+            <numerusform>%n scene</numerusform><numerusform>%n scenes</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s)</source>
+        <comment>with the number written out by the program</comment>
+        <translation>
+            <numerusform>%n word</numerusform><numerusform>%n words</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete %1, %2?</source>
+        <translation>Delete %1, %2?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n document(s)</source>
+        <translation>
+            <numerusform>Delete %n document</numerusform><numerusform>Delete %n documents</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n document(s)</source>
+        <translation>
+            <numerusform>Move %n document</numerusform><numerusform>Move %n documents</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Promote %n document(s)</source>
+        <translation>
+            <numerusform>Promote %n document</numerusform><numerusform>Promote %n documents</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Demote %n document(s)</source>
+        <translation>
+            <numerusform>Demote %n document</numerusform><numerusform>Demote %n documents</numerusform></translation>
+    </message>
+    <message>
+        <source>Change document kind</source>
+        <translation>Change document kind</translation>
+    </message>
+    <message>
+        <source>Split document</source>
+        <translation>Split document</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (continued)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::DocumentsModel</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n word(s)</source>
+        <translation>
+            <numerusform>%1, %n word</numerusform><numerusform>%1, %n words</numerusform></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FileMerge</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>Not a text file, so it cannot be merged: %1</source>
+        <translation>Not a text file, so it cannot be merged: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderMerge</name>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>The project folder does not exist: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>The output folder is not empty: %1</source>
+        <translation>The output folder is not empty: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>Failed to write file: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>Cannot create project folder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderReader</name>
+    <message>
+        <source>Skipped a hidden file: %1</source>
+        <translation>Skipped a hidden file: %1</translation>
+    </message>
+    <message>
+        <source>Skipped a link: %1</source>
+        <translation>Skipped a link: %1</translation>
+    </message>
+    <message>
+        <source>Skipped a folder that lies too deep: %1</source>
+        <translation>Skipped a folder that lies too deep: %1</translation>
+    </message>
+    <message>
+        <source>Skipped, not a text file: %1</source>
+        <translation>Skipped, not a text file: %1</translation>
+    </message>
+    <message>
+        <source>Skipped, too much was read already: %1</source>
+        <translation>Skipped, too much was read already: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read folder: %1</source>
+        <translation>Cannot read folder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderWriter</name>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>Failed to write file: %1</translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>The project changed outside Ivorel since you opened it.</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>Cannot create project folder: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create taxonomy folder: %1</source>
+        <translation>Cannot create taxonomy folder: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::HealthReport</name>
+    <message>
+        <source>%1 (%2 words)</source>
+        <translation>%1 (%2 words)</translation>
+    </message>
+    <message>
+        <source>Untitled (%1)</source>
+        <translation>Untitled (%1)</translation>
+    </message>
+    <message>
+        <source>Manuscript health report</source>
+        <translation>Manuscript health report</translation>
+    </message>
+    <message>
+        <source>Manuscript health report: %1</source>
+        <translation>Manuscript health report: %1</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Overview</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Scenes</translation>
+    </message>
+    <message>
+        <source>Documents without text</source>
+        <translation>Documents without text</translation>
+    </message>
+    <message>
+        <source>Average scene</source>
+        <translation>Average scene</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 words</translation>
+    </message>
+    <message>
+        <source>Median scene</source>
+        <translation>Median scene</translation>
+    </message>
+    <message>
+        <source>Longest scene</source>
+        <translation>Longest scene</translation>
+    </message>
+    <message>
+        <source>Shortest scene</source>
+        <translation>Shortest scene</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Reading time</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Manuscript pages</source>
+        <translation>Manuscript pages</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Paragraphs</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Share</translation>
+    </message>
+    <message>
+        <source>(no status)</source>
+        <translation>(no status)</translation>
+    </message>
+    <message>
+        <source>Dialogue and narration</source>
+        <translation>Dialogue and narration</translation>
+    </message>
+    <message>
+        <source>There is no prose to measure.</source>
+        <translation>There is no prose to measure.</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialogue</translation>
+    </message>
+    <message>
+        <source>%1 words (%2)</source>
+        <translation>%1 words (%2)</translation>
+    </message>
+    <message>
+        <source>Narration</source>
+        <translation>Narration</translation>
+    </message>
+    <message>
+        <source>Passages of speech</source>
+        <translation>Passages of speech</translation>
+    </message>
+    <message>
+        <source>Words in a passage</source>
+        <translation>Words in a passage</translation>
+    </message>
+    <message>
+        <source>Scenes without dialogue</source>
+        <translation>Scenes without dialogue</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Most dialogue</source>
+        <translation>Most dialogue</translation>
+    </message>
+    <message>
+        <source>Least dialogue</source>
+        <translation>Least dialogue</translation>
+    </message>
+    <message>
+        <source>very easy</source>
+        <translation>very easy</translation>
+    </message>
+    <message>
+        <source>easy</source>
+        <translation>easy</translation>
+    </message>
+    <message>
+        <source>fairly easy</source>
+        <translation>fairly easy</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>plain</translation>
+    </message>
+    <message>
+        <source>fairly hard</source>
+        <translation>fairly hard</translation>
+    </message>
+    <message>
+        <source>hard</source>
+        <translation>hard</translation>
+    </message>
+    <message>
+        <source>very hard</source>
+        <translation>very hard</translation>
+    </message>
+    <message>
+        <source>Readability</source>
+        <translation>Readability</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Sentences</translation>
+    </message>
+    <message>
+        <source>Words in a sentence</source>
+        <translation>Words in a sentence</translation>
+    </message>
+    <message>
+        <source>Longest sentence</source>
+        <translation>Longest sentence</translation>
+    </message>
+    <message>
+        <source>Sentences in a paragraph</source>
+        <translation>Sentences in a paragraph</translation>
+    </message>
+    <message>
+        <source>Syllables in a word</source>
+        <translation>Syllables in a word</translation>
+    </message>
+    <message>
+        <source>Words of three syllables or more</source>
+        <translation>Words of three syllables or more</translation>
+    </message>
+    <message>
+        <source>Flesch reading ease</source>
+        <translation>Flesch reading ease</translation>
+    </message>
+    <message>
+        <source>Flesch–Kincaid grade</source>
+        <translation>Flesch–Kincaid grade</translation>
+    </message>
+    <message>
+        <source>Gunning fog index</source>
+        <translation>Gunning fog index</translation>
+    </message>
+    <message>
+        <source>Easiest scene</source>
+        <translation>Easiest scene</translation>
+    </message>
+    <message>
+        <source>Hardest scene</source>
+        <translation>Hardest scene</translation>
+    </message>
+    <message>
+        <source>Point-of-view balance</source>
+        <translation>Point-of-view balance</translation>
+    </message>
+    <message>
+        <source>No scene names a point of view.</source>
+        <translation>No scene names a point of view.</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Point of view</translation>
+    </message>
+    <message>
+        <source>Longest run</source>
+        <translation>Longest run</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(none)</translation>
+    </message>
+    <message>
+        <source>The longest run counts scenes in a row from one point of view.</source>
+        <translation>The longest run counts scenes in a row from one point of view.</translation>
+    </message>
+    <message>
+        <source>World coverage</source>
+        <translation>World coverage</translation>
+    </message>
+    <message>
+        <source>The codex has no entities.</source>
+        <translation>The codex has no entities.</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entities</translation>
+    </message>
+    <message>
+        <source>Mentioned</source>
+        <translation>Mentioned</translation>
+    </message>
+    <message>
+        <source>Never mentioned</source>
+        <translation>Never mentioned</translation>
+    </message>
+    <message>
+        <source>Without a category</source>
+        <translation>Without a category</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entity</translation>
+    </message>
+    <message>
+        <source>Mentions</source>
+        <translation>Mentions</translation>
+    </message>
+    <message>
+        <source>First scene</source>
+        <translation>First scene</translation>
+    </message>
+    <message>
+        <source>Last scene</source>
+        <translation>Last scene</translation>
+    </message>
+    <message>
+        <source>Never mentioned: %1</source>
+        <translation>Never mentioned: %1</translation>
+    </message>
+    <message>
+        <source>Writing style</source>
+        <translation>Writing style</translation>
+    </message>
+    <message>
+        <source>No style issues flagged.</source>
+        <translation>No style issues flagged.</translation>
+    </message>
+    <message>
+        <source>| Category | Issues |</source>
+        <translation>| Category | Issues |</translation>
+    </message>
+    <message>
+        <source>| **Total** | %1 |</source>
+        <translation>| **Total** | %1 |</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Import</name>
+    <message>
+        <source>Import documents</source>
+        <translation>Import documents</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::MarkdownImport</name>
+    <message>
+        <source>Front Matter</source>
+        <translation>Front Matter</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OpenProject</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>This project has no save location yet; use saveAs().</source>
+        <translation>This project has no save location yet; use saveAs().</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::PlainTextImport</name>
+    <message>
+        <source>Front Matter</source>
+        <translation>Front Matter</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectFlows</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Open Project</translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>The project changed outside Ivorel since you opened it.</translation>
+    </message>
+    <message>
+        <source>Saving puts your version in place of what was changed there. To keep both, save under another name.</source>
+        <translation>Saving puts your version in place of what was changed there. To keep both, save under another name.</translation>
+    </message>
+    <message>
+        <source>Save My Version</source>
+        <translation>Save My Version</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Save Project</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectFolder</name>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>Could not read a project file: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>The project folder does not exist: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>Could not write a project file: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>Could not create the folder for: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectReader</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>The project folder does not exist: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON in file: %1</source>
+        <translation>Invalid JSON in file: %1</translation>
+    </message>
+    <message>
+        <source>Malformed object file: %1</source>
+        <translation>Malformed object file: %1</translation>
+    </message>
+    <message>
+        <source>Duplicate object id %1 in %2</source>
+        <translation>Duplicate object id %1 in %2</translation>
+    </message>
+    <message>
+        <source>Malformed category file: %1</source>
+        <translation>Malformed category file: %1</translation>
+    </message>
+    <message>
+        <source>Malformed field in category: %1</source>
+        <translation>Malformed field in category: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectStore</name>
+    <message>
+        <source>The folder is not empty: %1</source>
+        <translation>The folder is not empty: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Reconcile</name>
+    <message>
+        <source>the reconcile has conflicts to resolve first</source>
+        <translation>the reconcile has conflicts to resolve first</translation>
+    </message>
+    <message>
+        <source>the merged file '%1' would not be valid</source>
+        <translation>the merged file '%1' would not be valid</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::StyleRule</name>
+    <message>
+        <source>Hard-to-read sentences</source>
+        <translation>Hard-to-read sentences</translation>
+    </message>
+    <message>
+        <source>Passive voice</source>
+        <translation>Passive voice</translation>
+    </message>
+    <message>
+        <source>Crutch words</source>
+        <translation>Crutch words</translation>
+    </message>
+    <message>
+        <source>Repeated words</source>
+        <translation>Repeated words</translation>
+    </message>
+    <message>
+        <source>Wordy phrases</source>
+        <translation>Wordy phrases</translation>
+    </message>
+    <message>
+        <source>Weak adverbs</source>
+        <translation>Weak adverbs</translation>
+    </message>
+    <message>
+        <source>Clichés</source>
+        <translation>Clichés</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Other</translation>
+    </message>
+    <message>
+        <source>Passive voice: %1</source>
+        <translation>Passive voice: %1</translation>
+    </message>
+    <message>
+        <source>Filler word: %1</source>
+        <translation>Filler word: %1</translation>
+    </message>
+    <message>
+        <source>Repeated word: %1</source>
+        <translation>Repeated word: %1</translation>
+    </message>
+    <message>
+        <source>Adverb: %1. Consider a stronger verb.</source>
+        <translation>Adverb: %1. Consider a stronger verb.</translation>
+    </message>
+    <message>
+        <source>Cliché: %1</source>
+        <translation>Cliché: %1</translation>
+    </message>
+    <message>
+        <source>Wordy: %1 → %2</source>
+        <translation>Wordy: %1 → %2</translation>
+    </message>
+    <message>
+        <source>Long sentence (%1 words). Consider breaking it up.</source>
+        <translation>Long sentence (%1 words). Consider breaking it up.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Arguments</name>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>Unknown option: %1</translation>
+    </message>
+    <message>
+        <source>The option --%1 is given twice.</source>
+        <translation>The option --%1 is given twice.</translation>
+    </message>
+    <message>
+        <source>The option --%1 takes no value.</source>
+        <translation>The option --%1 takes no value.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>The option --%1 needs a value.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 is missing.</translation>
+    </message>
+    <message>
+        <source>Too many arguments: %1</source>
+        <translation>Too many arguments: %1</translation>
+    </message>
+    <message>
+        <source>The option --%1 is missing.</source>
+        <translation>The option --%1 is missing.</translation>
+    </message>
+    <message>
+        <source>Cannot read from standard input.</source>
+        <translation>Cannot read from standard input.</translation>
+    </message>
+    <message>
+        <source>Reading the project…</source>
+        <translation>Reading the project…</translation>
+    </message>
+    <message>
+        <source>Checking the continuity…</source>
+        <translation>Checking the continuity…</translation>
+    </message>
+    <message>
+        <source>Unknown format: %1</source>
+        <translation>Unknown format: %1</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Exporting…</translation>
+    </message>
+    <message>
+        <source>Making the report…</source>
+        <translation>Making the report…</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>categories</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>words</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>Rendering…</source>
+        <translation>Rendering…</translation>
+    </message>
+    <message>
+        <source>Checking the style…</source>
+        <translation>Checking the style…</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Batch</name>
+    <message>
+        <source>Unknown unit: %1</source>
+        <translation>Unknown unit: %1</translation>
+    </message>
+    <message>
+        <source>The member "%1" is missing.</source>
+        <translation>The member "%1" is missing.</translation>
+    </message>
+    <message>
+        <source>The member "%1" must be %2.</source>
+        <translation>The member "%1" must be %2.</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>a string</translation>
+    </message>
+    <message>
+        <source>a string or null</source>
+        <translation>a string or null</translation>
+    </message>
+    <message>
+        <source>an integer of 64 bits</source>
+        <translation>an integer of 64 bits</translation>
+    </message>
+    <message>
+        <source>an integer from %1 to %2</source>
+        <translation>an integer from %1 to %2</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>an array</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>an object</translation>
+    </message>
+    <message>
+        <source>Unknown op: %1</source>
+        <translation>Unknown op: %1</translation>
+    </message>
+    <message>
+        <source>The line is not a JSON object.</source>
+        <translation>The line is not a JSON object.</translation>
+    </message>
+    <message>
+        <source>The line is too long.</source>
+        <translation>The line is too long.</translation>
+    </message>
+    <message>
+        <source>The member "%1" is empty.</source>
+        <translation>The member "%1" is empty.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Catalogue</name>
+    <message>
+        <source>Count what a project holds</source>
+        <translation>Count what a project holds</translation>
+    </message>
+    <message>
+        <source>Tell whether a project loads</source>
+        <translation>Tell whether a project loads</translation>
+    </message>
+    <message>
+        <source>Turn Markdown into an HTML fragment</source>
+        <translation>Turn Markdown into an HTML fragment</translation>
+    </message>
+    <message>
+        <source>Check the style of a text, or of a project</source>
+        <translation>Check the style of a text, or of a project</translation>
+    </message>
+    <message>
+        <source>Find where the story contradicts itself: the timeline, then the rules</source>
+        <translation>Find where the story contradicts itself: the timeline, then the rules</translation>
+    </message>
+    <message>
+        <source>Report how the manuscript stands, as “markdown” or “html”</source>
+        <translation>Report how the manuscript stands, as “markdown” or “html”</translation>
+    </message>
+    <message>
+        <source>Write the manuscript as “rtf”</source>
+        <translation>Write the manuscript as “rtf”</translation>
+    </message>
+    <message>
+        <source>Answer JSON requests, one a line</source>
+        <translation>Answer JSON requests, one a line</translation>
+    </message>
+    <message>
+        <source>Usage: %1 COMMAND [ARGUMENT…]</source>
+        <translation>Usage: %1 COMMAND [ARGUMENT…]</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commands:</translation>
+    </message>
+    <message>
+        <source>PROJECT is a project folder or a “.vellum” file. FILE may be “-” for standard input or output.</source>
+        <translation>PROJECT is a project folder or a “.vellum” file. FILE may be “-” for standard input or output.</translation>
+    </message>
+    <message>
+        <source>“%1 COMMAND --help” tells more about a command, “%1 --version” the version.</source>
+        <translation>“%1 COMMAND --help” tells more about a command, “%1 --version” the version.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done; 1 done, with something to report; 2 wrong usage; 3 failed.</source>
+        <translation>Exit status: 0 done; 1 done, with something to report; 2 wrong usage; 3 failed.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Usage: %1</translation>
+    </message>
+    <message>
+        <source>No command is given.</source>
+        <translation>No command is given.</translation>
+    </message>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>Unknown option: %1</translation>
+    </message>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>Unknown command: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Main</name>
+    <message>
+        <source>Cannot write to standard output.</source>
+        <translation>Cannot write to standard output.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::ProjectSource</name>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>Could not open the project file: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>Not a valid Ivorel project file: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::TextFile</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read from standard input.</source>
+        <translation>Cannot read from standard input.</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>Failed to write file: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::core::Command</name>
+    <message>
+        <source>Set field value</source>
+        <translation>Set field value</translation>
+    </message>
+    <message>
+        <source>Add category</source>
+        <translation>Add category</translation>
+    </message>
+    <message>
+        <source>Remove category</source>
+        <translation>Remove category</translation>
+    </message>
+    <message>
+        <source>Rename category</source>
+        <translation>Rename category</translation>
+    </message>
+    <message>
+        <source>Move category</source>
+        <translation>Move category</translation>
+    </message>
+    <message>
+        <source>Add field</source>
+        <translation>Add field</translation>
+    </message>
+    <message>
+        <source>Remove field</source>
+        <translation>Remove field</translation>
+    </message>
+    <message>
+        <source>Move field</source>
+        <translation>Move field</translation>
+    </message>
+    <message>
+        <source>Edit field</source>
+        <translation>Edit field</translation>
+    </message>
+    <message>
+        <source>Rename entity</source>
+        <translation>Rename entity</translation>
+    </message>
+    <message>
+        <source>Move entity</source>
+        <translation>Move entity</translation>
+    </message>
+    <message>
+        <source>Set aliases</source>
+        <translation>Set aliases</translation>
+    </message>
+    <message>
+        <source>Set entity gallery</source>
+        <translation>Set entity gallery</translation>
+    </message>
+    <message>
+        <source>Edit lifespan</source>
+        <translation>Edit lifespan</translation>
+    </message>
+    <message>
+        <source>Set state over time</source>
+        <translation>Set state over time</translation>
+    </message>
+    <message>
+        <source>Edit document body</source>
+        <translation>Edit document body</translation>
+    </message>
+    <message>
+        <source>Move document</source>
+        <translation>Move document</translation>
+    </message>
+    <message>
+        <source>Rename document</source>
+        <translation>Rename document</translation>
+    </message>
+    <message>
+        <source>Change document kind</source>
+        <translation>Change document kind</translation>
+    </message>
+    <message>
+        <source>Edit synopsis</source>
+        <translation>Edit synopsis</translation>
+    </message>
+    <message>
+        <source>Edit status</source>
+        <translation>Edit status</translation>
+    </message>
+    <message>
+        <source>Edit point of view</source>
+        <translation>Edit point of view</translation>
+    </message>
+    <message>
+        <source>Edit tension</source>
+        <translation>Edit tension</translation>
+    </message>
+    <message>
+        <source>Set scene date</source>
+        <translation>Set scene date</translation>
+    </message>
+    <message>
+        <source>Set word-count target</source>
+        <translation>Set word-count target</translation>
+    </message>
+    <message>
+        <source>Cite source</source>
+        <translation>Cite source</translation>
+    </message>
+    <message>
+        <source>Tag scene plot threads</source>
+        <translation>Tag scene plot threads</translation>
+    </message>
+    <message>
+        <source>Mark screenplay revision</source>
+        <translation>Mark screenplay revision</translation>
+    </message>
+    <message>
+        <source>Edit version history</source>
+        <translation>Edit version history</translation>
+    </message>
+    <message>
+        <source>Edit document variants</source>
+        <translation>Edit document variants</translation>
+    </message>
+    <message>
+        <source>Edit footnotes</source>
+        <translation>Edit footnotes</translation>
+    </message>
+    <message>
+        <source>Add object</source>
+        <translation>Add object</translation>
+    </message>
+    <message>
+        <source>Remove object</source>
+        <translation>Remove object</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Pin</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Unpin</translation>
+    </message>
+    <message>
+        <source>Set AI exclusion</source>
+        <translation>Set AI exclusion</translation>
+    </message>
+    <message>
+        <source>Set tags</source>
+        <translation>Set tags</translation>
+    </message>
+    <message>
+        <source>Set visibility</source>
+        <translation>Set visibility</translation>
+    </message>
+    <message>
+        <source>Update entity templates</source>
+        <translation>Update entity templates</translation>
+    </message>
+    <message>
+        <source>Update saved searches</source>
+        <translation>Update saved searches</translation>
+    </message>
+    <message>
+        <source>Edit audiences</source>
+        <translation>Edit audiences</translation>
+    </message>
+    <message>
+        <source>Edit plot threads</source>
+        <translation>Edit plot threads</translation>
+    </message>
+    <message>
+        <source>Set continuity rules</source>
+        <translation>Set continuity rules</translation>
+    </message>
+    <message>
+        <source>Set calendar</source>
+        <translation>Set calendar</translation>
+    </message>
+    <message>
+        <source>Set reckonings</source>
+        <translation>Set reckonings</translation>
+    </message>
+    <message>
+        <source>Set timeline eras</source>
+        <translation>Set timeline eras</translation>
+    </message>
+    <message>
+        <source>Set timeline markers</source>
+        <translation>Set timeline markers</translation>
+    </message>
+    <message>
+        <source>Set timeline bookmarks</source>
+        <translation>Set timeline bookmarks</translation>
+    </message>
+    <message>
+        <source>Change timeline view</source>
+        <translation>Change timeline view</translation>
+    </message>
+    <message>
+        <source>Update timeline view presets</source>
+        <translation>Update timeline view presets</translation>
+    </message>
+    <message>
+        <source>Edit beat sheet</source>
+        <translation>Edit beat sheet</translation>
+    </message>
+    <message>
+        <source>Set writing goal</source>
+        <translation>Set writing goal</translation>
+    </message>
+    <message>
+        <source>Update mounted libraries</source>
+        <translation>Update mounted libraries</translation>
+    </message>
+    <message>
+        <source>Complete task</source>
+        <translation>Complete task</translation>
+    </message>
+    <message>
+        <source>Reopen task</source>
+        <translation>Reopen task</translation>
+    </message>
+    <message>
+        <source>Move task</source>
+        <translation>Move task</translation>
+    </message>
+    <message>
+        <source>Edit cell</source>
+        <translation>Edit cell</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>Edit chart</translation>
+    </message>
+    <message>
+        <source>Edit comment</source>
+        <translation>Edit comment</translation>
+    </message>
+    <message>
+        <source>Move comment</source>
+        <translation>Move comment</translation>
+    </message>
+    <message>
+        <source>Rename spreadsheet</source>
+        <translation>Rename spreadsheet</translation>
+    </message>
+    <message>
+        <source>Update spreadsheet</source>
+        <translation>Update spreadsheet</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Resize</translation>
+    </message>
+    <message>
+        <source>Bind spreadsheet to category</source>
+        <translation>Bind spreadsheet to category</translation>
+    </message>
+    <message>
+        <source>Rename task</source>
+        <translation>Rename task</translation>
+    </message>
+    <message>
+        <source>Edit task details</source>
+        <translation>Edit task details</translation>
+    </message>
+    <message>
+        <source>Change task due date</source>
+        <translation>Change task due date</translation>
+    </message>
+    <message>
+        <source>Change task priority</source>
+        <translation>Change task priority</translation>
+    </message>
+    <message>
+        <source>Change task status</source>
+        <translation>Change task status</translation>
+    </message>
+    <message>
+        <source>Move task to board</source>
+        <translation>Move task to board</translation>
+    </message>
+    <message>
+        <source>Change submission details</source>
+        <translation>Change submission details</translation>
+    </message>
+    <message>
+        <source>Link task</source>
+        <translation>Link task</translation>
+    </message>
+    <message>
+        <source>Move card</source>
+        <translation>Move card</translation>
+    </message>
+    <message>
+        <source>Remove card</source>
+        <translation>Remove card</translation>
+    </message>
+    <message>
+        <source>Connect cards</source>
+        <translation>Connect cards</translation>
+    </message>
+    <message>
+        <source>Disconnect cards</source>
+        <translation>Disconnect cards</translation>
+    </message>
+    <message>
+        <source>Add annotation</source>
+        <translation>Add annotation</translation>
+    </message>
+    <message>
+        <source>Remove annotation</source>
+        <translation>Remove annotation</translation>
+    </message>
+    <message>
+        <source>Rename timeline</source>
+        <translation>Rename timeline</translation>
+    </message>
+    <message>
+        <source>Edit timeline event</source>
+        <translation>Edit timeline event</translation>
+    </message>
+    <message>
+        <source>Edit language</source>
+        <translation>Edit language</translation>
+    </message>
+    <message>
+        <source>Edit random table</source>
+        <translation>Edit random table</translation>
+    </message>
+    <message>
+        <source>Edit source</source>
+        <translation>Edit source</translation>
+    </message>
+    <message>
+        <source>Edit stat block</source>
+        <translation>Edit stat block</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Edit caption</translation>
+    </message>
+    <message>
+        <source>Crop image</source>
+        <translation>Crop image</translation>
+    </message>
+    <message>
+        <source>Rename map</source>
+        <translation>Rename map</translation>
+    </message>
+    <message>
+        <source>Set map image</source>
+        <translation>Set map image</translation>
+    </message>
+    <message>
+        <source>Edit map pins</source>
+        <translation>Edit map pins</translation>
+    </message>
+    <message>
+        <source>Edit map regions</source>
+        <translation>Edit map regions</translation>
+    </message>
+    <message>
+        <source>Edit map routes</source>
+        <translation>Edit map routes</translation>
+    </message>
+    <message>
+        <source>Edit map tokens</source>
+        <translation>Edit map tokens</translation>
+    </message>
+    <message>
+        <source>Edit map grid</source>
+        <translation>Edit map grid</translation>
+    </message>
+    <message>
+        <source>Set map travel settings</source>
+        <translation>Set map travel settings</translation>
+    </message>
+    <message>
+        <source>Rename canvas</source>
+        <translation>Rename canvas</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DialogPrompts</name>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Unsaved Changes</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved.</source>
+        <translation>“%1” has changes that are not saved.</translation>
+    </message>
+    <message>
+        <source>What you wrote since the last save is lost if you discard it.</source>
+        <translation>What you wrote since the last save is lost if you discard it.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Discard Changes</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Open Project</translation>
+    </message>
+    <message>
+        <source>Ivorel projects (*.vellum)</source>
+        <translation>Ivorel projects (*.vellum)</translation>
+    </message>
+    <message>
+        <source>Open Project Folder</source>
+        <translation>Open Project Folder</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Save Project As</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>“%1” exists already.</translation>
+    </message>
+    <message>
+        <source>Its contents are replaced.</source>
+        <translation>Its contents are replaced.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Save Project as Folder</source>
+        <translation>Save Project as Folder</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DocumentsPanel</name>
+    <message>
+        <source>New ▾</source>
+        <translation>New ▾</translation>
+    </message>
+    <message>
+        <source>New document or note</source>
+        <translation>New document or note</translation>
+    </message>
+    <message>
+        <source>Add a document or a note behind the selected one.</source>
+        <translation>Add a document or a note behind the selected one.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter the documents by title</source>
+        <translation>Filter the documents by title</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</source>
+        <translation>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>The chapters and scenes of your manuscript stand here.</source>
+        <translation>The chapters and scenes of your manuscript stand here.</translation>
+    </message>
+    <message>
+        <source>Write the First Document</source>
+        <translation>Write the First Document</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Delete…</translation>
+    </message>
+    <message>
+        <source>Change Kind…</source>
+        <translation>Change Kind…</translation>
+    </message>
+    <message>
+        <source>Prose</source>
+        <translation>Prose</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Screenplay</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Edit › Undo will restore it.</source>
+        <translation>Edit › Undo will restore it.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::EditorPanel</name>
+    <message>
+        <source>Text of the document</source>
+        <translation>Text of the document</translation>
+    </message>
+    <message>
+        <source>Select a document to write in it.</source>
+        <translation>Select a document to write in it.</translation>
+    </message>
+    <message>
+        <source>Title of the document</source>
+        <translation>Title of the document</translation>
+    </message>
+    <message>
+        <source>Word count</source>
+        <translation>Word count</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 words</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::MainWindow</name>
+    <message>
+        <source>Saved “%1”.</source>
+        <translation>Saved “%1”.</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Theme</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Main</translation>
+    </message>
+    <message>
+        <source>%1[*] – Ivorel</source>
+        <translation>%1[*] – Ivorel</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>About Ivorel</source>
+        <translation>About Ivorel</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</translation>
+    </message>
+</context>
+</TS>

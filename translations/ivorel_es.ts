@@ -1,0 +1,1775 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES">
+<context>
+    <name>Actions</name>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Nuevo proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Abrir…</translation>
+    </message>
+    <message>
+        <source>Open Project Fol&amp;der…</source>
+        <translation>Abrir &amp;carpeta de proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar c&amp;omo…</translation>
+    </message>
+    <message>
+        <source>Save as Fo&amp;lder…</source>
+        <translation>Guardar como carpe&amp;ta…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Document…</source>
+        <translation>Documento…</translation>
+    </message>
+    <message>
+        <source>Note…</source>
+        <translation>Nota…</translation>
+    </message>
+    <message>
+        <source>Document Inside</source>
+        <translation>Documento dentro</translation>
+    </message>
+    <message>
+        <source>Split Document at Cursor</source>
+        <translation>Dividir el documento en el cursor</translation>
+    </message>
+    <message>
+        <source>Move Document Up</source>
+        <translation>Subir el documento</translation>
+    </message>
+    <message>
+        <source>Move Document Down</source>
+        <translation>Bajar el documento</translation>
+    </message>
+    <message>
+        <source>Promote Document</source>
+        <translation>Subir de nivel el documento</translation>
+    </message>
+    <message>
+        <source>Demote</source>
+        <translation>Bajar de nivel</translation>
+    </message>
+    <message>
+        <source>Next Panel</source>
+        <translation>Panel siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>&amp;Restablecer la disposición</translation>
+    </message>
+    <message>
+        <source>About Ivorel</source>
+        <translation>Acerca de Ivorel</translation>
+    </message>
+</context>
+<context>
+    <name>BatchMembers</name>
+    <message>
+        <source>The texts in "%1" must be strings.</source>
+        <translation>Los textos de "%1" deben ser cadenas.</translation>
+    </message>
+</context>
+<context>
+    <name>Panels</name>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Close %1</source>
+        <translation>Cerrar %1</translation>
+    </message>
+    <message>
+        <source>Panel area button</source>
+        <translation>Botón del área de paneles</translation>
+    </message>
+</context>
+<context>
+    <name>ReckoningView</name>
+    <message>
+        <source>New reckoning</source>
+        <translation>Cómputo nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>Themes</name>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Alto contraste</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app</name>
+    <message>
+        <source>Rule "%1" refers to an entity that is no longer in the project.</source>
+        <translation>La regla "%1" se refiere a una entidad que ya no está en el proyecto.</translation>
+    </message>
+    <message>
+        <source>Rule "%1": %2's %3 %4 "%5", but is "%6".</source>
+        <translation>Regla "%1": %3 de %2 %4 "%5", pero es "%6".</translation>
+    </message>
+    <message>
+        <source>must not be</source>
+        <translation>no debe ser</translation>
+    </message>
+    <message>
+        <source>must be</source>
+        <translation>debe ser</translation>
+    </message>
+    <message>
+        <source>(unset)</source>
+        <translation>(sin valor)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Assets</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>No se puede crear la carpeta del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>No se pudo escribir el archivo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BundleProjectStore</name>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>El proyecto cambió fuera de Ivorel desde que lo abrió.</translation>
+    </message>
+    <message>
+        <source>The project file is gone: %1</source>
+        <translation>El archivo del proyecto ya no está: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CalendarText</name>
+    <message>
+        <source>%1 %2, Year %3</source>
+        <extracomment>A full date: %1 is the day, %2 the month, %3 the year. Typed dates are read back from this form, so keep the word for "Year" equal to the one translated below.</extracomment>
+        <translation>%1 %2, Year %3</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
+        <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ContinuityChecker</name>
+    <message>
+        <source>An entity</source>
+        <translation>Una entidad</translation>
+    </message>
+    <message>
+        <source>Untitled event</source>
+        <translation>Acontecimiento sin título</translation>
+    </message>
+    <message>
+        <source>"%1" happens at a location that no longer exists.</source>
+        <translation>"%1" ocurre en un lugar que ya no existe.</translation>
+    </message>
+    <message>
+        <source>"%1" lists a participant that no longer exists.</source>
+        <translation>"%1" incluye a un participante que ya no existe.</translation>
+    </message>
+    <message>
+        <source>%1 is in two places at once: "%2" and "%3".</source>
+        <translation>%1 está en dos lugares a la vez: "%2" y "%3".</translation>
+    </message>
+    <message>
+        <source>%1 takes part in "%2" before being born.</source>
+        <translation>%1 participa en "%2" antes de nacer.</translation>
+    </message>
+    <message>
+        <source>%1 takes part in "%2" after death.</source>
+        <translation>%1 participa en "%2" después de morir.</translation>
+    </message>
+    <message>
+        <source>%1 cannot travel from %2 to %3 in time between "%4" and "%5".</source>
+        <translation>%1 no puede viajar a tiempo de %2 a %3 entre "%4" y "%5".</translation>
+    </message>
+    <message>
+        <source>must start after</source>
+        <translation>debe empezar después de</translation>
+    </message>
+    <message>
+        <source>must end before</source>
+        <translation>debe terminar antes de</translation>
+    </message>
+    <message>
+        <source>must happen during</source>
+        <translation>debe ocurrir durante</translation>
+    </message>
+    <message>
+        <source>"%1" %2 "%3", but does not.</source>
+        <extracomment>%1 and %3 are titles of events, %2 is one of the phrases "must start after" and so on.</extracomment>
+        <translation>"%1" %2 "%3", pero no es así.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::DocumentOperations</name>
+    <message>
+        <source>Add note</source>
+        <translation>Añadir nota</translation>
+    </message>
+    <message>
+        <source>Add document</source>
+        <translation>Añadir documento</translation>
+    </message>
+    <message>
+        <source>New Note</source>
+        <translation>Nota nueva</translation>
+    </message>
+    <message>
+        <source>New Document</source>
+        <translation>Documento nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n nota</numerusform><numerusform>%n notas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation>
+            <numerusform>%n documento</numerusform><numerusform>%n documentos</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n scene(s)</source>
+        <translation>
+            <numerusform>%n escena</numerusform><numerusform>%n escenas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s)</source>
+        <comment>with the number written out by the program</comment>
+        <translation>
+            <numerusform>%n palabra</numerusform><numerusform>%n palabras</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete %1, %2?</source>
+        <translation>¿Eliminar %1 (%2)?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n document(s)</source>
+        <translation>
+            <numerusform>Eliminar %n documento</numerusform><numerusform>Eliminar %n documentos</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n document(s)</source>
+        <translation>
+            <numerusform>Mover %n documento</numerusform><numerusform>Mover %n documentos</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Promote %n document(s)</source>
+        <translation>
+            <numerusform>Subir de nivel %n documento</numerusform><numerusform>Subir de nivel %n documentos</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Demote %n document(s)</source>
+        <translation>
+            <numerusform>Bajar de nivel %n documento</numerusform><numerusform>Bajar de nivel %n documentos</numerusform></translation>
+    </message>
+    <message>
+        <source>Change document kind</source>
+        <translation>Cambiar el tipo de documento</translation>
+    </message>
+    <message>
+        <source>Split document</source>
+        <translation>Dividir documento</translation>
+    </message>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (continuación)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::DocumentsModel</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n word(s)</source>
+        <translation>
+            <numerusform>%1, %n palabra</numerusform><numerusform>%1, %n palabras</numerusform></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FileMerge</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Not a text file, so it cannot be merged: %1</source>
+        <translation>No es un archivo de texto y no se puede fusionar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderMerge</name>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>La carpeta del proyecto no existe: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>The output folder is not empty: %1</source>
+        <translation>La carpeta de salida no está vacía: %1</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>No se pudo escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>No se puede crear la carpeta del proyecto: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderReader</name>
+    <message>
+        <source>Skipped a hidden file: %1</source>
+        <translation>Se omitió un archivo oculto: %1</translation>
+    </message>
+    <message>
+        <source>Skipped a link: %1</source>
+        <translation>Se omitió un enlace: %1</translation>
+    </message>
+    <message>
+        <source>Skipped a folder that lies too deep: %1</source>
+        <translation>Se omitió una carpeta demasiado profunda: %1</translation>
+    </message>
+    <message>
+        <source>Skipped, not a text file: %1</source>
+        <translation>Omitido, no es un archivo de texto: %1</translation>
+    </message>
+    <message>
+        <source>Skipped, too much was read already: %1</source>
+        <translation>Omitido, ya se leyó demasiado: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read folder: %1</source>
+        <translation>No se puede leer la carpeta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::FolderWriter</name>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>No se pudo escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>El proyecto cambió fuera de Ivorel desde que lo abrió.</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>No se puede crear la carpeta del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create taxonomy folder: %1</source>
+        <translation>No se puede crear la carpeta de categorías: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::HealthReport</name>
+    <message>
+        <source>%1 (%2 words)</source>
+        <translation>%1 (%2 palabras)</translation>
+    </message>
+    <message>
+        <source>Untitled (%1)</source>
+        <translation>Sin título (%1)</translation>
+    </message>
+    <message>
+        <source>Manuscript health report</source>
+        <translation>Informe sobre el estado del manuscrito</translation>
+    </message>
+    <message>
+        <source>Manuscript health report: %1</source>
+        <translation>Informe sobre el estado del manuscrito: %1</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Escenas</translation>
+    </message>
+    <message>
+        <source>Documents without text</source>
+        <translation>Documentos sin texto</translation>
+    </message>
+    <message>
+        <source>Average scene</source>
+        <translation>Escena media</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 palabras</translation>
+    </message>
+    <message>
+        <source>Median scene</source>
+        <translation>Escena mediana</translation>
+    </message>
+    <message>
+        <source>Longest scene</source>
+        <translation>Escena más larga</translation>
+    </message>
+    <message>
+        <source>Shortest scene</source>
+        <translation>Escena más corta</translation>
+    </message>
+    <message>
+        <source>Reading time</source>
+        <translation>Tiempo de lectura</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Manuscript pages</source>
+        <translation>Páginas de manuscrito</translation>
+    </message>
+    <message>
+        <source>Paragraphs</source>
+        <translation>Párrafos</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Proporción</translation>
+    </message>
+    <message>
+        <source>(no status)</source>
+        <translation>(sin estado)</translation>
+    </message>
+    <message>
+        <source>Dialogue and narration</source>
+        <translation>Diálogo y narración</translation>
+    </message>
+    <message>
+        <source>There is no prose to measure.</source>
+        <translation>No hay prosa que medir.</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Diálogo</translation>
+    </message>
+    <message>
+        <source>%1 words (%2)</source>
+        <translation>%1 palabras (%2)</translation>
+    </message>
+    <message>
+        <source>Narration</source>
+        <translation>Narración</translation>
+    </message>
+    <message>
+        <source>Passages of speech</source>
+        <translation>Pasajes de habla</translation>
+    </message>
+    <message>
+        <source>Words in a passage</source>
+        <translation>Palabras por pasaje</translation>
+    </message>
+    <message>
+        <source>Scenes without dialogue</source>
+        <translation>Escenas sin diálogo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Most dialogue</source>
+        <translation>Más diálogo</translation>
+    </message>
+    <message>
+        <source>Least dialogue</source>
+        <translation>Menos diálogo</translation>
+    </message>
+    <message>
+        <source>very easy</source>
+        <translation>muy fácil</translation>
+    </message>
+    <message>
+        <source>easy</source>
+        <translation>fácil</translation>
+    </message>
+    <message>
+        <source>fairly easy</source>
+        <translation>bastante fácil</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>normal</translation>
+    </message>
+    <message>
+        <source>fairly hard</source>
+        <translation>bastante difícil</translation>
+    </message>
+    <message>
+        <source>hard</source>
+        <translation>difícil</translation>
+    </message>
+    <message>
+        <source>very hard</source>
+        <translation>muy difícil</translation>
+    </message>
+    <message>
+        <source>Readability</source>
+        <translation>Legibilidad</translation>
+    </message>
+    <message>
+        <source>Sentences</source>
+        <translation>Frases</translation>
+    </message>
+    <message>
+        <source>Words in a sentence</source>
+        <translation>Palabras por frase</translation>
+    </message>
+    <message>
+        <source>Longest sentence</source>
+        <translation>Frase más larga</translation>
+    </message>
+    <message>
+        <source>Sentences in a paragraph</source>
+        <translation>Frases por párrafo</translation>
+    </message>
+    <message>
+        <source>Syllables in a word</source>
+        <translation>Sílabas por palabra</translation>
+    </message>
+    <message>
+        <source>Words of three syllables or more</source>
+        <translation>Palabras de tres sílabas o más</translation>
+    </message>
+    <message>
+        <source>Flesch reading ease</source>
+        <translation>Facilidad de lectura de Flesch</translation>
+    </message>
+    <message>
+        <source>Flesch–Kincaid grade</source>
+        <translation>Grado de Flesch-Kincaid</translation>
+    </message>
+    <message>
+        <source>Gunning fog index</source>
+        <translation>Índice de niebla de Gunning</translation>
+    </message>
+    <message>
+        <source>Easiest scene</source>
+        <translation>Escena más fácil</translation>
+    </message>
+    <message>
+        <source>Hardest scene</source>
+        <translation>Escena más difícil</translation>
+    </message>
+    <message>
+        <source>Point-of-view balance</source>
+        <translation>Equilibrio de puntos de vista</translation>
+    </message>
+    <message>
+        <source>No scene names a point of view.</source>
+        <translation>Ninguna escena indica un punto de vista.</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Punto de vista</translation>
+    </message>
+    <message>
+        <source>Longest run</source>
+        <translation>Serie más larga</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ninguno)</translation>
+    </message>
+    <message>
+        <source>The longest run counts scenes in a row from one point of view.</source>
+        <translation>La serie más larga cuenta las escenas seguidas desde un mismo punto de vista.</translation>
+    </message>
+    <message>
+        <source>World coverage</source>
+        <translation>Presencia del mundo</translation>
+    </message>
+    <message>
+        <source>The codex has no entities.</source>
+        <translation>El códice no tiene entidades.</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
+    </message>
+    <message>
+        <source>Mentioned</source>
+        <translation>Mencionadas</translation>
+    </message>
+    <message>
+        <source>Never mentioned</source>
+        <translation>Nunca mencionadas</translation>
+    </message>
+    <message>
+        <source>Without a category</source>
+        <translation>Sin categoría</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Mentions</source>
+        <translation>Menciones</translation>
+    </message>
+    <message>
+        <source>First scene</source>
+        <translation>Primera escena</translation>
+    </message>
+    <message>
+        <source>Last scene</source>
+        <translation>Última escena</translation>
+    </message>
+    <message>
+        <source>Never mentioned: %1</source>
+        <translation>Nunca mencionadas: %1</translation>
+    </message>
+    <message>
+        <source>Writing style</source>
+        <translation>Estilo</translation>
+    </message>
+    <message>
+        <source>No style issues flagged.</source>
+        <translation>No hay avisos de estilo.</translation>
+    </message>
+    <message>
+        <source>| Category | Issues |</source>
+        <translation>| Categoría | Avisos |</translation>
+    </message>
+    <message>
+        <source>| **Total** | %1 |</source>
+        <translation>| **Total** | %1 |</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Import</name>
+    <message>
+        <source>Import documents</source>
+        <translation>Importar documentos</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::MarkdownImport</name>
+    <message>
+        <source>Front Matter</source>
+        <translation>Preliminares</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadatos</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OpenProject</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>This project has no save location yet; use saveAs().</source>
+        <translation>Este proyecto aún no tiene dónde guardarse; use saveAs().</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::PlainTextImport</name>
+    <message>
+        <source>Front Matter</source>
+        <translation>Preliminares</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectFlows</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>El proyecto cambió fuera de Ivorel desde que lo abrió.</translation>
+    </message>
+    <message>
+        <source>Saving puts your version in place of what was changed there. To keep both, save under another name.</source>
+        <translation>Al guardar, su versión sustituye lo que se cambió allí. Para conservar ambas, guarde con otro nombre.</translation>
+    </message>
+    <message>
+        <source>Save My Version</source>
+        <translation>Guardar mi versión</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectFolder</name>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>No se pudo leer un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>La carpeta del proyecto no existe: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>No se pudo escribir un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectReader</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>La carpeta del proyecto no existe: %1</translation>
+    </message>
+    <message>
+        <source>Invalid JSON in file: %1</source>
+        <translation>JSON no válido en el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Malformed object file: %1</source>
+        <translation>Archivo de objeto mal formado: %1</translation>
+    </message>
+    <message>
+        <source>Duplicate object id %1 in %2</source>
+        <translation>Identificador de objeto %1 duplicado en %2</translation>
+    </message>
+    <message>
+        <source>Malformed category file: %1</source>
+        <translation>Archivo de categoría mal formado: %1</translation>
+    </message>
+    <message>
+        <source>Malformed field in category: %1</source>
+        <translation>Campo mal formado en la categoría: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectStore</name>
+    <message>
+        <source>The folder is not empty: %1</source>
+        <translation>La carpeta no está vacía: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Reconcile</name>
+    <message>
+        <source>the reconcile has conflicts to resolve first</source>
+        <translation>la conciliación tiene conflictos que resolver antes</translation>
+    </message>
+    <message>
+        <source>the merged file '%1' would not be valid</source>
+        <translation>el archivo fusionado «%1» no sería válido</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::StyleRule</name>
+    <message>
+        <source>Hard-to-read sentences</source>
+        <translation>Frases difíciles de leer</translation>
+    </message>
+    <message>
+        <source>Passive voice</source>
+        <translation>Voz pasiva</translation>
+    </message>
+    <message>
+        <source>Crutch words</source>
+        <translation>Muletillas</translation>
+    </message>
+    <message>
+        <source>Repeated words</source>
+        <translation>Palabras repetidas</translation>
+    </message>
+    <message>
+        <source>Wordy phrases</source>
+        <translation>Expresiones prolijas</translation>
+    </message>
+    <message>
+        <source>Weak adverbs</source>
+        <translation>Adverbios débiles</translation>
+    </message>
+    <message>
+        <source>Clichés</source>
+        <translation>Tópicos</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <source>Passive voice: %1</source>
+        <translation>Voz pasiva: %1</translation>
+    </message>
+    <message>
+        <source>Filler word: %1</source>
+        <translation>Muletilla: %1</translation>
+    </message>
+    <message>
+        <source>Repeated word: %1</source>
+        <translation>Palabra repetida: %1</translation>
+    </message>
+    <message>
+        <source>Adverb: %1. Consider a stronger verb.</source>
+        <translation>Adverbio: %1. Considere un verbo más fuerte.</translation>
+    </message>
+    <message>
+        <source>Cliché: %1</source>
+        <translation>Tópico: %1</translation>
+    </message>
+    <message>
+        <source>Wordy: %1 → %2</source>
+        <translation>Prolijo: %1 → %2</translation>
+    </message>
+    <message>
+        <source>Long sentence (%1 words). Consider breaking it up.</source>
+        <translation>Frase larga (%1 palabras). Considere dividirla.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Arguments</name>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>Opción desconocida: %1</translation>
+    </message>
+    <message>
+        <source>The option --%1 is given twice.</source>
+        <translation>La opción --%1 aparece dos veces.</translation>
+    </message>
+    <message>
+        <source>The option --%1 takes no value.</source>
+        <translation>La opción --%1 no admite ningún valor.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>La opción --%1 necesita un valor.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>Falta %1.</translation>
+    </message>
+    <message>
+        <source>Too many arguments: %1</source>
+        <translation>Demasiados argumentos: %1</translation>
+    </message>
+    <message>
+        <source>The option --%1 is missing.</source>
+        <translation>Falta la opción --%1.</translation>
+    </message>
+    <message>
+        <source>Cannot read from standard input.</source>
+        <translation>No se puede leer la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Reading the project…</source>
+        <translation>Leyendo el proyecto…</translation>
+    </message>
+    <message>
+        <source>Checking the continuity…</source>
+        <translation>Comprobando la continuidad…</translation>
+    </message>
+    <message>
+        <source>Unknown format: %1</source>
+        <translation>Formato desconocido: %1</translation>
+    </message>
+    <message>
+        <source>Exporting…</source>
+        <translation>Exportando…</translation>
+    </message>
+    <message>
+        <source>Making the report…</source>
+        <translation>Preparando el informe…</translation>
+    </message>
+    <message>
+        <source>categories</source>
+        <translation>categorías</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>palabras</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>Rendering…</source>
+        <translation>Convirtiendo…</translation>
+    </message>
+    <message>
+        <source>Checking the style…</source>
+        <translation>Comprobando el estilo…</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Batch</name>
+    <message>
+        <source>Unknown unit: %1</source>
+        <translation>Unidad desconocida: %1</translation>
+    </message>
+    <message>
+        <source>The member "%1" is missing.</source>
+        <translation>Falta el miembro "%1".</translation>
+    </message>
+    <message>
+        <source>The member "%1" must be %2.</source>
+        <translation>El miembro "%1" debe ser %2.</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>una cadena</translation>
+    </message>
+    <message>
+        <source>a string or null</source>
+        <translation>una cadena o null</translation>
+    </message>
+    <message>
+        <source>an integer of 64 bits</source>
+        <translation>un entero de 64 bits</translation>
+    </message>
+    <message>
+        <source>an integer from %1 to %2</source>
+        <translation>un entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>una lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objeto</translation>
+    </message>
+    <message>
+        <source>Unknown op: %1</source>
+        <translation>Operación desconocida: %1</translation>
+    </message>
+    <message>
+        <source>The line is not a JSON object.</source>
+        <translation>La línea no es un objeto JSON.</translation>
+    </message>
+    <message>
+        <source>The line is too long.</source>
+        <translation>La línea es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>The member "%1" is empty.</source>
+        <translation>El miembro "%1" está vacío.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Catalogue</name>
+    <message>
+        <source>Count what a project holds</source>
+        <translation>Cuenta lo que contiene un proyecto</translation>
+    </message>
+    <message>
+        <source>Tell whether a project loads</source>
+        <translation>Dice si un proyecto se puede cargar</translation>
+    </message>
+    <message>
+        <source>Turn Markdown into an HTML fragment</source>
+        <translation>Convierte Markdown en un fragmento HTML</translation>
+    </message>
+    <message>
+        <source>Check the style of a text, or of a project</source>
+        <translation>Comprueba el estilo de un texto o de un proyecto</translation>
+    </message>
+    <message>
+        <source>Find where the story contradicts itself: the timeline, then the rules</source>
+        <translation>Busca dónde se contradice la historia: la línea de tiempo y luego las reglas</translation>
+    </message>
+    <message>
+        <source>Report how the manuscript stands, as “markdown” or “html”</source>
+        <translation>Informa del estado del manuscrito, como «markdown» o «html»</translation>
+    </message>
+    <message>
+        <source>Write the manuscript as “rtf”</source>
+        <translation>Escribe el manuscrito como «rtf»</translation>
+    </message>
+    <message>
+        <source>Answer JSON requests, one a line</source>
+        <translation>Responde a peticiones JSON, una por línea</translation>
+    </message>
+    <message>
+        <source>Usage: %1 COMMAND [ARGUMENT…]</source>
+        <translation>Uso: %1 ORDEN [ARGUMENTO…]</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Órdenes:</translation>
+    </message>
+    <message>
+        <source>PROJECT is a project folder or a “.vellum” file. FILE may be “-” for standard input or output.</source>
+        <translation>PROJECT es una carpeta de proyecto o un archivo «.vellum». FILE puede ser «-» para la entrada o la salida estándar.</translation>
+    </message>
+    <message>
+        <source>“%1 COMMAND --help” tells more about a command, “%1 --version” the version.</source>
+        <translation>«%1 ORDEN --help» cuenta más sobre una orden; «%1 --version», la versión.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done; 1 done, with something to report; 2 wrong usage; 3 failed.</source>
+        <translation>Estado de salida: 0 hecho; 1 hecho, con algo que señalar; 2 uso incorrecto; 3 error.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>No command is given.</source>
+        <translation>No se ha dado ninguna orden.</translation>
+    </message>
+    <message>
+        <source>Unknown option: %1</source>
+        <translation>Opción desconocida: %1</translation>
+    </message>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>Orden desconocida: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::Main</name>
+    <message>
+        <source>Cannot write to standard output.</source>
+        <translation>No se puede escribir en la salida estándar.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::ProjectSource</name>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>No es un archivo de proyecto de Ivorel válido: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::cli::TextFile</name>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read from standard input.</source>
+        <translation>No se puede leer la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>No se pudo escribir el archivo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::core::Command</name>
+    <message>
+        <source>Set field value</source>
+        <translation>Cambiar el valor de un campo</translation>
+    </message>
+    <message>
+        <source>Add category</source>
+        <translation>Añadir categoría</translation>
+    </message>
+    <message>
+        <source>Remove category</source>
+        <translation>Eliminar categoría</translation>
+    </message>
+    <message>
+        <source>Rename category</source>
+        <translation>Cambiar el nombre de la categoría</translation>
+    </message>
+    <message>
+        <source>Move category</source>
+        <translation>Mover categoría</translation>
+    </message>
+    <message>
+        <source>Add field</source>
+        <translation>Añadir campo</translation>
+    </message>
+    <message>
+        <source>Remove field</source>
+        <translation>Eliminar campo</translation>
+    </message>
+    <message>
+        <source>Move field</source>
+        <translation>Mover campo</translation>
+    </message>
+    <message>
+        <source>Edit field</source>
+        <translation>Editar campo</translation>
+    </message>
+    <message>
+        <source>Rename entity</source>
+        <translation>Cambiar el nombre de la entidad</translation>
+    </message>
+    <message>
+        <source>Move entity</source>
+        <translation>Mover entidad</translation>
+    </message>
+    <message>
+        <source>Set aliases</source>
+        <translation>Cambiar los alias</translation>
+    </message>
+    <message>
+        <source>Set entity gallery</source>
+        <translation>Cambiar la galería de la entidad</translation>
+    </message>
+    <message>
+        <source>Edit lifespan</source>
+        <translation>Editar la duración de la vida</translation>
+    </message>
+    <message>
+        <source>Set state over time</source>
+        <translation>Cambiar el estado a lo largo del tiempo</translation>
+    </message>
+    <message>
+        <source>Edit document body</source>
+        <translation>Editar el texto</translation>
+    </message>
+    <message>
+        <source>Move document</source>
+        <translation>Mover documento</translation>
+    </message>
+    <message>
+        <source>Rename document</source>
+        <translation>Cambiar el nombre del documento</translation>
+    </message>
+    <message>
+        <source>Change document kind</source>
+        <translation>Cambiar el tipo de documento</translation>
+    </message>
+    <message>
+        <source>Edit synopsis</source>
+        <translation>Editar la sinopsis</translation>
+    </message>
+    <message>
+        <source>Edit status</source>
+        <translation>Editar el estado</translation>
+    </message>
+    <message>
+        <source>Edit point of view</source>
+        <translation>Editar el punto de vista</translation>
+    </message>
+    <message>
+        <source>Edit tension</source>
+        <translation>Editar la tensión</translation>
+    </message>
+    <message>
+        <source>Set scene date</source>
+        <translation>Fijar la fecha de la escena</translation>
+    </message>
+    <message>
+        <source>Set word-count target</source>
+        <translation>Fijar el objetivo de palabras</translation>
+    </message>
+    <message>
+        <source>Cite source</source>
+        <translation>Citar fuente</translation>
+    </message>
+    <message>
+        <source>Tag scene plot threads</source>
+        <translation>Asignar tramas a la escena</translation>
+    </message>
+    <message>
+        <source>Mark screenplay revision</source>
+        <translation>Marcar una revisión del guion</translation>
+    </message>
+    <message>
+        <source>Edit version history</source>
+        <translation>Editar el historial de versiones</translation>
+    </message>
+    <message>
+        <source>Edit document variants</source>
+        <translation>Editar las variantes del documento</translation>
+    </message>
+    <message>
+        <source>Edit footnotes</source>
+        <translation>Editar las notas al pie</translation>
+    </message>
+    <message>
+        <source>Add object</source>
+        <translation>Añadir objeto</translation>
+    </message>
+    <message>
+        <source>Remove object</source>
+        <translation>Eliminar objeto</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Fijar</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Dejar de fijar</translation>
+    </message>
+    <message>
+        <source>Set AI exclusion</source>
+        <translation>Cambiar la exclusión de la IA</translation>
+    </message>
+    <message>
+        <source>Set tags</source>
+        <translation>Cambiar las etiquetas</translation>
+    </message>
+    <message>
+        <source>Set visibility</source>
+        <translation>Cambiar la visibilidad</translation>
+    </message>
+    <message>
+        <source>Update entity templates</source>
+        <translation>Actualizar las plantillas de entidad</translation>
+    </message>
+    <message>
+        <source>Update saved searches</source>
+        <translation>Actualizar las búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Edit audiences</source>
+        <translation>Editar los públicos</translation>
+    </message>
+    <message>
+        <source>Edit plot threads</source>
+        <translation>Editar las tramas</translation>
+    </message>
+    <message>
+        <source>Set continuity rules</source>
+        <translation>Cambiar las reglas de continuidad</translation>
+    </message>
+    <message>
+        <source>Set calendar</source>
+        <translation>Cambiar el calendario</translation>
+    </message>
+    <message>
+        <source>Set reckonings</source>
+        <translation>Cambiar los cómputos</translation>
+    </message>
+    <message>
+        <source>Set timeline eras</source>
+        <translation>Cambiar las eras</translation>
+    </message>
+    <message>
+        <source>Set timeline markers</source>
+        <translation>Cambiar los marcadores</translation>
+    </message>
+    <message>
+        <source>Set timeline bookmarks</source>
+        <translation>Cambiar los señaladores</translation>
+    </message>
+    <message>
+        <source>Change timeline view</source>
+        <translation>Cambiar la vista de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Update timeline view presets</source>
+        <translation>Actualizar los ajustes de vista</translation>
+    </message>
+    <message>
+        <source>Edit beat sheet</source>
+        <translation>Editar la escaleta</translation>
+    </message>
+    <message>
+        <source>Set writing goal</source>
+        <translation>Fijar el objetivo de escritura</translation>
+    </message>
+    <message>
+        <source>Update mounted libraries</source>
+        <translation>Actualizar las bibliotecas montadas</translation>
+    </message>
+    <message>
+        <source>Complete task</source>
+        <translation>Completar tarea</translation>
+    </message>
+    <message>
+        <source>Reopen task</source>
+        <translation>Reabrir tarea</translation>
+    </message>
+    <message>
+        <source>Move task</source>
+        <translation>Mover tarea</translation>
+    </message>
+    <message>
+        <source>Edit cell</source>
+        <translation>Editar celda</translation>
+    </message>
+    <message>
+        <source>Edit chart</source>
+        <translation>Editar gráfico</translation>
+    </message>
+    <message>
+        <source>Edit comment</source>
+        <translation>Editar comentario</translation>
+    </message>
+    <message>
+        <source>Move comment</source>
+        <translation>Mover comentario</translation>
+    </message>
+    <message>
+        <source>Rename spreadsheet</source>
+        <translation>Cambiar el nombre de la hoja</translation>
+    </message>
+    <message>
+        <source>Update spreadsheet</source>
+        <translation>Actualizar la hoja</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Cambiar el tamaño</translation>
+    </message>
+    <message>
+        <source>Bind spreadsheet to category</source>
+        <translation>Vincular la hoja a una categoría</translation>
+    </message>
+    <message>
+        <source>Rename task</source>
+        <translation>Cambiar el nombre de la tarea</translation>
+    </message>
+    <message>
+        <source>Edit task details</source>
+        <translation>Editar los detalles de la tarea</translation>
+    </message>
+    <message>
+        <source>Change task due date</source>
+        <translation>Cambiar el vencimiento de la tarea</translation>
+    </message>
+    <message>
+        <source>Change task priority</source>
+        <translation>Cambiar la prioridad de la tarea</translation>
+    </message>
+    <message>
+        <source>Change task status</source>
+        <translation>Cambiar el estado de la tarea</translation>
+    </message>
+    <message>
+        <source>Move task to board</source>
+        <translation>Mover la tarea a otro tablero</translation>
+    </message>
+    <message>
+        <source>Change submission details</source>
+        <translation>Cambiar los datos del envío</translation>
+    </message>
+    <message>
+        <source>Link task</source>
+        <translation>Vincular tarea</translation>
+    </message>
+    <message>
+        <source>Move card</source>
+        <translation>Mover tarjeta</translation>
+    </message>
+    <message>
+        <source>Remove card</source>
+        <translation>Quitar tarjeta</translation>
+    </message>
+    <message>
+        <source>Connect cards</source>
+        <translation>Conectar tarjetas</translation>
+    </message>
+    <message>
+        <source>Disconnect cards</source>
+        <translation>Desconectar tarjetas</translation>
+    </message>
+    <message>
+        <source>Add annotation</source>
+        <translation>Añadir anotación</translation>
+    </message>
+    <message>
+        <source>Remove annotation</source>
+        <translation>Eliminar anotación</translation>
+    </message>
+    <message>
+        <source>Rename timeline</source>
+        <translation>Cambiar el nombre de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Edit timeline event</source>
+        <translation>Editar acontecimiento</translation>
+    </message>
+    <message>
+        <source>Edit language</source>
+        <translation>Editar idioma</translation>
+    </message>
+    <message>
+        <source>Edit random table</source>
+        <translation>Editar tabla aleatoria</translation>
+    </message>
+    <message>
+        <source>Edit source</source>
+        <translation>Editar fuente</translation>
+    </message>
+    <message>
+        <source>Edit stat block</source>
+        <translation>Editar ficha</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Editar el pie</translation>
+    </message>
+    <message>
+        <source>Crop image</source>
+        <translation>Recortar imagen</translation>
+    </message>
+    <message>
+        <source>Rename map</source>
+        <translation>Cambiar el nombre del mapa</translation>
+    </message>
+    <message>
+        <source>Set map image</source>
+        <translation>Cambiar la imagen del mapa</translation>
+    </message>
+    <message>
+        <source>Edit map pins</source>
+        <translation>Editar las chinchetas del mapa</translation>
+    </message>
+    <message>
+        <source>Edit map regions</source>
+        <translation>Editar las regiones del mapa</translation>
+    </message>
+    <message>
+        <source>Edit map routes</source>
+        <translation>Editar las rutas del mapa</translation>
+    </message>
+    <message>
+        <source>Edit map tokens</source>
+        <translation>Editar las fichas del mapa</translation>
+    </message>
+    <message>
+        <source>Edit map grid</source>
+        <translation>Editar la cuadrícula del mapa</translation>
+    </message>
+    <message>
+        <source>Set map travel settings</source>
+        <translation>Cambiar los ajustes de viaje</translation>
+    </message>
+    <message>
+        <source>Rename canvas</source>
+        <translation>Cambiar el nombre del lienzo</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DialogPrompts</name>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved.</source>
+        <translation>«%1» tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>What you wrote since the last save is lost if you discard it.</source>
+        <translation>Si los descarta, se pierde lo escrito desde la última vez que guardó.</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Descartar los cambios</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Ivorel projects (*.vellum)</source>
+        <translation>Proyectos de Ivorel (*.vellum)</translation>
+    </message>
+    <message>
+        <source>Open Project Folder</source>
+        <translation>Abrir carpeta de proyecto</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Guardar el proyecto como</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>Its contents are replaced.</source>
+        <translation>Su contenido se sustituye.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sustituir</translation>
+    </message>
+    <message>
+        <source>Save Project as Folder</source>
+        <translation>Guardar el proyecto como carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DocumentsPanel</name>
+    <message>
+        <source>New ▾</source>
+        <translation>Nuevo ▾</translation>
+    </message>
+    <message>
+        <source>New document or note</source>
+        <translation>Documento o nota nuevos</translation>
+    </message>
+    <message>
+        <source>Add a document or a note behind the selected one.</source>
+        <translation>Añade un documento o una nota detrás del seleccionado.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Filter the documents by title</source>
+        <translation>Filtrar los documentos por título</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Borrar el filtro</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</source>
+        <translation>El manuscrito: documentos y notas. Arrastre para reordenar o suelte sobre otro para anidar; clic derecho para las acciones; Ins añade, F2 cambia el nombre, Supr elimina.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>The chapters and scenes of your manuscript stand here.</source>
+        <translation>Aquí están los capítulos y las escenas de su manuscrito.</translation>
+    </message>
+    <message>
+        <source>Write the First Document</source>
+        <translation>Escribir el primer documento</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Cambiar el nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>Change Kind…</source>
+        <translation>Cambiar el tipo…</translation>
+    </message>
+    <message>
+        <source>Prose</source>
+        <translation>Prosa</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Guion</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Edit › Undo will restore it.</source>
+        <translation>Edición › Deshacer lo recupera.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::EditorPanel</name>
+    <message>
+        <source>Text of the document</source>
+        <translation>Texto del documento</translation>
+    </message>
+    <message>
+        <source>Select a document to write in it.</source>
+        <translation>Seleccione un documento para escribir en él.</translation>
+    </message>
+    <message>
+        <source>Title of the document</source>
+        <translation>Título del documento</translation>
+    </message>
+    <message>
+        <source>Word count</source>
+        <translation>Número de palabras</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 palabras</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::MainWindow</name>
+    <message>
+        <source>Saved “%1”.</source>
+        <translation>«%1» guardado.</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <source>%1[*] – Ivorel</source>
+        <translation>%1[*] – Ivorel</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>About Ivorel</source>
+        <translation>Acerca de Ivorel</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;Un espacio para escribir y crear mundos.&lt;/p&gt;</translation>
+    </message>
+</context>
+</TS>
