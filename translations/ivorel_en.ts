@@ -179,6 +179,60 @@
     </message>
 </context>
 <context>
+    <name>vl::app::BackupFolder</name>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>Could not create the folder for: %1</translation>
+    </message>
+    <message>
+        <source>Could not clear the stale working copy: %1</source>
+        <translation>Could not clear the stale working copy: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Bundle</name>
+    <message>
+        <source>Could not write the project file: %1</source>
+        <translation>Could not write the project file: %1</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>Could not open the project file: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>Not a valid Ivorel project file: %1</translation>
+    </message>
+    <message>
+        <source>The folder is not an Ivorel project (no project.json): %1</source>
+        <translation>The folder is not an Ivorel project (no project.json): %1</translation>
+    </message>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>Could not read a project file: %1</translation>
+    </message>
+    <message>
+        <source>The project has more than one file can hold (65535 files, 4 GiB); save it as a folder instead. The file was left as it is: %1</source>
+        <translation>The project has more than one file can hold (65535 files, 4 GiB); save it as a folder instead. The file was left as it is: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>Could not create the folder for: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>Could not write a project file: %1</translation>
+    </message>
+    <message>
+        <source>The extraction folder is not empty: %1</source>
+        <translation>The extraction folder is not empty: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder: %1</source>
+        <translation>Could not create the folder: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::BundleProjectStore</name>
     <message>
         <source>The project changed outside Ivorel since you opened it.</source>
@@ -767,6 +821,25 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Opening</name>
+    <message>
+        <source>The project file is not readable right now; try again.</source>
+        <translation>The project file is not readable right now; try again.</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>Could not refresh the project's working folder: %1</translation>
+    </message>
+    <message>
+        <source>Could not restore unsaved changes into the project file: %1</source>
+        <translation>Could not restore unsaved changes into the project file: %1</translation>
+    </message>
+    <message>
+        <source>This project has no save location to reload from.</source>
+        <translation>This project has no save location to reload from.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::PlainTextImport</name>
     <message>
         <source>Front Matter</source>
@@ -869,6 +942,17 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Saving</name>
+    <message>
+        <source>This project has no save location yet; use saveAs().</source>
+        <translation>This project has no save location yet; use saveAs().</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>Could not open the project file: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::StyleRule</name>
     <message>
         <source>Hard-to-read sentences</source>
@@ -929,6 +1013,21 @@
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Long sentence (%1 words). Consider breaking it up.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::WorkingFolder</name>
+    <message>
+        <source>Could not clear the stale working copy: %1</source>
+        <translation>Could not clear the stale working copy: %1</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>Could not refresh the project's working folder: %1</translation>
+    </message>
+    <message>
+        <source>Could not prepare the project's working folder: %1</source>
+        <translation>Could not prepare the project's working folder: %1</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1104,22 @@
         <source>Checking the style…</source>
         <translation>Checking the style…</translation>
     </message>
+    <message>
+        <source>Comparing the folders…</source>
+        <translation>Comparing the folders…</translation>
+    </message>
+    <message>
+        <source>Writing the merged folder…</source>
+        <translation>Writing the merged folder…</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>Failed to write file: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -1059,6 +1174,10 @@
     <message>
         <source>The member "%1" is empty.</source>
         <translation>The member "%1" is empty.</translation>
+    </message>
+    <message>
+        <source>The entry "%1" has no result.</source>
+        <translation>The entry "%1" has no result.</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1249,14 @@
     <message>
         <source>Unknown command: %1</source>
         <translation>Unknown command: %1</translation>
+    </message>
+    <message>
+        <source>Merge three copies of a project folder</source>
+        <translation>Merge three copies of a project folder</translation>
+    </message>
+    <message>
+        <source>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</source>
+        <translation>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</translation>
     </message>
 </context>
 <context>

@@ -179,6 +179,60 @@
     </message>
 </context>
 <context>
+    <name>vl::app::BackupFolder</name>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+    <message>
+        <source>Could not clear the stale working copy: %1</source>
+        <translation>No se pudo borrar la copia de trabajo anticuada: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Bundle</name>
+    <message>
+        <source>Could not write the project file: %1</source>
+        <translation>No se pudo escribir el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>No es un archivo de proyecto de Ivorel válido: %1</translation>
+    </message>
+    <message>
+        <source>The folder is not an Ivorel project (no project.json): %1</source>
+        <translation>La carpeta no es un proyecto de Ivorel (falta project.json): %1</translation>
+    </message>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>No se pudo leer un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>The project has more than one file can hold (65535 files, 4 GiB); save it as a folder instead. The file was left as it is: %1</source>
+        <translation>El proyecto tiene más de lo que cabe en un archivo (65535 archivos, 4 GiB); guárdelo como carpeta. El archivo se dejó como estaba: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>No se pudo escribir un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>The extraction folder is not empty: %1</source>
+        <translation>La carpeta de extracción no está vacía: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder: %1</source>
+        <translation>No se pudo crear la carpeta: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::BundleProjectStore</name>
     <message>
         <source>The project changed outside Ivorel since you opened it.</source>
@@ -767,6 +821,25 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Opening</name>
+    <message>
+        <source>The project file is not readable right now; try again.</source>
+        <translation>El archivo del proyecto no se puede leer en este momento; inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>No se pudo actualizar la carpeta de trabajo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not restore unsaved changes into the project file: %1</source>
+        <translation>No se pudieron recuperar los cambios sin guardar en el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>This project has no save location to reload from.</source>
+        <translation>Este proyecto no se ha guardado en ningún sitio del que volver a cargarlo.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::PlainTextImport</name>
     <message>
         <source>Front Matter</source>
@@ -869,6 +942,17 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Saving</name>
+    <message>
+        <source>This project has no save location yet; use saveAs().</source>
+        <translation>Este proyecto aún no tiene dónde guardarse; use saveAs().</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::StyleRule</name>
     <message>
         <source>Hard-to-read sentences</source>
@@ -929,6 +1013,21 @@
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Frase larga (%1 palabras). Considere dividirla.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::WorkingFolder</name>
+    <message>
+        <source>Could not clear the stale working copy: %1</source>
+        <translation>No se pudo borrar la copia de trabajo anticuada: %1</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>No se pudo actualizar la carpeta de trabajo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not prepare the project's working folder: %1</source>
+        <translation>No se pudo preparar la carpeta de trabajo del proyecto: %1</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1104,22 @@
         <source>Checking the style…</source>
         <translation>Comprobando el estilo…</translation>
     </message>
+    <message>
+        <source>Comparing the folders…</source>
+        <translation>Comparando las carpetas…</translation>
+    </message>
+    <message>
+        <source>Writing the merged folder…</source>
+        <translation>Escribiendo la carpeta fusionada…</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Failed to write file: %1</source>
+        <translation>No se pudo escribir el archivo: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -1059,6 +1174,10 @@
     <message>
         <source>The member "%1" is empty.</source>
         <translation>El miembro "%1" está vacío.</translation>
+    </message>
+    <message>
+        <source>The entry "%1" has no result.</source>
+        <translation>La entrada "%1" no tiene resultado.</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1249,14 @@
     <message>
         <source>Unknown command: %1</source>
         <translation>Orden desconocida: %1</translation>
+    </message>
+    <message>
+        <source>Merge three copies of a project folder</source>
+        <translation>Fusiona tres copias de una carpeta de proyecto</translation>
+    </message>
+    <message>
+        <source>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</source>
+        <translation>Fusiona tres versiones de un archivo, también para git: muestra el resultado o lo escribe en FILE; un NAME que acabe en «.json» debe seguir siendo válido</translation>
     </message>
 </context>
 <context>
