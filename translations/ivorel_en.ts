@@ -1898,5 +1898,17 @@
         <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Why the project was not saved</source>
+        <translation>Why the project was not saved</translation>
+    </message>
+    <message>
+        <source>⚠ Not saved: %1</source>
+        <translation>⚠ Not saved: %1</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Save Project</translation>
+    </message>
 </context>
 </TS>

@@ -1898,5 +1898,17 @@
         <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;Un espacio para escribir y crear mundos.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Why the project was not saved</source>
+        <translation>Por qué no se guardó el proyecto</translation>
+    </message>
+    <message>
+        <source>⚠ Not saved: %1</source>
+        <translation>⚠ No guardado: %1</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
 </context>
 </TS>

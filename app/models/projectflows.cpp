@@ -45,20 +45,34 @@ bool ProjectFlows::save()
 {
     if (!m_workspace.current().hasLocation())
         return saveAs();
-    m_workspace.flush();
-    OutsideChanges outside = OutsideChanges::Refuse;
-    if (m_workspace.current().meetsOutsideChanges()) {
-        const bool keepsOwn = m_prompts.confirm(
-            tr("The project changed outside Ivorel since you opened it."),
-            tr("Saving puts your version in place of what was changed there. To keep both, save "
-               "under another name."),
-            tr("Save My Version"));
-        if (!keepsOwn)
-            return false;
-        outside = OutsideChanges::Overwrite;
-    }
-    const Result<> saved = m_workspace.current().save(outside);
+    const std::optional<OutsideChanges> outside = askOutsideChanges();
+    if (!outside)
+        return false;
+    const Result<> saved = m_workspace.current().save(*outside);
     return saved || report(tr("Save Project"), saved.message());
+}
+
+bool ProjectFlows::saveInBackground()
+{
+    if (!m_workspace.current().hasLocation())
+        return saveAs();
+    const std::optional<OutsideChanges> outside = askOutsideChanges();
+    if (outside)
+        m_workspace.current().saveInBackground(*outside);
+    return outside.has_value();
+}
+
+std::optional<OutsideChanges> ProjectFlows::askOutsideChanges()
+{
+    m_workspace.flush();
+    if (!m_workspace.current().meetsOutsideChanges())
+        return OutsideChanges::Refuse;
+    const bool keepsOwn =
+        m_prompts.confirm(tr("The project changed outside Ivorel since you opened it."),
+                          tr("Saving puts your version in place of what was changed there. To keep "
+                             "both, save under another name."),
+                          tr("Save My Version"));
+    return keepsOwn ? std::optional(OutsideChanges::Overwrite) : std::nullopt;
 }
 
 bool ProjectFlows::saveAs()

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "app/storage/folderstore.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
+
+#include <optional>
 
 namespace vl::app {
 
@@ -30,14 +34,19 @@ public:
     bool openHere(const QString &path);
     /// Opens without asking; a project that does not load leaves the present one open.
     bool open(const QString &path);
-    /// Asks for a place when the project has none.
+    /// Asks for a place when the project has none, and before it writes over what others changed.
     bool save();
+    /// The same, but what is written is written while the user goes on; the workspace tells how it
+    /// ended.
+    bool saveInBackground();
     bool saveAs();
     bool saveAsFolder();
     /// Whether the present project may go: it is clean, was saved now, or is given up.
     bool mayClose();
 
 private:
+    /// What to do with what others changed; nothing when the user calls the save off.
+    std::optional<OutsideChanges> askOutsideChanges();
     bool report(const QString &title, const QString &message);
 
     Workspace &m_workspace;

@@ -32,6 +32,8 @@ void Workspace::listen()
     });
     connect(m_current.get(), &OpenProject::historyChanged, this, &Workspace::historyChanged);
     connect(m_current.get(), &OpenProject::locationChanged, this, &Workspace::locationChanged);
+    connect(m_current.get(), &OpenProject::saved, this, &Workspace::saved);
+    connect(m_current.get(), &OpenProject::saveFailed, this, &Workspace::saveFailed);
     connect(m_current.get(), &OpenProject::aboutToSave, this, &Workspace::flushRequested);
 }
 

@@ -50,6 +50,8 @@ Q_SIGNALS:
     void changed(const vl::core::ChangeSet &changes);
     void historyChanged();
     void locationChanged();
+    void saved();
+    void saveFailed(const QString &message);
     void flushRequested();
     void selectionChanged();
 

@@ -124,7 +124,7 @@ Result<> OpenProject::save(OutsideChanges outside)
     return endSave(*save, save->pending->commit(outside));
 }
 
-void OpenProject::saveInBackground()
+void OpenProject::saveInBackground(OutsideChanges outside)
 {
     Q_EMIT aboutToSave();
     if (!m_store) {
@@ -139,7 +139,7 @@ void OpenProject::saveInBackground()
     connect(&m_running->watcher, &QFutureWatcherBase::finished, this,
             &OpenProject::backgroundSaveEnded);
     m_running->watcher.setFuture(QtConcurrent::run(
-        [pending = m_running->pending.get()] { return pending->commit(OutsideChanges::Refuse); }));
+        [pending = m_running->pending.get(), outside] { return pending->commit(outside); }));
 }
 
 void OpenProject::backgroundSaveEnded()

@@ -50,7 +50,7 @@ public:
     /// The same with the writing on another thread. What is saved is the state at the call; the
     /// history is clean there once saved() comes, and saveFailed() tells why it did not. A call
     /// while another save runs starts when that one ends.
-    void saveInBackground();
+    void saveInBackground(OutsideChanges outside = OutsideChanges::Refuse);
     bool isSaving() const { return m_running != nullptr; }
     /// Waits for a save that runs in the background, and for the one that waits behind it.
     void finishSaving();

@@ -8,6 +8,7 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
@@ -43,7 +44,11 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     bindActions();
     buildMenus();
     buildToolBar();
-    statusBar();
+    m_saveFault = new QLabel(this);
+    m_saveFault->setTextFormat(Qt::PlainText);
+    m_saveFault->setAccessibleName(tr("Why the project was not saved"));
+    statusBar()->addPermanentWidget(m_saveFault);
+    m_saveFault->hide();
     for (QAction *action : m_actions.all())
         addAction(action);
 
@@ -52,6 +57,9 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
         updateSteps();
     });
     connect(&m_workspace, &app::Workspace::locationChanged, this, &MainWindow::updateTitle);
+    connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
+    connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
+    connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
     updateTitle();
     updateSteps();
     restoreWindow();
@@ -73,9 +81,9 @@ void MainWindow::bindActions()
     m_actions.bind("file.new", this, [this] { m_flows.newProject(); });
     m_actions.bind("file.open", this, [this] { m_flows.chooseAndOpen(); });
     m_actions.bind("file.openFolder", this, [this] { m_flows.chooseAndOpenFolder(); });
-    m_actions.bind("file.save", this, [this] { save(&app::ProjectFlows::save); });
-    m_actions.bind("file.saveAs", this, [this] { save(&app::ProjectFlows::saveAs); });
-    m_actions.bind("file.saveAsFolder", this, [this] { save(&app::ProjectFlows::saveAsFolder); });
+    m_actions.bind("file.save", this, [this] { m_tellsFailure = m_flows.saveInBackground(); });
+    m_actions.bind("file.saveAs", this, [this] { m_flows.saveAs(); });
+    m_actions.bind("file.saveAsFolder", this, [this] { m_flows.saveAsFolder(); });
     m_actions.bind("file.quit", this, &QWidget::close);
     m_actions.bind("edit.undo", &m_workspace, &app::Workspace::undo);
     m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
@@ -84,11 +92,22 @@ void MainWindow::bindActions()
     m_actions.bind("help.about", this, &MainWindow::showAbout);
 }
 
-void MainWindow::save(bool (app::ProjectFlows::*how)())
+void MainWindow::tellSaved()
 {
-    if ((m_flows.*how)())
-        statusBar()->showMessage(tr("Saved “%1”.").arg(m_workspace.current().name()),
-                                 messageMilliseconds);
+    m_saveFault->hide();
+    m_tellsFailure = false;
+    statusBar()->showMessage(tr("Saved “%1”.").arg(m_workspace.current().name()),
+                             messageMilliseconds);
+}
+
+void MainWindow::tellSaveFailed(const QString &message)
+{
+    m_saveFault->setText(tr("⚠ Not saved: %1").arg(message));
+    m_saveFault->setToolTip(message);
+    m_saveFault->show();
+    // Who asked for a save is told at once, not only in passing.
+    if (std::exchange(m_tellsFailure, false))
+        m_prompts.showError(tr("Save Project"), message);
 }
 
 void MainWindow::buildMenus()

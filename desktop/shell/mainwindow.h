@@ -8,6 +8,8 @@
 
 #include <QtWidgets/QMainWindow>
 
+class QLabel;
+
 namespace vl::desktop {
 
 class PanelHost;
@@ -38,7 +40,8 @@ private:
     void updateTitle();
     void updateSteps();
     void showAbout();
-    void save(bool (app::ProjectFlows::*how)());
+    void tellSaved();
+    void tellSaveFailed(const QString &message);
 
     app::Settings &m_settings;
     DialogPrompts m_dialogs;
@@ -47,6 +50,8 @@ private:
     app::ProjectFlows m_flows;
     ActionRegistry m_actions;
     PanelHost *m_panels = nullptr;
+    QLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
+    bool m_tellsFailure = false;   ///< the save that runs was asked for by the user
 };
 
 } // namespace vl::desktop
