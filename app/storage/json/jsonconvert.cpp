@@ -26,7 +26,9 @@ QDate dateFromText(QStringView text)
     constexpr qsizetype length = 10;
     if (text.size() != length || text[4] != QLatin1Char('-') || text[7] != QLatin1Char('-'))
         return {};
-    return {digitsAt(text, 0, 4), digitsAt(text, 5, 2), digitsAt(text, 8, 2)};
+    const int year = digitsAt(text, 0, 4);
+    // There are years before the first one, but their dates have no text of this form.
+    return year < 1 ? QDate() : QDate(year, digitsAt(text, 5, 2), digitsAt(text, 8, 2));
 }
 
 /// The form in which the files have it: "2026-11-30T18:05:00.250Z". Reading every one of them with

@@ -99,6 +99,8 @@ private Q_SLOTS:
     void refuses();
     void readsTolerantly_data();
     void readsTolerantly();
+    void readsRecordsTolerantly();
+    void missingFolder();
     void firstFailureOfManyFiles();
     void dateTimesKeepTheirZone_data();
     void dateTimesKeepTheirZone();
@@ -450,6 +452,35 @@ void TestProjectFolder::readsTolerantly()
                      : key == QLatin1String("sourceIds") && expected[0].isString()
                          ? QJsonValue(expected)
                          : expected[0]);
+}
+
+void TestProjectFolder::readsRecordsTolerantly()
+{
+    const QByteArray text = R"({"pinned": ["x", "", null, ")" + anId.toLatin1() + R"("],
+        "writingLog": [{"date": "2026-01-02", "words": 5}, {"date": "2]26-01-02", "words": 1},
+                       {"date": "0000-01-02"}, {"words": 3}, {"date": "2026-01-02", "words": 6}],
+        "timelineView": {"rowHeight": null, "colorBy": 3, "groupBy": "layer"},
+        "calendar": {"eraName": "AR"}, "audiences": {}})";
+    const ProjectFile files[] = {{QStringLiteral("project.json"), text}};
+    const auto project = loadProject(folder(), files);
+    QVERIFY(project);
+    QCOMPARE((*project)->pinned(), std::set<ContentId>{ContentId::fromString(anId)});
+    QCOMPARE((*project)->writingLog(), (WritingLog{{QDate(2026, 1, 2), 6}}));
+    TimelineViewSettings settings;
+    settings.groupBy = QStringLiteral("layer");
+    QCOMPARE((*project)->timelineView(), settings);
+    Calendar calendar = Calendar::defaultCalendar();
+    calendar.eraName = QStringLiteral("AR");
+    QCOMPARE((*project)->calendar(), calendar);
+    QVERIFY((*project)->audiences().isEmpty());
+}
+
+void TestProjectFolder::missingFolder()
+{
+    const auto project = loadProject(folder());
+    QVERIFY(!project);
+    QCOMPARE(project.message(), QStringLiteral("The project folder does not exist: %1")
+                                    .arg(QDir::toNativeSeparators(folder())));
 }
 
 // Enough files for several cores: the failure told must be that of a reading one by one.
