@@ -38,7 +38,7 @@ const QList<ManuscriptEntry> &novel()
     static const QList<ManuscriptEntry> entries = [] {
         QList<ManuscriptEntry> made;
         QFile file(qEnvironmentVariable("IVOREL_BENCH_NOVEL"));
-        if (file.open(QIODevice::ReadOnly)) {
+        if (!file.fileName().isEmpty() && file.open(QIODevice::ReadOnly)) {
             made.append({1, QStringLiteral("Novel"), QString::fromUtf8(file.readAll()), {}, {}});
             return made;
         }

@@ -45,7 +45,7 @@ void appendEscaped(QString &out, QStringView text)
         out += text.mid(runStart, i - runStart);
         runStart = i + 1;
         if (c.unicode() >= 0x80) {
-            out += QLatin1String("\\u");
+            out += QLatin1String(R"(\u)");
             out += QString::number(static_cast<qint16>(c.unicode()));
             out += QLatin1Char('?');
         } else if (c.unicode() >= 0x20) {
@@ -158,11 +158,11 @@ void appendInline(QString &out, const QString &markdown)
             appendEscaped(out, view.mid(runStart, i - runStart));
             if (hasNext && view[i + 1] == QLatin1Char('*')) {
                 isBold = !isBold;
-                out += isBold ? QLatin1String("\\b ") : QLatin1String("\\b0 ");
+                out += isBold ? QLatin1String(R"(\b )") : QLatin1String(R"(\b0 )");
                 i += 2;
             } else {
                 isItalic = !isItalic;
-                out += isItalic ? QLatin1String("\\i ") : QLatin1String("\\i0 ");
+                out += isItalic ? QLatin1String(R"(\i )") : QLatin1String(R"(\i0 )");
                 ++i;
             }
             runStart = i;
@@ -172,9 +172,9 @@ void appendInline(QString &out, const QString &markdown)
     }
     appendEscaped(out, view.mid(runStart));
     if (isBold)
-        out += QLatin1String("\\b0 ");
+        out += QLatin1String(R"(\b0 )");
     if (isItalic)
-        out += QLatin1String("\\i0 ");
+        out += QLatin1String(R"(\i0 )");
 }
 
 /// A stretch of white space that parts two paragraphs: from its first to its last line feed.
@@ -205,7 +205,7 @@ void appendParagraph(QString &out, const QString &text)
 {
     if (text.isEmpty())
         return;
-    out += QLatin1String("\\pard\\fi720\\sl480\\slmult1\\ql ");
+    out += QLatin1String(R"(\pard\fi720\sl480\slmult1\ql )");
     appendInline(out, text);
     out += QLatin1String("\\par\n");
 }
@@ -257,15 +257,15 @@ void appendFrontPage(QString &out, const ManuscriptRtfOptions &options, qint64 w
                          "\\titlepg\n"
                          "{\\headerf\\pard\\par}\n");
 
-    out += QLatin1String("{\\header\\pard\\qr\\f0\\fs24 ");
+    out += QLatin1String(R"({\header\pard\qr\f0\fs24 )");
     appendEscaped(out, surname(options.author));
     out += QLatin1String(" / ");
     appendEscaped(out, title.toUpper());
     out += QLatin1String(" / \\chpgn\\par}\n");
 
-    out += QLatin1String("\\pard\\f0\\fs24\\sl240\\slmult1\\ql\\tqr\\tx9360 ");
+    out += QLatin1String(R"(\pard\f0\fs24\sl240\slmult1\ql\tqr\tx9360 )");
     appendEscaped(out, options.author);
-    out += QLatin1String("\\tab About ");
+    out += QLatin1String(R"(\tab About )");
     out += QString::number(roundedForTitlePage(words));
     out += QLatin1String(" words\\line\n");
     if (!options.contact.isEmpty()) {
@@ -276,7 +276,7 @@ void appendFrontPage(QString &out, const ManuscriptRtfOptions &options, qint64 w
     }
     out += QLatin1String("\\par\n");
 
-    out += QLatin1String("\\pard\\qc\\sl240\\slmult1\\sb3600 ");
+    out += QLatin1String(R"(\pard\qc\sl240\slmult1\sb3600 )");
     appendEscaped(out, title);
     out += QLatin1String("\\par\n\\pard\\qc\\par\nby\\par\n\\par\n");
     appendEscaped(out, byline);
@@ -330,7 +330,7 @@ QString exportManuscriptRtf(const ManuscriptRtfOptions &options,
         if (entries[i].level <= 1) {
             if (i > 0)
                 out += QLatin1String("\\page\n");
-            out += QLatin1String("\\pard\\qc\\sl480\\slmult1\\sb3600 ");
+            out += QLatin1String(R"(\pard\qc\sl480\slmult1\sb3600 )");
             appendInline(out, entries[i].title);
             out += QLatin1String("\\par\n\\pard\\qc\\sl480\\slmult1\\par\n");
             isAfterHeading = true;

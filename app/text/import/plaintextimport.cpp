@@ -268,17 +268,18 @@ void PlainTextBook::dropSpacedLines()
 {
     qsizetype words = 0; // since the next heading
     bool isBeforeChapter = false;
-    for (auto piece = m_pieces.rbegin(); piece != m_pieces.rend(); ++piece) {
-        if (!piece->heading) {
-            words += wordsIn(linesOf(*piece));
+    for (std::size_t i = m_pieces.size(); i-- > 0;) {
+        Piece &piece = m_pieces[i];
+        if (!piece.heading) {
+            words += wordsIn(linesOf(piece));
             continue;
         }
-        if (piece->isSpacedTitle && words < 40 && !(isBeforeChapter && words == 0)) {
-            demote(*piece);
-            words += wordsIn(linesOf(*piece));
+        if (piece.isSpacedTitle && words < 40 && !(isBeforeChapter && words == 0)) {
+            demote(piece);
+            words += wordsIn(linesOf(piece));
             continue;
         }
-        isBeforeChapter = !piece->isSpacedTitle;
+        isBeforeChapter = !piece.isSpacedTitle;
         words = 0;
     }
 }

@@ -18,11 +18,11 @@ constexpr std::array<char16_t, 32> windows1252{
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-constexpr qsizetype sampleSize = 64 * 1024;
+constexpr qsizetype sampleSize = 0x10000;
 
 QChar fromWindows1252(uchar byte)
 {
-    return QChar(byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : char16_t(byte));
+    return {byte >= 0x80 && byte < 0xA0 ? windows1252[byte - 0x80] : char16_t(byte)};
 }
 
 /// The length of the UTF-8 sequence of a character beyond ASCII at `at`; 0 when there is none.
@@ -176,11 +176,9 @@ QString decodeText(QByteArrayView bytes)
         if (unit == u'\r') {
             if (i + 1 >= raw.size() || raw[i + 1] != QLatin1Char('\n'))
                 text += QLatin1Char('\n');
-        } else if (unit == u'\f') {
-            text += QLatin1String("\n\n");
         } else if (unit == 0x85 || unit == 0x2028) { // line ends of other systems
             text += QLatin1Char('\n');
-        } else if (unit == 0x2029) {
+        } else if (unit == u'\f' || unit == 0x2029) { // ends of pages and paragraphs
             text += QLatin1String("\n\n");
         } else if (QChar::isSurrogate(unit)) {
             const bool isPair =
