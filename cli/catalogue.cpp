@@ -17,10 +17,19 @@ struct Texts
 
 // Name, usage, help, function.
 const CommandRow rows[] = {
+    {"new", "PROJECT [--name NAME]",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Make an empty project"), runNew},
     {"info", "PROJECT [--json]",
      QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Count what a project holds"), runInfo},
     {"validate", "PROJECT", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Tell whether a project loads"),
      runValidate},
+    {"convert", "SOURCE DESTINATION",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Save a project as a folder or as a “.vellum” file"),
+     runConvert},
+    {"pack", "FOLDER BUNDLE",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Pack a folder into a “.vellum” file"), runPack},
+    {"unpack", "BUNDLE FOLDER",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Unpack a “.vellum” file into a folder"), runUnpack},
     {"render", "[FILE]",
      QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Turn Markdown into an HTML fragment"), runRender},
     {"style", "[FILE|PROJECT] [--json]",
@@ -45,6 +54,10 @@ const CommandRow rows[] = {
      "FORMAT PROJECT --output FILE [--title TITLE] [--author NAME] [--contact TEXT] "
      "[--pen-name NAME]",
      QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Write the manuscript as “rtf”"), runExport},
+    {"import", "FORMAT SOURCE PROJECT",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue",
+                       "Make a project from a “markdown” or “text” source, or add to one"),
+     runImport},
     {"batch", "", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Answer JSON requests, one a line"),
      runBatch},
 };

@@ -1,10 +1,7 @@
 #include "cli/projectsource.h"
 
-#include "app/base/files.h"
-#include "app/storage/projectfolder.h"
-#include "app/storage/projectreader.h"
+#include "app/storage/bundle.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
 
@@ -12,29 +9,9 @@ namespace vl::cli {
 
 namespace {
 
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(vl::cli::ProjectSource)
-};
-
 QString bundleEnding()
 {
     return QStringLiteral(".vellum");
-}
-
-/// The files of a bundle that make up the model; nothing when one of them is damaged.
-std::optional<std::vector<app::ProjectFile>> modelFiles(const app::Archive &archive)
-{
-    std::vector<app::ProjectFile> files;
-    for (const app::Archive::Entry &entry : archive.entries()) {
-        if (!app::isReadPath(entry.name))
-            continue;
-        std::optional<QByteArray> bytes = archive.content(entry);
-        if (!bytes)
-            return std::nullopt;
-        files.push_back({QString::fromUtf8(entry.name), *std::move(bytes)});
-    }
-    return files;
 }
 
 } // namespace
@@ -53,37 +30,33 @@ QString projectName(const QString &path)
     return name;
 }
 
-ProjectSource::ProjectSource(QString path, std::unique_ptr<core::Project> project,
+ProjectSource::ProjectSource(QString path, app::LoadedProject loaded,
                              std::optional<app::Archive> archive)
     : m_path(std::move(path))
-    , m_project(std::move(project))
+    , m_project(std::move(loaded.project))
     , m_archive(std::move(archive))
 {
+    m_readPaths.reserve(qsizetype(loaded.files.size()));
+    for (const app::LoadedFile &file : loaded.files)
+        m_readPaths.append(file.path);
 }
 
 app::Result<ProjectSource> ProjectSource::open(const QString &path)
 {
     if (!isBundlePath(path)) {
-        app::Result<std::unique_ptr<core::Project>> project = app::loadProject(path);
-        if (!project)
-            return project.asFailure();
-        return ProjectSource(path, *std::move(project), std::nullopt);
+        app::Result<app::LoadedProject> loaded = app::loadProjectFiles(path);
+        if (!loaded)
+            return loaded.asFailure();
+        return ProjectSource(path, *std::move(loaded), std::nullopt);
     }
-    app::Result<QByteArray> bytes = app::readRegularFile(
-        path, Texts::tr("Could not open the project file: %1"), app::ArchiveWriter::maxBytes);
-    if (!bytes)
-        return bytes.asFailure();
-    std::optional<app::Archive> archive = app::Archive::parse(*std::move(bytes));
-    const QString invalid = app::withPath(Texts::tr("Not a valid Ivorel project file: %1"), path);
-    if (!archive || !archive->find("project.json"))
-        return app::failure(invalid);
-    const std::optional<std::vector<app::ProjectFile>> files = modelFiles(*archive);
-    if (!files)
-        return app::failure(invalid);
-    app::Result<std::unique_ptr<core::Project>> project = app::loadProject(path, *files);
-    if (!project)
-        return project.asFailure();
-    return ProjectSource(path, *std::move(project), std::move(archive));
+    app::Result<app::ReadBundle> bundle = app::readBundle(path);
+    if (!bundle)
+        return bundle.asFailure();
+    app::Result<app::LoadedProject> loaded =
+        app::loadProjectFiles(path, app::projectFilesIn(bundle->archive));
+    if (!loaded)
+        return loaded.asFailure();
+    return ProjectSource(path, *std::move(loaded), std::move(bundle->archive));
 }
 
 qint64 ProjectSource::bytesOnDisk() const

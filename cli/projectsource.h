@@ -2,7 +2,10 @@
 
 #include "app/base/result.h"
 #include "app/storage/archive.h"
+#include "app/storage/projectreader.h"
 #include "core/project.h"
+
+#include <QtCore/QStringList>
 
 #include <memory>
 #include <optional>
@@ -27,15 +30,17 @@ public:
     core::Project &project() const { return *m_project; }
     /// The archive of a bundle, null for a folder.
     const app::Archive *archive() const { return m_archive ? &*m_archive : nullptr; }
+    /// The files that the project was read from, by their path in it.
+    const QStringList &readPaths() const { return m_readPaths; }
     /// What the project takes on disk, in bytes: the file, or all files in the folder.
     qint64 bytesOnDisk() const;
 
 private:
-    ProjectSource(QString path, std::unique_ptr<core::Project> project,
-                  std::optional<app::Archive> archive);
+    ProjectSource(QString path, app::LoadedProject loaded, std::optional<app::Archive> archive);
 
     QString m_path;
     std::unique_ptr<core::Project> m_project;
+    QStringList m_readPaths;
     std::optional<app::Archive> m_archive;
 };
 
