@@ -106,7 +106,7 @@ app::Result<> checkReplaceable(const core::Project &project, const QString &path
     const core::Project &other = older->project();
     const auto isShared = [&other](const auto &object) { return other.contains(object.first); };
     const bool isRelated =
-        project.size() == 0 || other.size() == 0
+        other.size() == 0
         || std::any_of(project.objects().begin(), project.objects().end(), isShared);
     return isRelated
                ? app::Result<>()

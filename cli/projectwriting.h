@@ -18,7 +18,8 @@ app::Result<> writeNewProject(const core::Project &project, const QString &path,
 
 /// Writes a project that was read from one place to another, or again to its own, with its assets
 /// and whatever else lies beside the model. A project that stands there already is replaced when it
-/// is a state of the same one: of two that have no object in common the older one stays.
+/// is empty or a state of the same one; one that has no object in common with the source stays, and
+/// that is a failure.
 app::Result<> convertProject(const ProjectSource &source, const QString &path);
 
 } // namespace vl::cli
