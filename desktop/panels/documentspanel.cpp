@@ -24,6 +24,13 @@ using app::DocumentOperations;
 using app::DocumentsModel;
 using core::ContentId;
 
+namespace {
+
+constexpr int roomForStatus = 36; // characters of the panel's width
+constexpr int roomForWords = 22;
+
+} // namespace
+
 DocumentsPanel::DocumentsPanel(const PanelContext &context, QWidget *parent)
     : QWidget(parent)
     , m_context(context)
@@ -123,6 +130,15 @@ void DocumentsPanel::buildTree(QLayout *layout)
     connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DocumentsPanel::selectInWorkspace);
+}
+
+void DocumentsPanel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // The titles need the room before anything else does.
+    const int characters = width() / fontMetrics().averageCharWidth();
+    m_tree->setColumnHidden(DocumentsModel::StatusColumn, characters < roomForStatus);
+    m_tree->setColumnHidden(DocumentsModel::WordsColumn, characters < roomForWords);
 }
 
 QWidget *DocumentsPanel::makeEmptyState()

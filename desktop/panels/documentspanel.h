@@ -26,6 +26,9 @@ public:
     DocumentsPanel(const PanelContext &context, QWidget *parent);
     ~DocumentsPanel() override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void buildToolBar(QLayout *layout);
     void buildTree(QLayout *layout);

@@ -69,7 +69,9 @@ PanelHost::PanelHost(QMainWindow *window, const PanelContext &context)
     m_manager = new ads::CDockManager(window);
     m_manager->setStyleSheet(
         m_manager->styleSheet()
-        + QStringLiteral("\nads--CDockWidgetTab QLabel { color: palette(text); }\n"));
+        + QStringLiteral("\nads--CDockWidgetTab QLabel { color: palette(text); }\n"
+                         "ads--CDockWidgetTab[focused=\"true\"] QLabel "
+                         "{ color: palette(highlighted-text); }\n"));
 
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
 
