@@ -1120,6 +1120,30 @@
         <source>Failed to write file: %1</source>
         <translation>Failed to write file: %1</translation>
     </message>
+    <message>
+        <source>Writing the project…</source>
+        <translation>Writing the project…</translation>
+    </message>
+    <message>
+        <source>Reading what is to be imported…</source>
+        <translation>Reading what is to be imported…</translation>
+    </message>
+    <message>
+        <source>Documents added: %1</source>
+        <translation>Documents added: %1</translation>
+    </message>
+    <message>
+        <source>There is something already: %1</source>
+        <translation>There is something already: %1</translation>
+    </message>
+    <message>
+        <source>Packing…</source>
+        <translation>Packing…</translation>
+    </message>
+    <message>
+        <source>Unpacking…</source>
+        <translation>Unpacking…</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -1258,6 +1282,26 @@
         <source>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</source>
         <translation>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</translation>
     </message>
+    <message>
+        <source>Make an empty project</source>
+        <translation>Make an empty project</translation>
+    </message>
+    <message>
+        <source>Save a project as a folder or as a “.vellum” file</source>
+        <translation>Save a project as a folder or as a “.vellum” file</translation>
+    </message>
+    <message>
+        <source>Pack a folder into a “.vellum” file</source>
+        <translation>Pack a folder into a “.vellum” file</translation>
+    </message>
+    <message>
+        <source>Unpack a “.vellum” file into a folder</source>
+        <translation>Unpack a “.vellum” file into a folder</translation>
+    </message>
+    <message>
+        <source>Make a project from a “markdown” or “text” source, or add to one</source>
+        <translation>Make a project from a “markdown” or “text” source, or add to one</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Main</name>
@@ -1267,14 +1311,22 @@
     </message>
 </context>
 <context>
-    <name>vl::cli::ProjectSource</name>
+    <name>vl::cli::ProjectWriting</name>
     <message>
-        <source>Could not open the project file: %1</source>
-        <translation>Could not open the project file: %1</translation>
+        <source>Could not write a project file: %1</source>
+        <translation>Could not write a project file: %1</translation>
     </message>
     <message>
-        <source>Not a valid Ivorel project file: %1</source>
-        <translation>Not a valid Ivorel project file: %1</translation>
+        <source>Could not create the folder for: %1</source>
+        <translation>Could not create the folder for: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>Cannot create project folder: %1</translation>
+    </message>
+    <message>
+        <source>Another project stands there: %1</source>
+        <translation>Another project stands there: %1</translation>
     </message>
 </context>
 <context>

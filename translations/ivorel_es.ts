@@ -1120,6 +1120,30 @@
         <source>Failed to write file: %1</source>
         <translation>No se pudo escribir el archivo: %1</translation>
     </message>
+    <message>
+        <source>Writing the project…</source>
+        <translation>Escribiendo el proyecto…</translation>
+    </message>
+    <message>
+        <source>Reading what is to be imported…</source>
+        <translation>Leyendo lo que se va a importar…</translation>
+    </message>
+    <message>
+        <source>Documents added: %1</source>
+        <translation>Documentos añadidos: %1</translation>
+    </message>
+    <message>
+        <source>There is something already: %1</source>
+        <translation>Ya hay algo ahí: %1</translation>
+    </message>
+    <message>
+        <source>Packing…</source>
+        <translation>Empaquetando…</translation>
+    </message>
+    <message>
+        <source>Unpacking…</source>
+        <translation>Desempaquetando…</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -1258,6 +1282,26 @@
         <source>Merge three versions of a file, for git too: prints the result or writes it to FILE; a NAME that ends in “.json” must stay valid</source>
         <translation>Fusiona tres versiones de un archivo, también para git: muestra el resultado o lo escribe en FILE; un NAME que acabe en «.json» debe seguir siendo válido</translation>
     </message>
+    <message>
+        <source>Make an empty project</source>
+        <translation>Crea un proyecto vacío</translation>
+    </message>
+    <message>
+        <source>Save a project as a folder or as a “.vellum” file</source>
+        <translation>Guarda un proyecto como carpeta o como archivo «.vellum»</translation>
+    </message>
+    <message>
+        <source>Pack a folder into a “.vellum” file</source>
+        <translation>Empaqueta una carpeta en un archivo «.vellum»</translation>
+    </message>
+    <message>
+        <source>Unpack a “.vellum” file into a folder</source>
+        <translation>Desempaqueta un archivo «.vellum» en una carpeta</translation>
+    </message>
+    <message>
+        <source>Make a project from a “markdown” or “text” source, or add to one</source>
+        <translation>Crea un proyecto a partir de un origen «markdown» o «text», o añade a uno</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Main</name>
@@ -1267,14 +1311,22 @@
     </message>
 </context>
 <context>
-    <name>vl::cli::ProjectSource</name>
+    <name>vl::cli::ProjectWriting</name>
     <message>
-        <source>Could not open the project file: %1</source>
-        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+        <source>Could not write a project file: %1</source>
+        <translation>No se pudo escribir un archivo del proyecto: %1</translation>
     </message>
     <message>
-        <source>Not a valid Ivorel project file: %1</source>
-        <translation>No es un archivo de proyecto de Ivorel válido: %1</translation>
+        <source>Could not create the folder for: %1</source>
+        <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>No se puede crear la carpeta del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Another project stands there: %1</source>
+        <translation>Ahí hay otro proyecto: %1</translation>
     </message>
 </context>
 <context>
