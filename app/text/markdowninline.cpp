@@ -1,6 +1,7 @@
 #include "app/text/markdowninline.h"
 
 #include "app/text/markdownscan.h"
+#include "app/text/markdownurl.h"
 
 #include <array>
 #include <bit>
@@ -147,64 +148,6 @@ qsizetype closingBracket(QStringView text, qsizetype from)
             return from;
     }
     return -1;
-}
-
-/// The end of the URL that starts at `at`: no white space, parentheses only in pairs one deep and
-/// not empty altogether, a ")" right after it. -1 if there is no such URL.
-qsizetype urlEnd(QStringView text, qsizetype at)
-{
-    const qsizetype start = at;
-    for (; at < text.size(); ++at) {
-        const char16_t c = text[at].unicode();
-        if (c == u')')
-            return at > start ? at : -1;
-        if (isPatternSpace(c))
-            return -1;
-        if (c == u'(') {
-            do {
-                if (++at == text.size() || text[at] == u'(')
-                    return -1;
-            } while (text[at] != u')');
-        }
-    }
-    return -1;
-}
-
-/// Whether the text is this lower-case one, capitals of ASCII apart; other letters have no kin
-/// here, although Unicode folds a long s to an s.
-bool isText(QStringView text, QLatin1String lower)
-{
-    if (text.size() != lower.size())
-        return false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t c = text[i].unicode();
-        if ((c >= u'A' && c <= u'Z' ? char16_t(c + 0x20) : c) != lower[i].unicode())
-            return false;
-    }
-    return true;
-}
-
-bool isAllowedScheme(QStringView scheme)
-{
-    for (const char *const allowed : {"http", "https", "mailto", "tel", "ftp"}) {
-        if (isText(scheme, QLatin1String(allowed)))
-            return true;
-    }
-    return false;
-}
-
-/// Whether a URL may stand: relative, or of a known scheme; for images also "data:image/".
-bool isSafeUrl(QStringView url, bool image)
-{
-    qsizetype colon = 0;
-    for (; colon < url.size() && url[colon] != u':'; ++colon) {
-        if (url[colon] == u'/' || url[colon] == u'?' || url[colon] == u'#')
-            return true;
-    }
-    if (colon == url.size() || isAllowedScheme(url.left(colon)))
-        return true;
-    return image && isText(url.left(colon), QLatin1String("data"))
-           && isText(url.mid(colon + 1, 6), QLatin1String("image/"));
 }
 
 } // namespace
@@ -389,7 +332,7 @@ void MarkdownInline::replaceTargets(Target kind)
         next = close + 1;
         const bool hasTarget =
             (image || close > content) && close + 1 < text.size() && text[close + 1] == u'(';
-        const qsizetype end = hasTarget ? urlEnd(text, close + 2) : -1;
+        const qsizetype end = hasTarget ? markdownUrlEnd(text, close + 2) : -1;
         if (end < 0)
             continue;
         const QStringView label = text.mid(content, close - content);
@@ -422,7 +365,7 @@ QStringView MarkdownInline::checkedUrl(QStringView url, Target kind)
         appendRestored(url, m_url);
         judged = m_url.from(0);
     }
-    return isSafeUrl(judged, kind == Target::Image) ? url : QStringView(u"#");
+    return isSafeMarkdownUrl(judged, kind == Target::Image) ? url : QStringView(u"#");
 }
 
 /// Notes the marks of a working text that from `first` on is no longer as the first pass left it.
