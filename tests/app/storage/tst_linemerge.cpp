@@ -69,16 +69,17 @@ void TestLineMerge::alignmentIsLongest_data()
     QTest::addColumn<int>("secondSize");
     QTest::addColumn<int>("alphabet");
     QTest::addColumn<int>("common");
-    QTest::addColumn<bool>("related");
+    QTest::addColumn<int>("edits"); // of the first that make the second; 0: drawn anew
 
-    QTest::newRow("short") << 30 << 40 << 5 << 0 << false;
-    QTest::newRow("few differences") << 2000 << 2000 << 50 << 0 << true;
-    QTest::newRow("six lines") << 3000 << 3500 << 6 << 0 << false;
-    QTest::newRow("one word of columns") << 4000 << 64 << 6 << 0 << false;
-    QTest::newRow("the second is longer") << 65 << 4000 << 6 << 0 << false;
-    QTest::newRow("mostly distinct") << 2000 << 2000 << 1500 << 0 << false;
-    QTest::newRow("half of them blank") << 2500 << 2400 << 2500 << 50 << false;
-    QTest::newRow("many middling repeats") << 2500 << 2500 << 120 << 5 << false;
+    QTest::newRow("short") << 30 << 40 << 5 << 0 << 0;
+    QTest::newRow("few differences") << 2000 << 2000 << 50 << 0 << 200;
+    QTest::newRow("many differences") << 5000 << 5000 << 6 << 0 << 2000;
+    QTest::newRow("six lines") << 3000 << 3500 << 6 << 0 << 0;
+    QTest::newRow("one word of columns") << 4000 << 64 << 6 << 0 << 0;
+    QTest::newRow("the second is longer") << 65 << 4000 << 6 << 0 << 0;
+    QTest::newRow("mostly distinct") << 2000 << 2000 << 1500 << 0 << 0;
+    QTest::newRow("half of them blank") << 2500 << 2400 << 2500 << 50 << 0;
+    QTest::newRow("many middling repeats") << 2500 << 2500 << 120 << 5 << 0;
 }
 
 void TestLineMerge::alignmentIsLongest()
@@ -87,16 +88,17 @@ void TestLineMerge::alignmentIsLongest()
     QFETCH(int, secondSize);
     QFETCH(int, alphabet);
     QFETCH(int, common);
-    QFETCH(bool, related);
+    QFETCH(int, edits);
 
     std::mt19937 random(7);
     const Symbols first = drawn(random, firstSize, alphabet, common);
     Symbols second = drawn(random, secondSize, alphabet, common);
-    if (related) {
+    if (edits > 0) {
         second = first;
-        for (int i = 0; i < 200; ++i) {
+        for (int i = 0; i < edits; ++i) {
             second.erase(second.begin() + long(random() % second.size()));
-            second.insert(second.begin() + long(random() % second.size()), int(random() % 50));
+            second.insert(second.begin() + long(random() % second.size()),
+                          int(random() % unsigned(alphabet)));
         }
     }
     const auto pairs = longestCommonSubsequence(first, second, std::max(alphabet, 1));
