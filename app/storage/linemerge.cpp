@@ -12,7 +12,8 @@
 namespace vl::app {
 namespace {
 
-constexpr size_t maxLines = size_t(1) << 28; ///< of a text; a longer one is merged as a single line
+constexpr size_t firstTableSize = size_t(1) << 20; ///< different lines
+constexpr size_t maxLines = size_t(1) << 25; ///< of a text; a longer one is merged as a single line
 
 template<typename View>
 struct TextOf;
@@ -347,7 +348,7 @@ MergedText<typename TextOf<View>::Type> mergeTexts(View base, View local, View r
         }
         most = 1;
     }
-    LineTable<View> table(most);
+    LineTable<View> table(std::min(most, firstTableSize));
     for (LineText<View> &cut : cuts)
         table.number(cut);
     return Merger<View>(cuts[0], cuts[1], cuts[2], table.count()).merge();
