@@ -127,6 +127,10 @@ Result<> commitFolderSave(const FolderSave &save, OutsideChanges outside, Durabi
     if (const Result<> made = FolderWriter::makeFolders(save.folder, durability); !made)
         return made;
 
+    // A save that was killed may have left its temporaries.
+    for (const QString &name : {QString(), objectsFolder(), taxonomyFolder()})
+        removeUnfinishedFiles(save.folder + u'/' + name);
+
     std::vector<bool> isRight(save.writes.size());
     for (std::size_t i = 0; i < save.writes.size(); ++i) {
         const Standing found = standing(save.folder, save.writes[i]);
