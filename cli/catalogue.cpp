@@ -126,6 +126,19 @@ bool asksForHelp(const QStringList &words)
 
 } // namespace
 
+QString commandTable()
+{
+    QString table = QStringLiteral("| Command | What it does |\n|---|---|\n");
+    for (const CommandRow &command : rows) {
+        const QString usage =
+            QStringLiteral("%1 %2").arg(QLatin1String(command.name), QLatin1String(command.usage));
+        table += QStringLiteral("| `%1` | %2 |\n")
+                     .arg(usage.trimmed().replace(QLatin1Char('|'), QLatin1String("\\|")),
+                          QString::fromUtf8(command.help));
+    }
+    return table;
+}
+
 std::span<const CommandRow> commands()
 {
     return rows;

@@ -30,7 +30,7 @@ ExitStatus wrongUsage(Console &console, const char *command, const QString &reas
 /// Runs the program with the words that follow its name.
 ExitStatus run(const QStringList &words, Console &console);
 
-/// The page of the manual that tells all commands, as Markdown.
-QString manualPage();
+/// The table of the manual that tells all commands, as Markdown.
+QString commandTable();
 
 } // namespace vl::cli
