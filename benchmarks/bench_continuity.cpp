@@ -1,14 +1,22 @@
+#include "app/storage/projectreader.h"
+#include "app/storage/projectwriter.h"
 #include "app/time/continuitychecker.h"
 #include "core/content/entity.h"
 #include "core/content/map.h"
 #include "core/content/timeline.h"
 #include "core/project.h"
 
+#include <QtConcurrent/QtConcurrentMap>
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QJsonDocument>
 #include <QtCore/QRandomGenerator>
+#include <QtCore/QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <map>
 
 using namespace vl::core;
 
@@ -104,6 +112,56 @@ void longStays(benchmark::State &state)
     check(state, project);
 }
 
+/// The folder of a project of the size that the benchmark asks for, written once; empty when it
+/// could not be written.
+QString projectFolder(const benchmark::State &state)
+{
+    static std::map<std::pair<qint64, qint64>, QTemporaryDir> folders;
+    const auto [entry, isNew] = folders.try_emplace({state.range(0), state.range(1)});
+    if (isNew) {
+        Project project;
+        const bool isOnePerson = state.range(1) == 1;
+        fill(project, state.range(0), isOnePerson ? 1 : state.range(0) / 10, isOnePerson ? 1 : 3,
+             100);
+        if (!vl::app::saveProject(project, entry->second.path(), vl::app::Durability::Atomic))
+            return {};
+    }
+    return entry->second.path();
+}
+
+void loadAndCheck(benchmark::State &state)
+{
+    const QString folder = projectFolder(state);
+    for (auto _ : state) {
+        const auto project = vl::app::loadProject(folder);
+        if (!project) {
+            state.SkipWithError("cannot read the project");
+            break;
+        }
+        benchmark::DoNotOptimize(vl::app::findTimelineConflicts(**project).size());
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+/// What reading the same files costs with the toolkit alone, on all cores.
+void parseFiles(benchmark::State &state)
+{
+    const QString folder = projectFolder(state);
+    for (auto _ : state) {
+        QStringList paths;
+        QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            paths.append(files.next());
+        const auto parse = [](const QString &path) {
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll())
+                                                  : QJsonDocument();
+        };
+        benchmark::DoNotOptimize(QtConcurrent::blockingMapped<QList<QJsonDocument>>(paths, parse));
+    }
+    state.SetComplexityN(state.range(0));
+}
+
 } // namespace
 
 BENCHMARK(manyPeople)
@@ -124,3 +182,16 @@ BENCHMARK(longStays)
     ->Arg(50'000)
     ->Unit(benchmark::kMillisecond)
     ->Complexity();
+
+BENCHMARK(loadAndCheck)
+    ->ArgsProduct({{12'500, 25'000, 50'000}, {0, 1}})
+    ->ArgNames({"events", "onePerson"})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
+BENCHMARK(parseFiles)
+    ->ArgsProduct({{50'000}, {0, 1}})
+    ->ArgNames({"events", "onePerson"})
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();

@@ -302,11 +302,11 @@ void TimelineCheck::checkReferences()
     for (size_t i = 0; i < m_events.size(); ++i) {
         const Event &event = m_events[i];
         if (event.place >= 0 && !m_entities[size_t(event.place)])
-            add(tr("\"%1\" happens at a location that no longer exists.").arg(title(event)),
+            add(tr(R"("%1" happens at a location that no longer exists.)").arg(title(event)),
                 {event.event->id()});
         for (const int participant : participants(i)) {
             if (!m_entities[size_t(participant)])
-                add(tr("\"%1\" lists a participant that no longer exists.").arg(title(event)),
+                add(tr(R"("%1" lists a participant that no longer exists.)").arg(title(event)),
                     {event.event->id()});
         }
     }
@@ -326,7 +326,7 @@ void TimelineCheck::checkPairs(const TravelTable &routes)
              finder.inTwoPlaces(events, size_t(m_limit - m_conflicts.size()))) {
             const Event &first = m_events[size_t(i)];
             const Event &second = m_events[size_t(j)];
-            add(tr("%1 is in two places at once: \"%2\" and \"%3\".")
+            add(tr(R"(%1 is in two places at once: "%2" and "%3".)")
                     .arg(nameOf(m_entities[entity]), title(first), title(second)),
                 {first.event->id(), second.event->id()});
         }
@@ -348,11 +348,11 @@ void TimelineCheck::checkLifespans()
                 continue;
             const core::Lifespan &lifespan = entity->lifespan();
             if (lifespan.birthInstant && event.interval.start < *lifespan.birthInstant)
-                add(tr("%1 takes part in \"%2\" before being born.")
+                add(tr(R"(%1 takes part in "%2" before being born.)")
                         .arg(nameOf(entity), title(event)),
                     {event.event->id()});
             if (lifespan.deathInstant && event.interval.end > *lifespan.deathInstant)
-                add(tr("%1 takes part in \"%2\" after death.").arg(nameOf(entity), title(event)),
+                add(tr(R"(%1 takes part in "%2" after death.)").arg(nameOf(entity), title(event)),
                     {event.event->id()});
         }
     }
@@ -367,7 +367,7 @@ void TimelineCheck::tellJourneys()
         const bool isInOrder = earlierOf(placed(i), placed(j)).event == i;
         const Event &earlier = m_events[size_t(isInOrder ? i : j)];
         const Event &later = m_events[size_t(isInOrder ? j : i)];
-        add(tr("%1 cannot travel from %2 to %3 in time between \"%4\" and \"%5\".")
+        add(tr(R"(%1 cannot travel from %2 to %3 in time between "%4" and "%5".)")
                 .arg(nameOf(journey.participant), nameOf(m_entities[size_t(earlier.place)]),
                      nameOf(m_entities[size_t(later.place)]), title(earlier), title(later)),
             {earlier.event->id(), later.event->id()});
@@ -414,7 +414,7 @@ void TimelineCheck::checkConstraint(const Event &event, const EventConstraint &c
         return; // a kind that nobody knows asks for nothing
     }
     //: %1 and %3 are titles of events, %2 is one of the phrases "must start after" and so on.
-    add(tr("\"%1\" %2 \"%3\", but does not.").arg(title(event), phrase, title(other)),
+    add(tr(R"("%1" %2 "%3", but does not.)").arg(title(event), phrase, title(other)),
         {event.event->id(), other.event->id()});
 }
 
@@ -429,14 +429,15 @@ QList<TimelineConflict> findTimelineConflicts(const Project &project,
 
 QList<TimelineConflict> checkContinuityRules(const Project &project)
 {
-    const auto tr = [](const char *text) { return TimelineCheck::tr(text); };
     QList<TimelineConflict> conflicts;
     for (const core::ContinuityRule &rule : project.continuityRules()) {
         const QString name = rule.name.isEmpty() ? rule.fieldKey : rule.name;
         const Entity *entity = project.find<Entity>(rule.entityId);
         if (!entity) {
             conflicts.append(
-                {tr("Rule \"%1\" refers to an entity that is no longer in the project.").arg(name),
+                {TimelineCheck::tr(
+                     "Rule \"%1\" refers to an entity that is no longer in the project.")
+                     .arg(name),
                  {}});
             continue;
         }
@@ -447,11 +448,12 @@ QList<TimelineConflict> checkContinuityRules(const Project &project)
         const bool isEqual = actual && *actual == rule.value;
         if (isEqual != notEquals)
             continue;
-        conflicts.append({tr("Rule \"%1\": %2's %3 %4 \"%5\", but is \"%6\".")
-                              .arg(name, TimelineCheck::nameOf(entity), rule.fieldKey,
-                                   notEquals ? tr("must not be") : tr("must be"), rule.value,
-                                   actual.value_or(tr("(unset)"))),
-                          {}});
+        conflicts.append(
+            {TimelineCheck::tr(R"(Rule "%1": %2's %3 %4 "%5", but is "%6".)")
+                 .arg(name, TimelineCheck::nameOf(entity), rule.fieldKey,
+                      notEquals ? TimelineCheck::tr("must not be") : TimelineCheck::tr("must be"),
+                      rule.value, actual.value_or(TimelineCheck::tr("(unset)"))),
+             {}});
     }
     return conflicts;
 }

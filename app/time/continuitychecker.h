@@ -35,7 +35,7 @@ QList<TimelineConflict> findTimelineConflicts(const core::Project &project,
 
 /// The continuity rules that do not hold, in the order of the rules. A rule with an instant looks
 /// at the value that the field has then: that of the latest timed value up to it (of equal instants
-/// the one later in the list), else the plain value.
+/// the one later in the list), else the plain value. A rule without a name goes by its field key.
 QList<TimelineConflict> checkContinuityRules(const core::Project &project);
 
 } // namespace vl::app

@@ -67,7 +67,7 @@ EventPairFinder::EventPairFinder(const TravelTable &routes, int placeCount)
 
 void EventPairFinder::addPair(const PlacedEvent &a, const PlacedEvent &b)
 {
-    m_pairs.push_back(std::minmax(a.event, b.event));
+    m_pairs.emplace_back(std::min(a.event, b.event), std::max(a.event, b.event));
 }
 
 /// Compares all pairs, in their order, until the limit is reached.

@@ -13,6 +13,9 @@ namespace {
 struct ReckoningView
 {
     Q_DECLARE_TR_FUNCTIONS(vl::app::ReckoningView)
+
+public:
+    static QString nameOfNew() { return tr("New reckoning"); }
 };
 
 } // namespace
@@ -47,7 +50,7 @@ qint64 primaryYearOfEpoch(const core::Calendar &primary, const core::Reckoning &
 core::Reckoning newReckoning(const core::Calendar &primary)
 {
     core::Reckoning reckoning;
-    reckoning.name = ReckoningView::tr("New reckoning");
+    reckoning.name = ReckoningView::nameOfNew();
     reckoning.calendar = primary;
     reckoning.calendar.name.clear();
     return reckoning;

@@ -117,8 +117,8 @@ QString tickLabel(const core::Calendar &calendar, TickUnit unit, qint64 instant)
 QString contextLabel(const core::Calendar &calendar, TickUnit unit, qint64 instant)
 {
     const CalendarDate date = breakDown(calendar, instant);
-    const QString year = yearText(calendar, date.year);
-    const QString monthAndYear = monthText(calendar, date.month, {}) + QLatin1Char(' ') + year;
+    QString year = yearText(calendar, date.year);
+    QString monthAndYear = monthText(calendar, date.month, {}) + QLatin1Char(' ') + year;
     switch (unit) {
     case TickUnit::Minute:
     case TickUnit::Hour:
@@ -152,8 +152,8 @@ QString widestLabel(const core::Calendar &calendar, TickUnit unit)
 
 QString widestContext(const core::Calendar &calendar, TickUnit unit)
 {
-    const QString year = widestLabel(calendar, TickUnit::Year);
-    const QString monthAndYear = longestMonthName(calendar) + QLatin1Char(' ') + year;
+    QString year = widestLabel(calendar, TickUnit::Year);
+    QString monthAndYear = longestMonthName(calendar) + QLatin1Char(' ') + year;
     switch (unit) {
     case TickUnit::Minute:
     case TickUnit::Hour:
