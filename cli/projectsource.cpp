@@ -2,6 +2,7 @@
 
 #include "app/storage/bundle.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
 
@@ -20,6 +21,11 @@ bool isBundlePath(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() ? !info.isDir() : path.endsWith(bundleEnding(), Qt::CaseInsensitive);
+}
+
+QString fullPath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
 QString projectName(const QString &path)
@@ -41,8 +47,9 @@ ProjectSource::ProjectSource(QString path, app::LoadedProject loaded,
         m_readPaths.append(file.path);
 }
 
-app::Result<ProjectSource> ProjectSource::open(const QString &path)
+app::Result<ProjectSource> ProjectSource::open(const QString &givenPath)
 {
+    const QString path = fullPath(givenPath);
     if (!isBundlePath(path)) {
         app::Result<app::LoadedProject> loaded = app::loadProjectFiles(path);
         if (!loaded)

@@ -16,6 +16,9 @@ namespace vl::cli {
 /// nothing stands its ending.
 bool isBundlePath(const QString &path);
 
+/// The path from the root on, as messages name it.
+QString fullPath(const QString &path);
+
 /// The folder's or the file's own name, without ".vellum".
 QString projectName(const QString &path);
 
@@ -24,7 +27,7 @@ QString projectName(const QString &path);
 class ProjectSource
 {
 public:
-    static app::Result<ProjectSource> open(const QString &path);
+    static app::Result<ProjectSource> open(const QString &givenPath);
 
     const QString &path() const { return m_path; }
     core::Project &project() const { return *m_project; }

@@ -11,7 +11,7 @@ ExitStatus runConvert(const Arguments &arguments, Console &console)
     if (!source)
         return console.fail(source.message());
     console.begin(Arguments::tr("Writing the project…"));
-    const app::Result<> written = convertProject(*source, arguments.at(1));
+    const app::Result<> written = convertProject(*source, fullPath(arguments.at(1)));
     return written ? ExitStatus::Done : console.fail(written.message());
 }
 

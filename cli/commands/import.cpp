@@ -75,7 +75,7 @@ ExitStatus runImport(const Arguments &arguments, Console &console)
     if (format == std::end(formats))
         return wrongUsage(console, "import",
                           Arguments::tr("Unknown format: %1").arg(arguments.at(0)));
-    const QString path = arguments.at(2);
+    const QString path = fullPath(arguments.at(2));
     console.begin(Arguments::tr("Reading what is to be imported…"));
     const app::Result<app::ImportedManuscript> manuscript =
         format->read(arguments.at(1), projectName(path));

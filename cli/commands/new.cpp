@@ -8,7 +8,7 @@ namespace vl::cli {
 
 ExitStatus runNew(const Arguments &arguments, Console &console)
 {
-    const QString path = arguments.at(0);
+    const QString path = fullPath(arguments.at(0));
     if (!isFreeForProject(path))
         return console.fail(app::withPath(Arguments::tr("There is something already: %1"), path));
     app::ProjectFiles carried;

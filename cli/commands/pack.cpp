@@ -1,20 +1,23 @@
 #include "cli/commands/commands.h"
 
 #include "app/storage/bundle.h"
+#include "cli/projectsource.h"
 
 namespace vl::cli {
 
 ExitStatus runPack(const Arguments &arguments, Console &console)
 {
     console.begin(Arguments::tr("Packing…"));
-    const app::Result<> packed = app::packFolder(arguments.at(0), arguments.at(1));
+    const app::Result<> packed =
+        app::packFolder(fullPath(arguments.at(0)), fullPath(arguments.at(1)));
     return packed ? ExitStatus::Done : console.fail(packed.message());
 }
 
 ExitStatus runUnpack(const Arguments &arguments, Console &console)
 {
     console.begin(Arguments::tr("Unpacking…"));
-    const app::Result<> extracted = app::extractBundle(arguments.at(0), arguments.at(1));
+    const app::Result<> extracted =
+        app::extractBundle(fullPath(arguments.at(0)), fullPath(arguments.at(1)));
     return extracted ? ExitStatus::Done : console.fail(extracted.message());
 }
 
