@@ -61,13 +61,11 @@ QStringList scenesOf(const QString &text)
 QList<ManuscriptEntry> manuscriptRtfEntries(const Manuscript &manuscript)
 {
     QList<ManuscriptEntry> entries;
-    const auto &all = manuscript.entries;
-    for (qsizetype i = 0; i < all.size(); ++i) {
-        QStringList scenes = scenesOf(withoutFootnoteDefinitions(all[i].text));
-        const bool isHeading = all[i].level <= 1;
-        const bool isBeforeScene = i + 1 < all.size() && all[i + 1].level > 1;
-        ManuscriptEntry entry = all[i];
-        if (isHeading && (scenes.size() > 1 || isBeforeScene)) {
+    for (const ManuscriptEntry &whole : manuscript.entries) {
+        QStringList scenes = scenesOf(withoutFootnoteDefinitions(whole.text));
+        const bool isHeading = whole.level <= 1;
+        ManuscriptEntry entry = whole;
+        if (isHeading && scenes.size() > 1) {
             entry.text.clear();
             entries.append(entry);
             entry.level = 2;

@@ -331,7 +331,7 @@ void TestManuscriptRtf::entriesForTheLayout_data()
     QTest::newRow("rule inside a chapter") << "1|T|a\n\n#\n\nb"
                                            << "1|T|/2|T|a/2|T|b";
     QTest::newRow("chapter with text and scenes") << "1|C|a/2|S|b"
-                                                  << "1|C|/2|C|a/2|S|b";
+                                                  << "1|C|a/2|S|b";
     QTest::newRow("chapter, then chapter") << "0|P|a/1|C|b"
                                            << "0|P|a/1|C|b";
     QTest::newRow("definitions first") << "1|T|a[^1]\n[^1]: n\nb"
