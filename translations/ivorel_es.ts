@@ -111,13 +111,6 @@
     </message>
 </context>
 <context>
-    <name>ReckoningView</name>
-    <message>
-        <source>New reckoning</source>
-        <translation>Cómputo nuevo</translation>
-    </message>
-</context>
-<context>
     <name>Themes</name>
     <message>
         <source>Light</source>
@@ -134,29 +127,6 @@
     <message>
         <source>Sepia</source>
         <translation>Sepia</translation>
-    </message>
-</context>
-<context>
-    <name>vl::app</name>
-    <message>
-        <source>Rule "%1" refers to an entity that is no longer in the project.</source>
-        <translation>La regla "%1" se refiere a una entidad que ya no está en el proyecto.</translation>
-    </message>
-    <message>
-        <source>Rule "%1": %2's %3 %4 "%5", but is "%6".</source>
-        <translation>Regla "%1": %3 de %2 %4 "%5", pero es "%6".</translation>
-    </message>
-    <message>
-        <source>must not be</source>
-        <translation>no debe ser</translation>
-    </message>
-    <message>
-        <source>must be</source>
-        <translation>debe ser</translation>
-    </message>
-    <message>
-        <source>(unset)</source>
-        <translation>(sin valor)</translation>
     </message>
 </context>
 <context>
@@ -306,6 +276,26 @@
         <source>"%1" %2 "%3", but does not.</source>
         <extracomment>%1 and %3 are titles of events, %2 is one of the phrases "must start after" and so on.</extracomment>
         <translation>"%1" %2 "%3", pero no es así.</translation>
+    </message>
+    <message>
+        <source>Rule "%1" refers to an entity that is no longer in the project.</source>
+        <translation>La regla "%1" se refiere a una entidad que ya no está en el proyecto.</translation>
+    </message>
+    <message>
+        <source>Rule "%1": %2's %3 %4 "%5", but is "%6".</source>
+        <translation>Regla "%1": %3 de %2 %4 "%5", pero es "%6".</translation>
+    </message>
+    <message>
+        <source>must not be</source>
+        <translation>no debe ser</translation>
+    </message>
+    <message>
+        <source>must be</source>
+        <translation>debe ser</translation>
+    </message>
+    <message>
+        <source>(unset)</source>
+        <translation>(sin valor)</translation>
     </message>
 </context>
 <context>
@@ -928,6 +918,13 @@
     <message>
         <source>The folder is not empty: %1</source>
         <translation>La carpeta no está vacía: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ReckoningView</name>
+    <message>
+        <source>New reckoning</source>
+        <translation>Cómputo nuevo</translation>
     </message>
 </context>
 <context>
