@@ -32,6 +32,16 @@ bool startsBefore(const PlacedEvent &a, const PlacedEvent &b)
     return a.interval.start < b.interval.start;
 }
 
+bool beginsBefore(const PlacedEvent &event, qint64 minute)
+{
+    return event.interval.start < minute;
+}
+
+bool endsAfter(qint64 minute, const PlacedEvent &event)
+{
+    return minute < event.interval.end;
+}
+
 bool takesLonger(double minutes, const PlacedEvent &earlier, const PlacedEvent &later)
 {
     return minutes > double(saturatedDifference(later.interval.start, earlier.interval.end));
@@ -250,7 +260,8 @@ const std::vector<EventPair> &EventPairFinder::tooFarApart(std::span<const Place
             const Group &other = m_groups[size_t(position)];
             const bool isFewer = group.reversed - group.begin < other.reversed - other.begin;
             travel(isFewer ? group : other, isFewer ? other : group, neighbour.minutes, limit);
-            compareReversed(group, other, limit);
+            travelReversed(group, other, neighbour.minutes, limit);
+            travelReversed(other, group, neighbour.minutes, limit);
         }
     }
     for (const Group &group : m_groups)
@@ -270,16 +281,12 @@ void EventPairFinder::travel(const Group &few, const Group &many, double minutes
     const auto endEnd = m_byEnd.cbegin() + qptrdiff(many.reversed);
     for (size_t i = few.begin; i < few.reversed && m_pairs.size() <= limit; ++i) {
         const PlacedEvent &event = m_byStart[i];
-        auto later =
-            std::lower_bound(startBegin, startEnd, event.interval.end,
-                             [](const PlacedEvent &e, qint64 t) { return e.interval.start < t; });
+        auto later = std::lower_bound(startBegin, startEnd, event.interval.end, beginsBefore);
         for (; later != startEnd && takesLonger(minutes, event, *later); ++later) {
             if (startsBefore(event, *later))
                 addPair(event, *later);
         }
-        auto earlier =
-            std::upper_bound(endBegin, endEnd, event.interval.start,
-                             [](qint64 t, const PlacedEvent &e) { return t < e.interval.end; });
+        auto earlier = std::upper_bound(endBegin, endEnd, event.interval.start, endsAfter);
         for (; earlier != endBegin && takesLonger(minutes, *(earlier - 1), event); --earlier) {
             if (startsBefore(*(earlier - 1), event))
                 addPair(*(earlier - 1), event);
@@ -287,14 +294,38 @@ void EventPairFinder::travel(const Group &few, const Group &many, double minutes
     }
 }
 
-/// Compares the events that end before they start with all that are at the other end of a route.
-void EventPairFinder::compareReversed(const Group &group, const Group &other, size_t limit)
+/// Finds the same among pairs with events of the first place that end before they start. Such an
+/// event may be too far from one that began before it and still goes on.
+void EventPairFinder::travelReversed(const Group &group, const Group &other, double minutes,
+                                     size_t limit)
 {
-    for (size_t i = group.begin; i < group.end && m_pairs.size() <= limit; ++i) {
-        const bool isEither = i >= group.reversed;
-        for (size_t j = isEither ? other.begin : other.reversed; j < other.end; ++j) {
-            if (areTooFarApart(m_routes, m_byStart[i], m_byStart[j]))
-                addPair(m_byStart[i], m_byStart[j]);
+    const auto at = [](const std::vector<PlacedEvent> &list, size_t position) {
+        return list.cbegin() + qptrdiff(position);
+    };
+    for (size_t i = group.reversed; i < group.end && m_pairs.size() <= limit; ++i) {
+        const PlacedEvent &event = m_byStart[i];
+        const auto [from, until] = event.interval;
+        const auto addLater = [&, this](auto begin, auto end) {
+            for (auto later = std::lower_bound(begin, end, event, startsBefore);
+                 later != end && takesLonger(minutes, event, *later); ++later) {
+                if (&earlierOf(event, *later) == &event)
+                    addPair(event, *later);
+            }
+        };
+        addLater(at(m_byStart, other.begin), at(m_byStart, other.reversed));
+        addLater(at(m_byStart, other.reversed), at(m_byStart, other.end));
+
+        const auto firstEnd = at(m_byEnd, other.begin);
+        auto over = std::upper_bound(firstEnd, at(m_byEnd, other.reversed), from, endsAfter);
+        for (; over != firstEnd && takesLonger(minutes, *(over - 1), event); --over) {
+            if (&earlierOf(event, *(over - 1)) != &event)
+                addPair(event, *(over - 1));
+        }
+        const auto lastStart = at(m_byStart, other.reversed);
+        auto goingOn = std::lower_bound(at(m_byStart, other.begin), lastStart, until, beginsBefore);
+        for (; goingOn != lastStart && goingOn->interval.start <= from; ++goingOn) {
+            if (goingOn->interval.end > from && &earlierOf(event, *goingOn) != &event)
+                addPair(event, *goingOn);
         }
     }
 }

@@ -32,7 +32,7 @@ bool areTooFarApart(const TravelTable &routes, const PlacedEvent &a, const Place
 
 /// Finds the pairs among one participant's events that contradict each other. The work grows with
 /// the events and the findings, not with the pairs; only an event that ends before it starts is
-/// compared with all that go on at its end or lie at the other end of a route.
+/// compared with all that lie between its end and its start.
 class EventPairFinder
 {
 public:
@@ -70,7 +70,7 @@ private:
     bool areJoined(std::span<const PlacedEvent> events);
     void groupByPlace(std::span<const PlacedEvent> events);
     void travel(const Group &few, const Group &many, double minutes, size_t limit);
-    void compareReversed(const Group &group, const Group &other, size_t limit);
+    void travelReversed(const Group &group, const Group &other, double minutes, size_t limit);
 
     const TravelTable &m_routes;
     std::vector<EventPair> m_pairs;

@@ -275,7 +275,7 @@ void TestContinuity::findsWhatAllPairsFind_data()
     QTest::addColumn<int>("people");
     QTest::addColumn<int>("places");
     QTest::addColumn<int>("span");      ///< starts lie within these minutes
-    QTest::addColumn<int>("durations"); ///< up to these minutes, a tenth of it negative
+    QTest::addColumn<int>("durations"); ///< up to these minutes, in half of the runs some negative
 
     QTest::newRow("few") << 12 << 3 << 3 << 60 << 20;
     QTest::newRow("crowded") << 120 << 2 << 4 << 40 << 6;
@@ -311,7 +311,7 @@ void TestContinuity::findsWhatAllPairsFind()
         addMap(project, id(1), 20 + random.bounded(100), routes);
         for (int i = 0; i < events; ++i) {
             qint64 duration = random.bounded(3) == 0 ? 0 : random.bounded(durations + 1);
-            if (seed % 2 == 0 && random.bounded(10) == 0)
+            if (seed % 2 == 0 && random.bounded(seed % 4 == 0 ? 10 : 2) == 0)
                 duration = -duration;
             TimelineEventData data = at(pick(500, places), random.bounded(span), duration,
                                         {pick(100, people), pick(100, people)});
