@@ -124,7 +124,7 @@ std::vector<QString> outsideChanges(const FolderSave &save)
 
 Result<> commitFolderSave(const FolderSave &save, OutsideChanges outside, Durability durability)
 {
-    if (const Result<> made = FolderWriter::makeFolders(save.folder, durability); !made)
+    if (Result<> made = FolderWriter::makeFolders(save.folder, durability); !made)
         return made;
 
     // A save that was killed may have left its temporaries.
@@ -144,18 +144,18 @@ Result<> commitFolderSave(const FolderSave &save, OutsideChanges outside, Durabi
                 return FolderWriter::changedOutside();
     }
 
-    if (const Result<> renamed = FolderWriter::applyRenames(save, durability); !renamed)
+    if (Result<> renamed = FolderWriter::applyRenames(save, durability); !renamed)
         return renamed;
     FileBatch batch(FolderWriter::messages(), durability);
     for (std::size_t i = 0; i < save.writes.size(); ++i) {
         if (isRight[i])
             continue;
         const FolderSave::Target &target = save.writes[i];
-        const Result<> added = batch.addChanged(save.folder + u'/' + target.path, target.bytes);
+        Result<> added = batch.addChanged(save.folder + u'/' + target.path, target.bytes);
         if (!added)
             return added;
     }
-    if (const Result<> written = batch.commit(); !written)
+    if (Result<> written = batch.commit(); !written)
         return written;
     return FolderWriter::applyRemovals(save, durability);
 }
@@ -303,7 +303,7 @@ void FolderStore::failed(const FolderSave &save)
     for (const FolderSave::Target &target : save.writes) {
         std::vector<FileStamp> stamps = target.known;
         append(stamps, {FileStamp::of(target.bytes)});
-        m_known.insert(target.path, std::move(stamps));
+        m_known.insert(target.path, stamps);
     }
 }
 

@@ -171,7 +171,7 @@ void JsonParser::Data::add(const QJsonValue &value)
     case QJsonValue::Array: {
         const size_t node = begin(JsonNode::Type::Array);
         const QJsonArray array = value.toArray();
-        for (const QJsonValue &child : array)
+        for (const QJsonValue child : array)
             add(child);
         end(node, quint32(array.size()));
         break;

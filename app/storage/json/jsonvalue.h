@@ -105,6 +105,7 @@ struct JsonValue::Range
         }
         Iterator &operator++()
         {
+            Q_ASSERT(node);
             if constexpr (!std::is_same_v<Item, JsonValue>)
                 ++node; // the name
             node += node->span;
