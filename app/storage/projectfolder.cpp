@@ -40,6 +40,17 @@ QByteArray fromSystemPath(const fs::path &path)
     return QByteArray(reinterpret_cast<const char *>(text.data()), qsizetype(text.size()));
 }
 
+/// What the entry is, links not followed. The listing itself tells it on most file systems, which
+/// saves a call for each of the files.
+fs::file_type typeOf(const fs::directory_entry &entry, std::error_code &error)
+{
+    if (entry.is_symlink(error))
+        return fs::file_type::symlink;
+    if (!error && entry.is_directory(error))
+        return fs::file_type::directory;
+    return !error && entry.is_regular_file(error) ? fs::file_type::regular : fs::file_type::unknown;
+}
+
 /// The name directly inside "objects/" or "taxonomy/", without ".json"; empty for other paths and
 /// hidden files.
 QByteArrayView objectName(QByteArrayView path)
@@ -84,7 +95,7 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
     for (; !error && it != fs::recursive_directory_iterator(); it.increment(error)) {
         const QByteArray path = fromSystemPath(it->path()).mid(skipped);
         current = pathInFolder(folder, path);
-        const fs::file_type type = it->symlink_status(error).type();
+        const fs::file_type type = typeOf(*it, error);
         if (error)
             break;
         if (type == fs::file_type::directory)
