@@ -8,6 +8,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <set>
 
 namespace vl::app {
@@ -16,6 +17,13 @@ namespace {
 
 /// Longer paths no system takes; without this bound an archive could ask for endless folders.
 constexpr qsizetype maxPathSize = 4095;
+
+/// Removes folders as far as they are empty, the last ones first.
+void removeFolders(const QStringList &folders)
+{
+    std::for_each(folders.crbegin(), folders.crend(),
+                  [](const QString &folder) { QDir().rmdir(folder); });
+}
 
 /// Unpacks one archive, and takes back what it made unless it gets to the end.
 class Extraction
@@ -98,7 +106,7 @@ Result<> Extraction::writeEntry(const Archive::Entry &entry)
     const std::optional<QByteArray> bytes = m_archive.content(entry);
     if (!bytes)
         return failure(withPath(message, path));
-    const Result<> written = createFile(path, *bytes, {message, message});
+    Result<> written = createFile(path, *bytes, {message, message});
     if (written)
         m_madeFiles.append(path);
     return written;

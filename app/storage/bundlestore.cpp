@@ -284,7 +284,7 @@ Result<> Saving::write(Standing standing)
         return source.asFailure();
 
     BundleWriter writer(m_save.bundlePath);
-    const Result<> written = writer.write(*source);
+    Result<> written = writer.write(*source);
     if (const std::optional<KnownBundle> known = writer.written())
         m_report.known = *known;
     if (!written)
