@@ -60,8 +60,7 @@ Extraction::~Extraction()
         return;
     for (const QString &file : m_madeFiles)
         QFile::remove(file);
-    for (auto it = m_madeFolders.crbegin(); it != m_madeFolders.crend(); ++it)
-        QDir().rmdir(*it);
+    removeFolders(m_madeFolders);
 }
 
 bool Extraction::makeTarget()
@@ -71,8 +70,7 @@ bool Extraction::makeTarget()
     for (QFileInfo info(path); !info.exists() && !info.isRoot(); info.setFile(info.path()))
         missing.prepend(info.filePath());
     if (!makeFolder(m_folder, Durability::Atomic)) {
-        for (auto it = missing.crbegin(); it != missing.crend(); ++it)
-            QDir().rmdir(*it);
+        removeFolders(missing);
         return false;
     }
     m_madeFolders = missing;
