@@ -62,6 +62,12 @@ void Workspace::select(const QList<core::ContentId> &ids)
     Q_EMIT selectionChanged();
 }
 
+void Workspace::reveal(const core::ContentId &documentId, qsizetype position, qsizetype length)
+{
+    select(documentId);
+    Q_EMIT revealRequested(documentId, position, length);
+}
+
 void Workspace::dropLostSelection(const core::ChangeSet &changes)
 {
     const auto isLost = [&](const core::ContentId &id) {

@@ -43,6 +43,9 @@ public:
     const QList<core::ContentId> &selection() const { return m_selection; }
     void select(const QList<core::ContentId> &ids);
     void select(const core::ContentId &id) { select(QList<core::ContentId>{id}); }
+    /// Selects a document and has the editor show a place of its body with the selection laid over
+    /// it; position and length are UTF-16 units, clamped to the text.
+    void reveal(const core::ContentId &documentId, qsizetype position, qsizetype length);
 
 Q_SIGNALS:
     /// Another project is open: everything shown is to be read anew.
@@ -54,6 +57,9 @@ Q_SIGNALS:
     void saveFailed(const QString &message);
     void flushRequested();
     void selectionChanged();
+    /// The document is selected already when this comes.
+    void revealRequested(const vl::core::ContentId &documentId, qsizetype position,
+                         qsizetype length);
 
 private:
     void listen();

@@ -57,6 +57,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     app::Workspace &workspace = m_context.workspace;
     connect(&workspace, &app::Workspace::flushRequested, this, &EditorPanel::handIn);
     connect(&workspace, &app::Workspace::selectionChanged, this, &EditorPanel::openSelected);
+    connect(&workspace, &app::Workspace::revealRequested, this, &EditorPanel::reveal);
     connect(&workspace, &app::Workspace::changed, this, &EditorPanel::follow);
     connect(&workspace, &app::Workspace::projectReplaced, this, &EditorPanel::forgetProject);
     m_context.actions.bind("doc.split", this, &EditorPanel::splitAtCaret);
@@ -113,6 +114,20 @@ void EditorPanel::open(const core::ContentId &id)
         m_text->verticalScrollBar()->setValue(view.scroll);
     }
     updateCounts();
+}
+
+void EditorPanel::reveal(const core::ContentId &id, qsizetype position, qsizetype length)
+{
+    open(id); // the selection may have been there before, while something else was being written
+    const core::Document *shown = document();
+    if (!shown)
+        return;
+    QTextCursor cursor = m_text->textCursor();
+    cursor.setPosition(int(app::shownPosition(shown->body(), position)));
+    cursor.setPosition(int(app::shownPosition(shown->body(), position + length)),
+                       QTextCursor::KeepAnchor);
+    m_text->setTextCursor(cursor);
+    m_text->centerCursor();
 }
 
 void EditorPanel::handIn()

@@ -40,6 +40,7 @@ private:
     void buildFooter(QLayout *layout);
     void openSelected();
     void open(const core::ContentId &id);
+    void reveal(const core::ContentId &id, qsizetype position, qsizetype length);
     void handIn();
     void follow(const core::ChangeSet &changes);
     void forgetProject();
