@@ -1,11 +1,12 @@
 #include "app/base/settingskeys.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/theme.h"
+#include "desktop/widgets/focusring.h"
+#include "desktop/widgets/programstyle.h"
 
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyleFactory>
 
 int main(int argc, char *argv[])
 {
@@ -13,7 +14,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("Ivorel"));
     QCoreApplication::setOrganizationName(QStringLiteral("Quessel Games"));
     QCoreApplication::setApplicationVersion(QStringLiteral(IVOREL_VERSION));
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new vl::desktop::ProgramStyle); // the application owns it
+    const vl::desktop::FocusRing focusRing;
 
     vl::app::Settings settings;
     const QString language = settings.text(vl::app::settings::language);

@@ -7,5 +7,17 @@ namespace vl::app::settings {
 inline constexpr SettingKey theme{"appearance/theme", "Light"};
 inline constexpr SettingKey language{"appearance/language", ""};
 inline constexpr SettingKey recentProjects{"recentProjects", ""};
+inline constexpr SettingKey fontScale{"a11y/uiFontScale", "1.0"};
+inline constexpr SettingKey reopenLast{"general/reopenLast", "true"};
+inline constexpr SettingKey autoUpdateCheck{"general/autoUpdateCheck", "true"};
+
+// The editor: an empty family is the best reading font that is installed, sizes are points, the
+// line's width is in characters, its spacing in percent of a line.
+inline constexpr SettingKey editorFontFamily{"editor/fontFamily", ""};
+inline constexpr SettingKey editorFontSize{"editor/fontSize", "13"};
+inline constexpr SettingKey editorLineWidth{"editor/lineWidth", "70"};
+inline constexpr SettingKey editorLineSpacing{"editor/lineSpacing", "150"};
+inline constexpr SettingKey editorSmartQuotes{"editor/smartQuotes", "true"};
+inline constexpr SettingKey editorTypewriter{"editor/typewriter", "false"};
 
 } // namespace vl::app::settings

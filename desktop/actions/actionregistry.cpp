@@ -27,6 +27,8 @@ ActionRegistry::ActionRegistry(const app::Settings &settings, QObject *parent)
         auto *action = new QAction(QCoreApplication::translate("Actions", row.text), this);
         action->setObjectName(QLatin1String(row.id));
         action->setShortcuts(keysOf(row, settings));
+        if (row.toolTip)
+            action->setToolTip(QCoreApplication::translate("Actions", row.toolTip));
         action->setEnabled(false);
         m_actions.emplace(row.id, action);
     }

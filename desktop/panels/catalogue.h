@@ -17,16 +17,26 @@ enum class DockSide
     Bottom
 };
 
+/// Whether a panel is shown before the user opens or closes it.
+enum class FirstState
+{
+    Open,
+    Closed
+};
+
+using PanelMaker = QWidget *(*)(const PanelContext &context, QWidget *parent);
+
 /// One panel of the window. Saved layouts are keyed by its object name: never change one.
 struct PanelRow
 {
     const char *objectName;
     const char *title; ///< in the context "Panels"
     DockSide side;
-    QWidget *(*make)(const PanelContext &context, QWidget *parent);
+    FirstState firstState;
+    PanelMaker make;
 };
 
-/// All panels, in the order of the View menu.
+/// The panels that are built, in the order of the View menu.
 std::span<const PanelRow> panelCatalogue();
 
 } // namespace vl::desktop

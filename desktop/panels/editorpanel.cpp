@@ -6,6 +6,7 @@
 #include "core/commands/documentcommands.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/panels/editortextwidget.h"
+#include "desktop/widgets/focusring.h"
 
 #include <QtCore/QLocale>
 #include <QtWidgets/QLabel>
@@ -33,6 +34,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
 
+    FocusRing::leaveTo(m_text);
     m_text->setAccessibleName(tr("Text of the document"));
     auto *empty = new QLabel(tr("Select a document to write in it."), this);
     empty->setAlignment(Qt::AlignCenter);

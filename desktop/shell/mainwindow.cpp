@@ -88,6 +88,7 @@ void MainWindow::bindActions()
     m_actions.bind("edit.undo", &m_workspace, &app::Workspace::undo);
     m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
     m_actions.bind("view.nextPanel", m_panels, &PanelHost::focusNext);
+    m_actions.bind("view.previousPanel", m_panels, &PanelHost::focusPrevious);
     m_actions.bind("view.resetLayout", m_panels, &PanelHost::resetLayout);
     m_actions.bind("help.about", this, &MainWindow::showAbout);
 }
@@ -112,9 +113,17 @@ void MainWindow::tellSaveFailed(const QString &message)
 
 void MainWindow::buildMenus()
 {
-    m_actions.fill(menuBar()->addMenu(tr("&File")), Menu::File);
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    m_actions.fill(file, Menu::File);
+    file->addSeparator();
+    m_actions.fill(file->addMenu(tr("&Import")), Menu::Import);
+    m_actions.fill(file->addMenu(tr("&Export")), Menu::Export);
+    m_actions.fill(file->addMenu(tr("&Recent Projects")), Menu::Recent);
+    m_actions.fill(file, Menu::Leave);
     m_actions.fill(menuBar()->addMenu(tr("&Edit")), Menu::Edit);
     QMenu *view = menuBar()->addMenu(tr("&View"));
+    m_actions.fill(view, Menu::View);
+    view->addSeparator();
     QMenu *themeMenu = view->addMenu(tr("&Theme"));
     auto *group = new QActionGroup(themeMenu);
     const Theme &present = themeNamed(m_settings.text(app::settings::theme));
@@ -128,9 +137,10 @@ void MainWindow::buildMenus()
             m_settings.set(app::settings::theme, QLatin1String(theme.name));
         });
     }
-    m_actions.fill(view, Menu::View);
+    m_actions.fill(view, Menu::Layouts);
     view->addSeparator();
     m_panels->addToggles(view);
+    m_actions.fill(menuBar()->addMenu(tr("&AI")), Menu::Ai);
     m_actions.fill(menuBar()->addMenu(tr("&Help")), Menu::Help);
 }
 

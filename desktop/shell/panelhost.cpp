@@ -88,6 +88,8 @@ PanelHost::PanelHost(QMainWindow *window, const PanelContext &context)
             area = area ? m_manager->addDockWidgetTabToArea(dock, area)
                         : m_manager->addDockWidget(areaOf(row.side), dock);
             nameButtons(dock);
+            if (row.firstState == FirstState::Closed)
+                dock->toggleView(false);
             m_docks.push_back(dock);
         }
     }
@@ -130,22 +132,25 @@ void PanelHost::showPanel(const QString &objectName)
     }
 }
 
-void PanelHost::focusNext()
+void PanelHost::moveFocus(int step)
 {
     const QWidget *focused = QApplication::focusWidget();
     std::vector<ads::CDockWidget *> open;
+    qsizetype current = -1;
     for (const PanelRow &row : panelCatalogue()) {
         ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
-        if (dock && !dock->isClosed() && dock->isVisible())
-            open.push_back(dock);
+        if (!dock || dock->isClosed() || !dock->isVisible())
+            continue;
+        if (focused && dock->isAncestorOf(focused))
+            current = qsizetype(open.size());
+        open.push_back(dock);
     }
     if (open.empty())
         return;
-    const auto current = std::find_if(open.begin(), open.end(), [&](const ads::CDockWidget *dock) {
-        return focused && dock->isAncestorOf(focused);
-    });
-    const bool isLast = current == open.end() || current + 1 == open.end();
-    QWidget *panel = (isLast ? open.front() : *(current + 1))->widget();
+    const auto count = qsizetype(open.size());
+    const qsizetype next =
+        current < 0 ? (step > 0 ? 0 : count - 1) : (current + step + count) % count;
+    QWidget *panel = open[size_t(next)]->widget();
     if (QWidget *first = panel->focusProxy() ? panel->focusProxy() : panel->nextInFocusChain())
         first->setFocus(Qt::TabFocusReason);
 }

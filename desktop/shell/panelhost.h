@@ -36,10 +36,13 @@ public:
     /// Leaves the layout as it is when the state is not one of this version's.
     void restoreLayout(const QByteArray &state);
     void showPanel(const QString &objectName);
-    /// Moves the focus to the next open panel.
-    void focusNext();
+    /// Moves the focus to the next or previous open panel.
+    void focusNext() { moveFocus(1); }
+    void focusPrevious() { moveFocus(-1); }
 
 private:
+    void moveFocus(int step);
+
     ads::CDockManager *m_manager;
     std::vector<ads::CDockWidget *> m_docks;
     QByteArray m_firstLayout;

@@ -69,7 +69,7 @@ class TestMainWindow : public QObject
 
 private Q_SLOTS:
     void everyControlHasAName();
-    void everyActionIsUniqueAndBound();
+    void everyActionIsUniqueAndBoundOrOff();
     void typingBecomesStepsOfTheHistory();
     void nothingTypedIsLost();
     void oddCharactersSurviveTheWidget();
@@ -104,7 +104,7 @@ void TestMainWindow::everyControlHasAName()
     QVERIFY(seen > 6);
 }
 
-void TestMainWindow::everyActionIsUniqueAndBound()
+void TestMainWindow::everyActionIsUniqueAndBoundOrOff()
 {
     const Window desk;
     QSet<QString> ids;
@@ -112,7 +112,8 @@ void TestMainWindow::everyActionIsUniqueAndBound()
     for (const QAction *action : desk.window.actions().all()) {
         QVERIFY2(!ids.contains(action->objectName()), qPrintable(action->objectName()));
         ids.insert(action->objectName());
-        QVERIFY2(action->property("bound").toBool(), qPrintable(action->objectName()));
+        QVERIFY2(action->property("bound").toBool() || !action->isEnabled(),
+                 qPrintable(action->objectName()));
         for (const QKeySequence &shortcut : action->shortcuts()) {
             QVERIFY2(shortcut.isEmpty() || !keys.contains(shortcut.toString()),
                      qPrintable(shortcut.toString()));

@@ -1,0 +1,44 @@
+#include "desktop/widgets/emptystate.h"
+
+#include "desktop/widgets/grid.h"
+
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace vl::desktop {
+
+EmptyState::EmptyState(const QString &sentence, const QString &buttonText, QWidget *parent)
+    : QWidget(parent)
+    , m_sentence(new QLabel(this))
+    , m_button(new QPushButton(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(grid(4), grid(4), grid(4), grid(4));
+    layout->setSpacing(grid(4));
+    m_sentence->setTextFormat(Qt::PlainText);
+    m_sentence->setWordWrap(true);
+    m_sentence->setAlignment(Qt::AlignCenter);
+    layout->addStretch(2);
+    layout->addWidget(m_sentence);
+    layout->addWidget(m_button, 0, Qt::AlignHCenter);
+    layout->addStretch(3);
+    setSentence(sentence);
+    setButtonText(buttonText);
+    setFocusProxy(m_button);
+    connect(m_button, &QPushButton::clicked, this, &EmptyState::activated);
+}
+
+void EmptyState::setSentence(const QString &sentence)
+{
+    m_sentence->setText(sentence);
+    m_button->setAccessibleDescription(sentence);
+}
+
+void EmptyState::setButtonText(const QString &text)
+{
+    m_button->setText(text);
+    m_button->setVisible(!text.isEmpty());
+}
+
+} // namespace vl::desktop
