@@ -102,6 +102,7 @@ bool ProjectFlows::saveAsFolder()
 bool ProjectFlows::mayClose()
 {
     m_workspace.flush();
+    m_workspace.current().finishSaving(); // what is on its way to the disk is no question
     if (!m_workspace.current().isDirty())
         return true;
     switch (m_prompts.askUnsaved(m_workspace.current().name())) {

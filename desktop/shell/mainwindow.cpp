@@ -2,6 +2,7 @@
 
 #include "app/base/settingskeys.h"
 #include "desktop/shell/panelhost.h"
+#include "desktop/shell/safekeeping.h"
 #include "desktop/shell/theme.h"
 
 #include <QtGui/QActionGroup>
@@ -60,6 +61,7 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
     connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
+    m_safeKeeping = std::make_unique<SafeKeeping>(m_workspace);
     updateTitle();
     updateSteps();
     restoreWindow();

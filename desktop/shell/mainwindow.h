@@ -13,6 +13,7 @@ class QLabel;
 namespace vl::desktop {
 
 class PanelHost;
+class SafeKeeping;
 
 /// The window: puts the project, the panels, the menus and the flows together.
 class MainWindow final : public QMainWindow
@@ -50,6 +51,7 @@ private:
     app::ProjectFlows m_flows;
     ActionRegistry m_actions;
     PanelHost *m_panels = nullptr;
+    std::unique_ptr<SafeKeeping> m_safeKeeping;
     QLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
     bool m_tellsFailure = false;   ///< the save that runs was asked for by the user
 };
