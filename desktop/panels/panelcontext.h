@@ -9,6 +9,7 @@ class Workspace;
 namespace vl::desktop {
 
 class ActionRegistry;
+class Notices;
 
 /// What every panel is handed; all of it outlives the panels.
 struct PanelContext
@@ -17,6 +18,7 @@ struct PanelContext
     ActionRegistry &actions;
     app::Settings &settings;
     app::Prompts &prompts;
+    Notices &notices;
 };
 
 } // namespace vl::desktop

@@ -1,19 +1,21 @@
 #include "desktop/shell/mainwindow.h"
 
 #include "app/base/settingskeys.h"
+#include "desktop/shell/notices.h"
 #include "desktop/shell/panelhost.h"
 #include "desktop/shell/safekeeping.h"
 #include "desktop/shell/theme.h"
+#include "desktop/widgets/elidedlabel.h"
 
 #include <QtGui/QActionGroup>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
 
 namespace vl::desktop {
 
@@ -21,7 +23,6 @@ namespace {
 
 const QLatin1String layoutKey("general/layout");
 const QLatin1String geometryKey("general/geometry");
-constexpr int messageMilliseconds = 4000;
 constexpr int windowEdges = 48; // room for the frame that the desktop puts round the window
 
 /// The entry of a step: what it does, then what it does it to, in plain text.
@@ -41,12 +42,11 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     , m_flows(m_workspace, m_prompts, settings)
     , m_actions(settings)
 {
-    m_panels = new PanelHost(this, PanelContext{m_workspace, m_actions, m_settings, m_prompts});
+    buildCentre();
     bindActions();
     buildMenus();
     buildToolBar();
-    m_saveFault = new QLabel(this);
-    m_saveFault->setTextFormat(Qt::PlainText);
+    m_saveFault = new ElidedLabel({}, this);
     m_saveFault->setAccessibleName(tr("Why the project was not saved"));
     statusBar()->addPermanentWidget(m_saveFault);
     m_saveFault->hide();
@@ -78,6 +78,20 @@ bool MainWindow::openProject(const QString &path)
     return m_flows.open(path);
 }
 
+void MainWindow::buildCentre()
+{
+    auto *centre = new QWidget;
+    auto *layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    setCentralWidget(centre);
+    auto *questions = new NoticeBar(centre);
+    layout->addWidget(questions);
+    m_notices = new Notices(statusBar(), questions, m_workspace, this);
+    m_panels = new PanelHost(
+        centre, PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices});
+}
+
 void MainWindow::bindActions()
 {
     m_actions.bind("file.new", this, [this] { m_flows.newProject(); });
@@ -99,8 +113,7 @@ void MainWindow::tellSaved()
 {
     m_saveFault->hide();
     m_tellsFailure = false;
-    statusBar()->showMessage(tr("Saved “%1”.").arg(m_workspace.current().name()),
-                             messageMilliseconds);
+    m_notices->show(tr("Saved “%1”.").arg(m_workspace.current().name()));
 }
 
 void MainWindow::tellSaveFailed(const QString &message)

@@ -8,10 +8,10 @@
 
 #include <QtWidgets/QMainWindow>
 
-class QLabel;
-
 namespace vl::desktop {
 
+class ElidedLabel;
+class Notices;
 class PanelHost;
 class SafeKeeping;
 
@@ -34,6 +34,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void buildCentre();
     void bindActions();
     void buildMenus();
     void buildToolBar();
@@ -50,10 +51,11 @@ private:
     app::Workspace m_workspace;
     app::ProjectFlows m_flows;
     ActionRegistry m_actions;
+    Notices *m_notices = nullptr;
     PanelHost *m_panels = nullptr;
     std::unique_ptr<SafeKeeping> m_safeKeeping;
-    QLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
-    bool m_tellsFailure = false;   ///< the save that runs was asked for by the user
+    ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
+    bool m_tellsFailure = false;        ///< the save that runs was asked for by the user
 };
 
 } // namespace vl::desktop

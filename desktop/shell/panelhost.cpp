@@ -11,7 +11,7 @@
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QMainWindow>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QMenu>
 
 #include <algorithm>
@@ -58,15 +58,16 @@ void nameAreaButtons(ads::CDockAreaWidget *area)
 
 } // namespace
 
-PanelHost::PanelHost(QMainWindow *window, const PanelContext &context)
-    : QObject(window)
+PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
+    : QObject(parent)
 {
     ads::CDockManager::setConfigFlags(ads::CDockManager::DefaultOpaqueConfig
                                       | ads::CDockManager::FocusHighlighting);
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasUndockButton, false);
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasCloseButton, false);
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasTabsMenuButton, false);
-    m_manager = new ads::CDockManager(window);
+    m_manager = new ads::CDockManager(parent);
+    parent->layout()->addWidget(m_manager);
     m_manager->setStyleSheet(
         m_manager->styleSheet()
         + QStringLiteral("\nads--CDockWidgetTab QLabel { color: palette(text); }\n"

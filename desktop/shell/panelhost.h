@@ -9,7 +9,6 @@
 #include <vector>
 
 class QAction;
-class QMainWindow;
 class QMenu;
 class QWidget;
 
@@ -26,7 +25,8 @@ class PanelHost final : public QObject
     Q_OBJECT
 
 public:
-    PanelHost(QMainWindow *window, const PanelContext &context);
+    /// Fills the layout of the parent, which is in its window already.
+    PanelHost(QWidget *parent, const PanelContext &context);
     ~PanelHost() override;
 
     /// One entry a panel, ticked while it is open.

@@ -3,6 +3,7 @@
 #include "desktop/panels/catalogue.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
+#include "desktop/shell/notices.h"
 #include "desktop/shell/theme.h"
 #include "tests/support/fakeprompts.h"
 
@@ -13,6 +14,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTreeView>
 
 using namespace vl;
@@ -76,6 +78,7 @@ private Q_SLOTS:
     void theTreeMovesAndRenames();
     void closingAsks();
     void theLayoutComesBack();
+    void noticesOfferAndAsk();
     void secondaryTextIsLegible_data();
     void secondaryTextIsLegible();
 };
@@ -258,6 +261,58 @@ void TestMainWindow::theLayoutComesBack()
     QVERIFY(!toggle(window)->isChecked());
     window.actions()["view.resetLayout"]->trigger();
     QVERIFY(toggle(window)->isChecked());
+}
+
+void TestMainWindow::noticesOfferAndAsk()
+{
+    Window desk;
+    auto *notices = desk.window.findChild<desktop::Notices *>();
+    QVERIFY(notices);
+    const auto shownButton = [&](const QString &text) {
+        for (QAbstractButton *button : desk.window.findChildren<QAbstractButton *>())
+            if (button->text() == text && button->isVisible())
+                return button;
+        return static_cast<QAbstractButton *>(nullptr);
+    };
+    const QString undo = QStringLiteral("Undo");
+    const auto offered = [&] { // the tool bar has a button of that name too
+        int count = 0;
+        for (const QAbstractButton *button :
+             desk.window.statusBar()->findChildren<QAbstractButton *>())
+            count += button->text() == undo && button->isVisible() ? 1 : 0;
+        return count > 0;
+    };
+
+    const Document &kept = desk.add(QStringLiteral("one"));
+    notices->offerUndo(QStringLiteral("Added a document."));
+    QVERIFY(offered());
+    const core::ContentId id = kept.id();
+    for (QAbstractButton *button : desk.window.statusBar()->findChildren<QAbstractButton *>())
+        if (button->text() == undo)
+            button->click();
+    QVERIFY(!desk.window.workspace().project().find<Document>(id));
+    QVERIFY(!offered());
+    // Once something else is done, the offer would take back the wrong step.
+    desk.add(QStringLiteral("two"));
+    notices->offerUndo(QStringLiteral("Added a document."));
+    desk.add(QStringLiteral("three"));
+    QVERIFY(!offered());
+
+    QString answer;
+    const auto ask = [&](const QString &question) {
+        notices->ask(QStringLiteral("outside"), question,
+                     {{QStringLiteral("Look"), [&] { answer = QStringLiteral("looked"); }},
+                      {QStringLiteral("Keep Mine"), {}}});
+    };
+    ask(QStringLiteral("A file was changed."));
+    ask(QStringLiteral("Two files were changed.")); // in place of the first
+    QVERIFY(shownButton(QStringLiteral("Look")));
+    shownButton(QStringLiteral("Look"))->click();
+    QCOMPARE(answer, QStringLiteral("looked"));
+    QVERIFY(!shownButton(QStringLiteral("Look")));
+    ask(QStringLiteral("A file was changed."));
+    notices->withdraw(QStringLiteral("outside"));
+    QVERIFY(!shownButton(QStringLiteral("Keep Mine")));
 }
 
 void TestMainWindow::secondaryTextIsLegible_data()

@@ -1,0 +1,103 @@
+#include "desktop/shell/noticebar.h"
+
+#include "desktop/shell/icons.h"
+#include "desktop/shell/theme.h"
+#include "desktop/widgets/grid.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QPainter>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QToolButton>
+
+namespace vl::desktop {
+
+namespace {
+
+constexpr double tint = 0.16; ///< how much of the highlight colour the ground of a row has
+
+/// One question; a quiet tint and a line of the highlight colour set it off from the panels.
+class NoticeRow final : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        const QColor highlight = palette().color(QPalette::Highlight);
+        painter.fillRect(rect(), mix(highlight, palette().color(QPalette::Window), tint));
+        painter.fillRect(QRect(0, height() - 1, width(), 1), highlight);
+    }
+};
+
+} // namespace
+
+NoticeBar::NoticeBar(QWidget *parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    hide();
+}
+
+void NoticeBar::ask(const QString &id, const QString &text, const QList<NoticeAction> &answers)
+{
+    withdraw(id);
+    QWidget *row = makeRow(id, text, answers);
+    m_rows.emplace(id, row);
+    m_layout->addWidget(row);
+    show();
+    QAccessibleEvent alert(row, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void NoticeBar::withdraw(const QString &id)
+{
+    const auto found = m_rows.find(id);
+    if (found == m_rows.end())
+        return;
+    found->second->hide();
+    found->second->deleteLater(); // it may be the sender
+    m_rows.erase(found);
+    setVisible(!m_rows.empty());
+}
+
+QWidget *NoticeBar::makeRow(const QString &id, const QString &text,
+                            const QList<NoticeAction> &answers)
+{
+    auto *row = new NoticeRow(this);
+    row->setAccessibleName(text);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(grid(4), grid(2), grid(2), grid(2));
+    layout->setSpacing(grid(2));
+    auto *label = new QLabel(text, row);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    layout->addWidget(label, 1);
+    for (const NoticeAction &answer : answers) {
+        auto *button = new QPushButton(answer.text, row);
+        button->setAccessibleDescription(text);
+        connect(button, &QPushButton::clicked, this, [this, id, run = answer.run] {
+            withdraw(id);
+            if (run)
+                run();
+        });
+        layout->addWidget(button);
+    }
+    auto *later = new QToolButton(row);
+    later->setAutoRaise(true);
+    later->setIcon(icon(QStringLiteral("close")));
+    later->setToolTip(tr("Not Now"));
+    later->setAccessibleName(tr("Not Now"));
+    later->setAccessibleDescription(text);
+    connect(later, &QToolButton::clicked, this, [this, id] { withdraw(id); });
+    layout->addWidget(later);
+    return row;
+}
+
+} // namespace vl::desktop
