@@ -28,10 +28,6 @@
         <translation>Save as Fo&amp;lder…</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quit</translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Undo</translation>
     </message>
@@ -72,16 +68,272 @@
         <translation>Demote</translation>
     </message>
     <message>
-        <source>Next Panel</source>
-        <translation>Next Panel</translation>
-    </message>
-    <message>
         <source>&amp;Reset Layout</source>
         <translation>&amp;Reset Layout</translation>
     </message>
     <message>
         <source>About Ivorel</source>
         <translation>About Ivorel</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Open…</source>
+        <translation>&amp;Quick Open…</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Template…</source>
+        <translation>Save as &amp;Template…</translation>
+    </message>
+    <message>
+        <source>Save as Content &amp;Pack…</source>
+        <translation>Save as Content &amp;Pack…</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Content Pack…</source>
+        <translation>Apply &amp;Content Pack…</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up Project Now</source>
+        <translation>&amp;Back Up Project Now</translation>
+    </message>
+    <message>
+        <source>Check for E&amp;xternal Changes…</source>
+        <translation>Check for E&amp;xternal Changes…</translation>
+    </message>
+    <message>
+        <source>Mounted &amp;Libraries…</source>
+        <translation>Mounted &amp;Libraries…</translation>
+    </message>
+    <message>
+        <source>Mana&amp;ge Audiences…</source>
+        <translation>Mana&amp;ge Audiences…</translation>
+    </message>
+    <message>
+        <source>Open PD&amp;F…</source>
+        <translation>Open PD&amp;F…</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Text…</source>
+        <translation>&amp;Plain Text…</translation>
+    </message>
+    <message>
+        <source>&amp;Obsidian Vault…</source>
+        <translation>&amp;Obsidian Vault…</translation>
+    </message>
+    <message>
+        <source>&amp;yWriter…</source>
+        <translation>&amp;yWriter…</translation>
+    </message>
+    <message>
+        <source>Sc&amp;rivener…</source>
+        <translation>Sc&amp;rivener…</translation>
+    </message>
+    <message>
+        <source>&amp;Word Document…</source>
+        <translation>&amp;Word Document…</translation>
+    </message>
+    <message>
+        <source>&amp;Notion Export…</source>
+        <translation>&amp;Notion Export…</translation>
+    </message>
+    <message>
+        <source>Import a Notion “Export → Markdown &amp; CSV” folder, preserving pages and folders</source>
+        <translation>Import a Notion “Export → Markdown &amp; CSV” folder, preserving pages and folders</translation>
+    </message>
+    <message>
+        <source>&amp;Manuskript…</source>
+        <translation>&amp;Manuskript…</translation>
+    </message>
+    <message>
+        <source>Convert a &amp;Folder with AI…</source>
+        <translation>Convert a &amp;Folder with AI…</translation>
+    </message>
+    <message>
+        <source>Convert an entire folder of files into this project with your AI provider — entities, timeline, sheets, media, and more</source>
+        <translation>Convert an entire folder of files into this project with your AI provider — entities, timeline, sheets, media, and more</translation>
+    </message>
+    <message>
+        <source>&amp;Manuscript…</source>
+        <translation>&amp;Manuscript…</translation>
+    </message>
+    <message>
+        <source>&amp;Screenplay…</source>
+        <translation>&amp;Screenplay…</translation>
+    </message>
+    <message>
+        <source>&amp;Website…</source>
+        <translation>&amp;Website…</translation>
+    </message>
+    <message>
+        <source>&amp;Health Report…</source>
+        <translation>&amp;Health Report…</translation>
+    </message>
+    <message>
+        <source>Export a manuscript-health report — statistics, readability, dialogue balance, point-of-view balance, style issues, and world coverage — as Markdown or HTML</source>
+        <translation>Export a manuscript-health report — statistics, readability, dialogue balance, point-of-view balance, style issues, and world coverage — as Markdown or HTML</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Recent</source>
+        <translation>&amp;Clear Recent</translation>
+    </message>
+    <message>
+        <source>Q&amp;uit</source>
+        <translation>Q&amp;uit</translation>
+    </message>
+    <message>
+        <source>&amp;Find &amp;&amp; Replace…</source>
+        <translation>&amp;Find &amp;&amp; Replace…</translation>
+    </message>
+    <message>
+        <source>&amp;Replace…</source>
+        <translation>&amp;Replace…</translation>
+    </message>
+    <message>
+        <source>Find in &amp;Project…</source>
+        <translation>Find in &amp;Project…</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation>&amp;Preferences…</translation>
+    </message>
+    <message>
+        <source>Task for Document…</source>
+        <translation>Task for Document…</translation>
+    </message>
+    <message>
+        <source>Change Kind…</source>
+        <translation>Change Kind…</translation>
+    </message>
+    <message>
+        <source>Show Unsupported Claims…</source>
+        <translation>Show Unsupported Claims…</translation>
+    </message>
+    <message>
+        <source>Version History…</source>
+        <translation>Version History…</translation>
+    </message>
+    <message>
+        <source>Next Mention</source>
+        <translation>Next Mention</translation>
+    </message>
+    <message>
+        <source>Previous Mention</source>
+        <translation>Previous Mention</translation>
+    </message>
+    <message>
+        <source>Today’s Note</source>
+        <translation>Today’s Note</translation>
+    </message>
+    <message>
+        <source>&amp;Distraction-Free Mode</source>
+        <translation>&amp;Distraction-Free Mode</translation>
+    </message>
+    <message>
+        <source>&amp;Page Layout View</source>
+        <translation>&amp;Page Layout View</translation>
+    </message>
+    <message>
+        <source>&amp;Save Current Layout As…</source>
+        <translation>&amp;Save Current Layout As…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Perspective…</source>
+        <translation>&amp;Delete Perspective…</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Panel</source>
+        <translation>Ne&amp;xt Panel</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Panel</source>
+        <translation>Pre&amp;vious Panel</translation>
+    </message>
+    <message>
+        <source>AI &amp;Settings…</source>
+        <translation>AI &amp;Settings…</translation>
+    </message>
+    <message>
+        <source>Configure your AI provider — endpoint, API key, and model</source>
+        <translation>Configure your AI provider — endpoint, API key, and model</translation>
+    </message>
+    <message>
+        <source>Manage &amp;Personas…</source>
+        <translation>Manage &amp;Personas…</translation>
+    </message>
+    <message>
+        <source>Manage AI &amp;Commands…</source>
+        <translation>Manage AI &amp;Commands…</translation>
+    </message>
+    <message>
+        <source>Add, edit, or remove reusable AI commands — named instructions you can apply to a selection, batch across documents, or chain</source>
+        <translation>Add, edit, or remove reusable AI commands — named instructions you can apply to a selection, batch across documents, or chain</translation>
+    </message>
+    <message>
+        <source>&amp;Build World Index</source>
+        <translation>&amp;Build World Index</translation>
+    </message>
+    <message>
+        <source>As&amp;k Your World…</source>
+        <translation>As&amp;k Your World…</translation>
+    </message>
+    <message>
+        <source>&amp;Find Similar Entities…</source>
+        <translation>&amp;Find Similar Entities…</translation>
+    </message>
+    <message>
+        <source>Se&amp;mantic Search…</source>
+        <translation>Se&amp;mantic Search…</translation>
+    </message>
+    <message>
+        <source>Search your Codex by meaning or mood — type a phrase and find the most semantically related entities (needs a built World Index)</source>
+        <translation>Search your Codex by meaning or mood — type a phrase and find the most semantically related entities (needs a built World Index)</translation>
+    </message>
+    <message>
+        <source>Generate &amp;Codex from Manuscript…</source>
+        <translation>Generate &amp;Codex from Manuscript…</translation>
+    </message>
+    <message>
+        <source>Let AI read your manuscript and propose the worldbuilding entities it mentions but your Codex is missing — review the suggestions and add the ones you want</source>
+        <translation>Let AI read your manuscript and propose the worldbuilding entities it mentions but your Codex is missing — review the suggestions and add the ones you want</translation>
+    </message>
+    <message>
+        <source>Ask an A&amp;gent…</source>
+        <translation>Ask an A&amp;gent…</translation>
+    </message>
+    <message>
+        <source>&amp;Generate Image…</source>
+        <translation>&amp;Generate Image…</translation>
+    </message>
+    <message>
+        <source>Generate &amp;Speech…</source>
+        <translation>Generate &amp;Speech…</translation>
+    </message>
+    <message>
+        <source>&amp;Apply AI Command…</source>
+        <translation>&amp;Apply AI Command…</translation>
+    </message>
+    <message>
+        <source>Batch AI Co&amp;mmand…</source>
+        <translation>Batch AI Co&amp;mmand…</translation>
+    </message>
+    <message>
+        <source>Run Command C&amp;hain…</source>
+        <translation>Run Command C&amp;hain…</translation>
+    </message>
+    <message>
+        <source>Token &amp;Usage…</source>
+        <translation>Token &amp;Usage…</translation>
+    </message>
+    <message>
+        <source>&amp;Welcome…</source>
+        <translation>&amp;Welcome…</translation>
+    </message>
+    <message>
+        <source>Check for &amp;Updates…</source>
+        <translation>Check for &amp;Updates…</translation>
+    </message>
+    <message>
+        <source>Connect Claude &amp;Desktop…</source>
+        <translation>Connect Claude &amp;Desktop…</translation>
     </message>
 </context>
 <context>
@@ -108,6 +360,162 @@
     <message>
         <source>Panel area button</source>
         <translation>Panel area button</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Codex</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Document Info</source>
+        <translation>Document Info</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>Corkboard</source>
+        <translation>Corkboard</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Board</translation>
+    </message>
+    <message>
+        <source>Submissions</source>
+        <translation>Submissions</translation>
+    </message>
+    <message>
+        <source>Agenda</source>
+        <translation>Agenda</translation>
+    </message>
+    <message>
+        <source>Gallery</source>
+        <translation>Gallery</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Canvas</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Maps</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Sources</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Script Console</source>
+        <translation>Script Console</translation>
+    </message>
+    <message>
+        <source>AI Chat</source>
+        <translation>AI Chat</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comments</translation>
+    </message>
+    <message>
+        <source>Plot Threads</source>
+        <translation>Plot Threads</translation>
+    </message>
+    <message>
+        <source>Beat Sheet</source>
+        <translation>Beat Sheet</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Screenplay</translation>
+    </message>
+    <message>
+        <source>Relationships</source>
+        <translation>Relationships</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Spreadsheet</translation>
+    </message>
+    <message>
+        <source>Sprint</source>
+        <translation>Sprint</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistics</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation>Goals</translation>
+    </message>
+    <message>
+        <source>Pacing</source>
+        <translation>Pacing</translation>
+    </message>
+    <message>
+        <source>POV Balance</source>
+        <translation>POV Balance</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>Genre Tools</source>
+        <translation>Genre Tools</translation>
+    </message>
+    <message>
+        <source>Random Tables</source>
+        <translation>Random Tables</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Charts</translation>
+    </message>
+    <message>
+        <source>Stat Blocks</source>
+        <translation>Stat Blocks</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Footnotes</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Languages</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Timeline</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>Conflicts</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tasks</translation>
     </message>
 </context>
 <context>
@@ -319,23 +727,31 @@
     <message numerus="yes">
         <source>%n note(s)</source>
         <translation>
-            <numerusform>%n note</numerusform><numerusform>%n notes</numerusform></translation>
+            <numerusform>%n note</numerusform>
+            <numerusform>%n notes</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n document(s)</source>
         <translation>
-            <numerusform>%n document</numerusform><numerusform>%n documents</numerusform></translation>
+            <numerusform>%n document</numerusform>
+            <numerusform>%n documents</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n scene(s)</source>
         <translation>
-            <numerusform>%n scene</numerusform><numerusform>%n scenes</numerusform></translation>
+            <numerusform>%n scene</numerusform>
+            <numerusform>%n scenes</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n word(s)</source>
         <comment>with the number written out by the program</comment>
         <translation>
-            <numerusform>%n word</numerusform><numerusform>%n words</numerusform></translation>
+            <numerusform>%n word</numerusform>
+            <numerusform>%n words</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete %1, %2?</source>
@@ -344,22 +760,30 @@
     <message numerus="yes">
         <source>Delete %n document(s)</source>
         <translation>
-            <numerusform>Delete %n document</numerusform><numerusform>Delete %n documents</numerusform></translation>
+            <numerusform>Delete %n document</numerusform>
+            <numerusform>Delete %n documents</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n document(s)</source>
         <translation>
-            <numerusform>Move %n document</numerusform><numerusform>Move %n documents</numerusform></translation>
+            <numerusform>Move %n document</numerusform>
+            <numerusform>Move %n documents</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Promote %n document(s)</source>
         <translation>
-            <numerusform>Promote %n document</numerusform><numerusform>Promote %n documents</numerusform></translation>
+            <numerusform>Promote %n document</numerusform>
+            <numerusform>Promote %n documents</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Demote %n document(s)</source>
         <translation>
-            <numerusform>Demote %n document</numerusform><numerusform>Demote %n documents</numerusform></translation>
+            <numerusform>Demote %n document</numerusform>
+            <numerusform>Demote %n documents</numerusform>
+        </translation>
     </message>
     <message>
         <source>Change document kind</source>
@@ -383,7 +807,9 @@
     <message numerus="yes">
         <source>%1, %n word(s)</source>
         <translation>
-            <numerusform>%1, %n word</numerusform><numerusform>%1, %n words</numerusform></translation>
+            <numerusform>%1, %n word</numerusform>
+            <numerusform>%1, %n words</numerusform>
+        </translation>
     </message>
     <message>
         <source>Title</source>
@@ -1958,6 +2384,36 @@
     <message>
         <source>Save Project</source>
         <translation>Save Project</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Export</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Recent Projects</translation>
+    </message>
+    <message>
+        <source>&amp;AI</source>
+        <translation>&amp;AI</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::NoticeBar</name>
+    <message>
+        <source>Not Now</source>
+        <translation>Not Now</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::Notices</name>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
     </message>
 </context>
 </TS>

@@ -28,10 +28,6 @@
         <translation>Guardar como carpe&amp;ta…</translation>
     </message>
     <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Deshacer</translation>
     </message>
@@ -72,16 +68,272 @@
         <translation>Bajar de nivel</translation>
     </message>
     <message>
-        <source>Next Panel</source>
-        <translation>Panel siguiente</translation>
-    </message>
-    <message>
         <source>&amp;Reset Layout</source>
         <translation>&amp;Restablecer la disposición</translation>
     </message>
     <message>
         <source>About Ivorel</source>
         <translation>Acerca de Ivorel</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Open…</source>
+        <translation>A&amp;pertura rápida…</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Template…</source>
+        <translation>Guardar como p&amp;lantilla…</translation>
+    </message>
+    <message>
+        <source>Save as Content &amp;Pack…</source>
+        <translation>Guardar como paquete de cont&amp;enido…</translation>
+    </message>
+    <message>
+        <source>Apply &amp;Content Pack…</source>
+        <translation>Apl&amp;icar un paquete de contenido…</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up Project Now</source>
+        <translation>&amp;Hacer copia de seguridad ahora</translation>
+    </message>
+    <message>
+        <source>Check for E&amp;xternal Changes…</source>
+        <translation>&amp;Buscar cambios externos…</translation>
+    </message>
+    <message>
+        <source>Mounted &amp;Libraries…</source>
+        <translation>Biblioteca&amp;s montadas…</translation>
+    </message>
+    <message>
+        <source>Mana&amp;ge Audiences…</source>
+        <translation>Gestionar p&amp;úblicos…</translation>
+    </message>
+    <message>
+        <source>Open PD&amp;F…</source>
+        <translation>Abrir PD&amp;F…</translation>
+    </message>
+    <message>
+        <source>&amp;Plain Text…</source>
+        <translation>&amp;Texto sin formato…</translation>
+    </message>
+    <message>
+        <source>&amp;Obsidian Vault…</source>
+        <translation>Bóveda de &amp;Obsidian…</translation>
+    </message>
+    <message>
+        <source>&amp;yWriter…</source>
+        <translation>&amp;yWriter…</translation>
+    </message>
+    <message>
+        <source>Sc&amp;rivener…</source>
+        <translation>Sc&amp;rivener…</translation>
+    </message>
+    <message>
+        <source>&amp;Word Document…</source>
+        <translation>Documento de &amp;Word…</translation>
+    </message>
+    <message>
+        <source>&amp;Notion Export…</source>
+        <translation>Exportación de &amp;Notion…</translation>
+    </message>
+    <message>
+        <source>Import a Notion “Export → Markdown &amp; CSV” folder, preserving pages and folders</source>
+        <translation>Importa una carpeta «Export → Markdown &amp; CSV» de Notion y conserva sus páginas y carpetas</translation>
+    </message>
+    <message>
+        <source>&amp;Manuskript…</source>
+        <translation>&amp;Manuskript…</translation>
+    </message>
+    <message>
+        <source>Convert a &amp;Folder with AI…</source>
+        <translation>Convertir una &amp;carpeta con IA…</translation>
+    </message>
+    <message>
+        <source>Convert an entire folder of files into this project with your AI provider — entities, timeline, sheets, media, and more</source>
+        <translation>Convierte una carpeta entera de archivos en este proyecto con su proveedor de IA: entidades, línea de tiempo, hojas, medios y más</translation>
+    </message>
+    <message>
+        <source>&amp;Manuscript…</source>
+        <translation>&amp;Manuscrito…</translation>
+    </message>
+    <message>
+        <source>&amp;Screenplay…</source>
+        <translation>&amp;Guion…</translation>
+    </message>
+    <message>
+        <source>&amp;Website…</source>
+        <translation>Sitio &amp;web…</translation>
+    </message>
+    <message>
+        <source>&amp;Health Report…</source>
+        <translation>&amp;Informe de estado…</translation>
+    </message>
+    <message>
+        <source>Export a manuscript-health report — statistics, readability, dialogue balance, point-of-view balance, style issues, and world coverage — as Markdown or HTML</source>
+        <translation>Exporta un informe del estado del manuscrito (estadísticas, legibilidad, equilibrio de diálogos y de puntos de vista, avisos de estilo y presencia del mundo) como Markdown o HTML</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Recent</source>
+        <translation>&amp;Vaciar los recientes</translation>
+    </message>
+    <message>
+        <source>Q&amp;uit</source>
+        <translation>Sali&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Find &amp;&amp; Replace…</source>
+        <translation>&amp;Buscar y reemplazar…</translation>
+    </message>
+    <message>
+        <source>&amp;Replace…</source>
+        <translation>Reem&amp;plazar…</translation>
+    </message>
+    <message>
+        <source>Find in &amp;Project…</source>
+        <translation>Buscar en el pro&amp;yecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences…</source>
+        <translation>Pre&amp;ferencias…</translation>
+    </message>
+    <message>
+        <source>Task for Document…</source>
+        <translation>Tarea para el documento…</translation>
+    </message>
+    <message>
+        <source>Change Kind…</source>
+        <translation>Cambiar el tipo…</translation>
+    </message>
+    <message>
+        <source>Show Unsupported Claims…</source>
+        <translation>Mostrar afirmaciones sin fuente…</translation>
+    </message>
+    <message>
+        <source>Version History…</source>
+        <translation>Historial de versiones…</translation>
+    </message>
+    <message>
+        <source>Next Mention</source>
+        <translation>Mención siguiente</translation>
+    </message>
+    <message>
+        <source>Previous Mention</source>
+        <translation>Mención anterior</translation>
+    </message>
+    <message>
+        <source>Today’s Note</source>
+        <translation>Nota de hoy</translation>
+    </message>
+    <message>
+        <source>&amp;Distraction-Free Mode</source>
+        <translation>&amp;Modo sin distracciones</translation>
+    </message>
+    <message>
+        <source>&amp;Page Layout View</source>
+        <translation>Vista de &amp;página</translation>
+    </message>
+    <message>
+        <source>&amp;Save Current Layout As…</source>
+        <translation>&amp;Guardar la disposición actual como…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Perspective…</source>
+        <translation>&amp;Eliminar una perspectiva…</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Panel</source>
+        <translation>Panel &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Panel</source>
+        <translation>Panel &amp;anterior</translation>
+    </message>
+    <message>
+        <source>AI &amp;Settings…</source>
+        <translation>A&amp;justes de IA…</translation>
+    </message>
+    <message>
+        <source>Configure your AI provider — endpoint, API key, and model</source>
+        <translation>Configura su proveedor de IA: dirección, clave de API y modelo</translation>
+    </message>
+    <message>
+        <source>Manage &amp;Personas…</source>
+        <translation>Gestionar &amp;personajes de IA…</translation>
+    </message>
+    <message>
+        <source>Manage AI &amp;Commands…</source>
+        <translation>Gestionar ór&amp;denes de IA…</translation>
+    </message>
+    <message>
+        <source>Add, edit, or remove reusable AI commands — named instructions you can apply to a selection, batch across documents, or chain</source>
+        <translation>Añade, edita o elimina órdenes de IA reutilizables: instrucciones con nombre que se aplican a una selección, a varios documentos o en cadena</translation>
+    </message>
+    <message>
+        <source>&amp;Build World Index</source>
+        <translation>Crear el índice del &amp;mundo</translation>
+    </message>
+    <message>
+        <source>As&amp;k Your World…</source>
+        <translation>Preg&amp;untar a su mundo…</translation>
+    </message>
+    <message>
+        <source>&amp;Find Similar Entities…</source>
+        <translation>&amp;Buscar entidades parecidas…</translation>
+    </message>
+    <message>
+        <source>Se&amp;mantic Search…</source>
+        <translation>Búsqueda &amp;semántica…</translation>
+    </message>
+    <message>
+        <source>Search your Codex by meaning or mood — type a phrase and find the most semantically related entities (needs a built World Index)</source>
+        <translation>Busca en su códice por significado o ambiente: escriba una frase y encuentre las entidades más afines (requiere el índice del mundo)</translation>
+    </message>
+    <message>
+        <source>Generate &amp;Codex from Manuscript…</source>
+        <translation>Generar el &amp;códice desde el manuscrito…</translation>
+    </message>
+    <message>
+        <source>Let AI read your manuscript and propose the worldbuilding entities it mentions but your Codex is missing — review the suggestions and add the ones you want</source>
+        <translation>Deje que la IA lea su manuscrito y proponga las entidades que menciona y que faltan en su códice; revise las sugerencias y añada las que quiera</translation>
+    </message>
+    <message>
+        <source>Ask an A&amp;gent…</source>
+        <translation>Pedir a un a&amp;gente…</translation>
+    </message>
+    <message>
+        <source>&amp;Generate Image…</source>
+        <translation>Generar &amp;imagen…</translation>
+    </message>
+    <message>
+        <source>Generate &amp;Speech…</source>
+        <translation>Generar &amp;voz…</translation>
+    </message>
+    <message>
+        <source>&amp;Apply AI Command…</source>
+        <translation>&amp;Aplicar una orden de IA…</translation>
+    </message>
+    <message>
+        <source>Batch AI Co&amp;mmand…</source>
+        <translation>Orden de IA por &amp;lotes…</translation>
+    </message>
+    <message>
+        <source>Run Command C&amp;hain…</source>
+        <translation>Ejecutar una cade&amp;na de órdenes…</translation>
+    </message>
+    <message>
+        <source>Token &amp;Usage…</source>
+        <translation>Us&amp;o de tokens…</translation>
+    </message>
+    <message>
+        <source>&amp;Welcome…</source>
+        <translation>&amp;Bienvenida…</translation>
+    </message>
+    <message>
+        <source>Check for &amp;Updates…</source>
+        <translation>Buscar act&amp;ualizaciones…</translation>
+    </message>
+    <message>
+        <source>Connect Claude &amp;Desktop…</source>
+        <translation>Conectar Claude &amp;Desktop…</translation>
     </message>
 </context>
 <context>
@@ -108,6 +360,162 @@
     <message>
         <source>Panel area button</source>
         <translation>Botón del área de paneles</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Códice</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Document Info</source>
+        <translation>Datos del documento</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Esquema</translation>
+    </message>
+    <message>
+        <source>Corkboard</source>
+        <translation>Corcho</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Tablero</translation>
+    </message>
+    <message>
+        <source>Submissions</source>
+        <translation>Envíos</translation>
+    </message>
+    <message>
+        <source>Agenda</source>
+        <translation>Agenda</translation>
+    </message>
+    <message>
+        <source>Gallery</source>
+        <translation>Galería</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Lienzo</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Mapas</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Script Console</source>
+        <translation>Consola de scripts</translation>
+    </message>
+    <message>
+        <source>AI Chat</source>
+        <translation>Chat de IA</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comentarios</translation>
+    </message>
+    <message>
+        <source>Plot Threads</source>
+        <translation>Tramas</translation>
+    </message>
+    <message>
+        <source>Beat Sheet</source>
+        <translation>Escaleta</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Guion</translation>
+    </message>
+    <message>
+        <source>Relationships</source>
+        <translation>Relaciones</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Sprint</source>
+        <translation>Sprint</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation>Objetivos</translation>
+    </message>
+    <message>
+        <source>Pacing</source>
+        <translation>Ritmo</translation>
+    </message>
+    <message>
+        <source>POV Balance</source>
+        <translation>Equilibrio de PDV</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tensión</translation>
+    </message>
+    <message>
+        <source>Genre Tools</source>
+        <translation>Herramientas de género</translation>
+    </message>
+    <message>
+        <source>Random Tables</source>
+        <translation>Tablas aleatorias</translation>
+    </message>
+    <message>
+        <source>Charts</source>
+        <translation>Gráficos</translation>
+    </message>
+    <message>
+        <source>Stat Blocks</source>
+        <translation>Fichas de juego</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Notas al pie</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Conflicts</source>
+        <translation>Conflictos</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Estilo</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Fijados</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
     </message>
 </context>
 <context>
@@ -319,23 +727,31 @@
     <message numerus="yes">
         <source>%n note(s)</source>
         <translation>
-            <numerusform>%n nota</numerusform><numerusform>%n notas</numerusform></translation>
+            <numerusform>%n nota</numerusform>
+            <numerusform>%n notas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n document(s)</source>
         <translation>
-            <numerusform>%n documento</numerusform><numerusform>%n documentos</numerusform></translation>
+            <numerusform>%n documento</numerusform>
+            <numerusform>%n documentos</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n scene(s)</source>
         <translation>
-            <numerusform>%n escena</numerusform><numerusform>%n escenas</numerusform></translation>
+            <numerusform>%n escena</numerusform>
+            <numerusform>%n escenas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n word(s)</source>
         <comment>with the number written out by the program</comment>
         <translation>
-            <numerusform>%n palabra</numerusform><numerusform>%n palabras</numerusform></translation>
+            <numerusform>%n palabra</numerusform>
+            <numerusform>%n palabras</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete %1, %2?</source>
@@ -344,22 +760,30 @@
     <message numerus="yes">
         <source>Delete %n document(s)</source>
         <translation>
-            <numerusform>Eliminar %n documento</numerusform><numerusform>Eliminar %n documentos</numerusform></translation>
+            <numerusform>Eliminar %n documento</numerusform>
+            <numerusform>Eliminar %n documentos</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n document(s)</source>
         <translation>
-            <numerusform>Mover %n documento</numerusform><numerusform>Mover %n documentos</numerusform></translation>
+            <numerusform>Mover %n documento</numerusform>
+            <numerusform>Mover %n documentos</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Promote %n document(s)</source>
         <translation>
-            <numerusform>Subir de nivel %n documento</numerusform><numerusform>Subir de nivel %n documentos</numerusform></translation>
+            <numerusform>Subir de nivel %n documento</numerusform>
+            <numerusform>Subir de nivel %n documentos</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Demote %n document(s)</source>
         <translation>
-            <numerusform>Bajar de nivel %n documento</numerusform><numerusform>Bajar de nivel %n documentos</numerusform></translation>
+            <numerusform>Bajar de nivel %n documento</numerusform>
+            <numerusform>Bajar de nivel %n documentos</numerusform>
+        </translation>
     </message>
     <message>
         <source>Change document kind</source>
@@ -383,7 +807,9 @@
     <message numerus="yes">
         <source>%1, %n word(s)</source>
         <translation>
-            <numerusform>%1, %n palabra</numerusform><numerusform>%1, %n palabras</numerusform></translation>
+            <numerusform>%1, %n palabra</numerusform>
+            <numerusform>%1, %n palabras</numerusform>
+        </translation>
     </message>
     <message>
         <source>Title</source>
@@ -1958,6 +2384,36 @@
     <message>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Proyec&amp;tos recientes</translation>
+    </message>
+    <message>
+        <source>&amp;AI</source>
+        <translation>&amp;IA</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::NoticeBar</name>
+    <message>
+        <source>Not Now</source>
+        <translation>Ahora no</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::Notices</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
     </message>
 </context>
 </TS>
