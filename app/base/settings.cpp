@@ -40,7 +40,7 @@ bool Settings::flag(const SettingKey &key) const
 
 void Settings::set(const SettingKey &key, const QString &value)
 {
-    m_store->setValue(nameOf(key), value);
+    set(nameOf(key), value);
 }
 
 void Settings::set(const SettingKey &key, bool value)
@@ -60,12 +60,18 @@ bool Settings::contains(const QString &key) const
 
 void Settings::set(const QString &key, const QString &value)
 {
+    if (contains(key) && text(key) == value)
+        return;
     m_store->setValue(key, value);
+    Q_EMIT m_changes->changed(key);
 }
 
 void Settings::remove(const QString &key)
 {
+    if (!contains(key))
+        return;
     m_store->remove(key);
+    Q_EMIT m_changes->changed(key);
 }
 
 QByteArray Settings::bytes(const QString &key) const
@@ -80,7 +86,9 @@ void Settings::setBytes(const QString &key, const QByteArray &value)
 
 QStringList Settings::recentProjects() const
 {
-    return text(settings::recentProjects).split(u'\n', Qt::SkipEmptyParts);
+    return text(settings::recentProjects)
+        .split(u'\n', Qt::SkipEmptyParts)
+        .mid(0, mostRecentProjects);
 }
 
 void Settings::addRecentProject(const QString &path)

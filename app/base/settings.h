@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtCore/QSettings>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -15,6 +16,16 @@ struct SettingKey
     const char *defaultValue;
 };
 
+/// Tells of settings that change while the program runs.
+class SettingsChanges final : public QObject
+{
+    Q_OBJECT
+
+Q_SIGNALS:
+    /// The entry of this key has another value now, or is gone.
+    void changed(const QString &key);
+};
+
 /// The user's settings. Values are texts, booleans "true" and "false".
 class Settings
 {
@@ -23,6 +34,9 @@ public:
     Settings();
     /// A store in a file, for tests.
     explicit Settings(const QString &iniFile);
+
+    /// For whoever shows a setting; it lives as long as the settings.
+    const SettingsChanges &changes() const { return *m_changes; }
 
     QString text(const SettingKey &key) const;
     bool flag(const SettingKey &key) const;
@@ -44,6 +58,7 @@ public:
 
 private:
     std::unique_ptr<QSettings> m_store;
+    std::unique_ptr<SettingsChanges> m_changes = std::make_unique<SettingsChanges>();
 };
 
 } // namespace vl::app

@@ -29,6 +29,9 @@ public:
     virtual QString chooseFolderToSave(const QString &suggestion) = 0;
     /// A short text such as a name; nothing in it when called off.
     virtual QString askText(const QString &title, const QString &label, const QString &text) = 0;
+    /// One of the texts; nothing when called off.
+    virtual QString chooseOne(const QString &title, const QString &label,
+                              const QStringList &texts) = 0;
     virtual void showError(const QString &title, const QString &message) = 0;
 
 protected:

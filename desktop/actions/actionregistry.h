@@ -2,6 +2,7 @@
 
 #include "desktop/actions/catalogue.h"
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtGui/QAction>
 
@@ -23,7 +24,8 @@ class ActionRegistry final : public QObject
     Q_OBJECT
 
 public:
-    explicit ActionRegistry(const app::Settings &settings, QObject *parent = nullptr);
+    /// The settings outlive it.
+    explicit ActionRegistry(app::Settings &settings, QObject *parent = nullptr);
 
     /// The action with this id, which must stand in the catalogue.
     QAction *action(const char *id) const;
@@ -42,7 +44,29 @@ public:
     /// Adds the actions of a menu in the order of the catalogue.
     void fill(QMenu *menu, Menu which) const;
 
+    /// The text of the action without its mnemonic, and its first key behind it.
+    static QString describe(const QAction &action);
+
+    /// The keys that an action has without the user's doing.
+    static QList<QKeySequence> builtInKeys(const ActionRow &row);
+    /// Whether the user gave the action keys of its own, if only none.
+    bool hasOwnKeys(const char *id) const;
+    /// Gives the action these keys, from now on and at every start; empty ones leave it without.
+    /// Whatever else had the keys loses them.
+    void setKeys(const char *id, const QKeySequence &keys);
+    /// Gives the action its built-in keys back.
+    void resetKeys(const char *id);
+    void resetAllKeys();
+    /// The other action that these keys trigger, null when they are free.
+    QAction *userOf(const QKeySequence &keys, const char *exceptId) const;
+
+Q_SIGNALS:
+    void keysChanged();
+
 private:
+    void layKeys();
+
+    app::Settings &m_settings;
     std::map<std::string, QAction *, std::less<>> m_actions;
 };
 

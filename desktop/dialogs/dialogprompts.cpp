@@ -85,6 +85,14 @@ QString DialogPrompts::askText(const QString &title, const QString &label, const
     return QInputDialog::getText(m_window, title, label, QLineEdit::Normal, text);
 }
 
+QString DialogPrompts::chooseOne(const QString &title, const QString &label,
+                                 const QStringList &texts)
+{
+    bool isChosen = false;
+    const QString text = QInputDialog::getItem(m_window, title, label, texts, 0, false, &isChosen);
+    return isChosen ? text : QString();
+}
+
 void DialogPrompts::showError(const QString &title, const QString &message)
 {
     QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok, m_window);

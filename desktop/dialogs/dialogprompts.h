@@ -26,6 +26,8 @@ public:
     QString chooseBundleToSave(const QString &suggestion) override;
     QString chooseFolderToSave(const QString &suggestion) override;
     QString askText(const QString &title, const QString &label, const QString &text) override;
+    QString chooseOne(const QString &title, const QString &label,
+                      const QStringList &texts) override;
     void showError(const QString &title, const QString &message) override;
 
 private:

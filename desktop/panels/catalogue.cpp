@@ -21,7 +21,7 @@ constexpr PanelMaker notBuilt = nullptr;
 
 // clang-format off
 constexpr PanelRow rows[] = {
-    {"codex", QT_TRANSLATE_NOOP("Panels", "Codex"), DockSide::Left, FirstState::Open, notBuilt},
+    {"codex", QT_TRANSLATE_NOOP("Panels", "Codex"), DockSide::LeftBelow, FirstState::Open, notBuilt},
     {"manuscript", QT_TRANSLATE_NOOP("Panels", "Documents"), DockSide::Left, FirstState::Open, make<DocumentsPanel>},
     {"editor", QT_TRANSLATE_NOOP("Panels", "Editor"), DockSide::Center, FirstState::Open, make<EditorPanel>},
     {"inspector", QT_TRANSLATE_NOOP("Panels", "Inspector"), DockSide::Right, FirstState::Open, notBuilt},
@@ -60,7 +60,7 @@ constexpr PanelRow rows[] = {
     {"timeline", QT_TRANSLATE_NOOP("Panels", "Timeline"), DockSide::Bottom, FirstState::Closed, notBuilt},
     {"conflicts", QT_TRANSLATE_NOOP("Panels", "Conflicts"), DockSide::Bottom, FirstState::Closed, notBuilt},
     {"style", QT_TRANSLATE_NOOP("Panels", "Style"), DockSide::Right, FirstState::Closed, notBuilt},
-    {"pinned", QT_TRANSLATE_NOOP("Panels", "Pinned"), DockSide::Left, FirstState::Closed, notBuilt},
+    {"pinned", QT_TRANSLATE_NOOP("Panels", "Pinned"), DockSide::LeftBelow, FirstState::Closed, notBuilt},
     {"tasks", QT_TRANSLATE_NOOP("Panels", "Tasks"), DockSide::Bottom, FirstState::Closed, notBuilt},
 };
 // clang-format on

@@ -12,6 +12,7 @@ namespace vl::desktop {
 enum class DockSide
 {
     Left,
+    LeftBelow,
     Center,
     Right,
     Bottom

@@ -1,27 +1,26 @@
 #include "desktop/shell/mainwindow.h"
 
 #include "app/base/settingskeys.h"
+#include "desktop/shell/appearance.h"
+#include "desktop/shell/layouts.h"
+#include "desktop/shell/maintoolbar.h"
 #include "desktop/shell/notices.h"
 #include "desktop/shell/panelhost.h"
 #include "desktop/shell/safekeeping.h"
-#include "desktop/shell/theme.h"
+#include "desktop/shell/windowmenus.h"
 #include "desktop/widgets/elidedlabel.h"
 
-#include <QtGui/QActionGroup>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
-#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
-#include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace vl::desktop {
 
 namespace {
 
-const QLatin1String layoutKey("general/layout");
 const QLatin1String geometryKey("general/geometry");
 constexpr int windowEdges = 48; // room for the frame that the desktop puts round the window
 
@@ -45,7 +44,6 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     buildCentre();
     bindActions();
     buildMenus();
-    buildToolBar();
     m_saveFault = new ElidedLabel({}, this);
     m_saveFault->setAccessibleName(tr("Why the project was not saved"));
     statusBar()->addPermanentWidget(m_saveFault);
@@ -65,6 +63,7 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     updateTitle();
     updateSteps();
     restoreWindow();
+    m_panels->focusNext();
 }
 
 MainWindow::~MainWindow()
@@ -88,8 +87,10 @@ void MainWindow::buildCentre()
     auto *questions = new NoticeBar(centre);
     layout->addWidget(questions);
     m_notices = new Notices(statusBar(), questions, m_workspace, this);
+    m_appearance = new Appearance(m_settings, this);
     m_panels = new PanelHost(
         centre, PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices});
+    m_layouts = new Layouts(*m_panels, m_settings, m_prompts, *m_notices, this);
 }
 
 void MainWindow::bindActions()
@@ -105,7 +106,8 @@ void MainWindow::bindActions()
     m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
     m_actions.bind("view.nextPanel", m_panels, &PanelHost::focusNext);
     m_actions.bind("view.previousPanel", m_panels, &PanelHost::focusPrevious);
-    m_actions.bind("view.resetLayout", m_panels, &PanelHost::resetLayout);
+    m_actions.bind("file.clearRecent", this, [this] { m_settings.clearRecentProjects(); });
+    m_layouts->bind(m_actions);
     m_actions.bind("help.about", this, &MainWindow::showAbout);
 }
 
@@ -128,44 +130,11 @@ void MainWindow::tellSaveFailed(const QString &message)
 
 void MainWindow::buildMenus()
 {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    m_actions.fill(file, Menu::File);
-    file->addSeparator();
-    m_actions.fill(file->addMenu(tr("&Import")), Menu::Import);
-    m_actions.fill(file->addMenu(tr("&Export")), Menu::Export);
-    m_actions.fill(file->addMenu(tr("&Recent Projects")), Menu::Recent);
-    m_actions.fill(file, Menu::Leave);
-    m_actions.fill(menuBar()->addMenu(tr("&Edit")), Menu::Edit);
-    QMenu *view = menuBar()->addMenu(tr("&View"));
-    m_actions.fill(view, Menu::View);
-    view->addSeparator();
-    QMenu *themeMenu = view->addMenu(tr("&Theme"));
-    auto *group = new QActionGroup(themeMenu);
-    const Theme &present = themeNamed(m_settings.text(app::settings::theme));
-    for (const Theme &theme : themes()) {
-        QAction *entry = themeMenu->addAction(QCoreApplication::translate("Themes", theme.name));
-        entry->setCheckable(true);
-        entry->setChecked(&theme == &present);
-        group->addAction(entry);
-        connect(entry, &QAction::triggered, this, [this, &theme] {
-            applyTheme(theme);
-            m_settings.set(app::settings::theme, QLatin1String(theme.name));
-        });
-    }
-    m_actions.fill(view, Menu::Layouts);
-    view->addSeparator();
-    m_panels->addToggles(view);
-    m_actions.fill(menuBar()->addMenu(tr("&AI")), Menu::Ai);
-    m_actions.fill(menuBar()->addMenu(tr("&Help")), Menu::Help);
-}
-
-void MainWindow::buildToolBar()
-{
-    QToolBar *bar = addToolBar(tr("Main"));
-    bar->setObjectName(QStringLiteral("primaryToolBar"));
-    bar->setMovable(false);
-    for (const char *id : {"file.open", "file.save", "edit.undo", "edit.redo"})
-        bar->addAction(m_actions[id]);
+    auto *menus = new WindowMenus(
+        this, {m_actions, m_settings, *m_appearance, *m_layouts, *m_panels, *m_notices});
+    connect(menus, &WindowMenus::recentChosen, this,
+            [this](const QString &path) { m_flows.openHere(path); });
+    addToolBar(new MainToolBar(m_actions, m_settings, this));
 }
 
 void MainWindow::restoreWindow()
@@ -173,7 +142,7 @@ void MainWindow::restoreWindow()
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     resize(qMin(1400, room.width() - windowEdges), qMin(900, room.height() - windowEdges));
     restoreGeometry(m_settings.bytes(geometryKey));
-    m_panels->restoreLayout(m_settings.bytes(layoutKey));
+    m_layouts->restoreSession();
 }
 
 void MainWindow::updateTitle()
@@ -213,7 +182,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_settings.setBytes(geometryKey, saveGeometry());
-    m_settings.setBytes(layoutKey, m_panels->saveLayout());
+    m_layouts->saveSession();
     event->accept();
 }
 

@@ -10,7 +10,9 @@
 
 namespace vl::desktop {
 
+class Appearance;
 class ElidedLabel;
+class Layouts;
 class Notices;
 class PanelHost;
 class SafeKeeping;
@@ -37,7 +39,6 @@ private:
     void buildCentre();
     void bindActions();
     void buildMenus();
-    void buildToolBar();
     void restoreWindow();
     void updateTitle();
     void updateSteps();
@@ -52,7 +53,9 @@ private:
     app::ProjectFlows m_flows;
     ActionRegistry m_actions;
     Notices *m_notices = nullptr;
+    Appearance *m_appearance = nullptr;
     PanelHost *m_panels = nullptr;
+    Layouts *m_layouts = nullptr;
     std::unique_ptr<SafeKeeping> m_safeKeeping;
     ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
     bool m_tellsFailure = false;        ///< the save that runs was asked for by the user

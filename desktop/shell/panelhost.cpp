@@ -1,6 +1,6 @@
 #include "desktop/shell/panelhost.h"
 
-#include "desktop/panels/catalogue.h"
+#include "desktop/widgets/grid.h"
 
 #include <DockAreaTitleBar.h>
 #include <DockAreaWidget.h>
@@ -8,25 +8,31 @@
 #include <DockSplitter.h>
 #include <DockWidget.h>
 #include <DockWidgetTab.h>
+#include <FloatingDockContainer.h>
 
+#include <QtCore/QCryptographicHash>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QMenu>
 
 #include <algorithm>
-#include <map>
 
 namespace vl::desktop {
 
 namespace {
 
 constexpr int layoutVersion = 1;
+constexpr int checkSize = 20;       ///< a state is kept behind its SHA-1, which tells damage
+constexpr int reachablePixels = 64; ///< of a window's upper edge, so that it can be taken hold of
 
 ads::DockWidgetArea areaOf(DockSide side)
 {
     switch (side) {
     case DockSide::Left:
+    case DockSide::LeftBelow:
         return ads::LeftDockWidgetArea;
     case DockSide::Right:
         return ads::RightDockWidgetArea;
@@ -76,27 +82,21 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
 
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
 
-    std::map<DockSide, ads::CDockAreaWidget *> areas;
     // The middle first: the sides are split off from it.
-    for (const bool isCentre : {true, false}) {
+    for (const DockSide side : {DockSide::Center, DockSide::Left, DockSide::LeftBelow,
+                                DockSide::Right, DockSide::Bottom}) {
         for (const PanelRow &row : panelCatalogue()) {
-            if ((row.side == DockSide::Center) != isCentre)
+            if (row.side != side)
                 continue;
             auto *dock = new ads::CDockWidget(QCoreApplication::translate("Panels", row.title));
             dock->setObjectName(QLatin1String(row.objectName));
             dock->setWidget(row.make(context, dock), ads::CDockWidget::ForceNoScrollArea);
-            ads::CDockAreaWidget *&area = areas[row.side];
-            area = area ? m_manager->addDockWidgetTabToArea(dock, area)
-                        : m_manager->addDockWidget(areaOf(row.side), dock);
+            place(dock, row);
             nameButtons(dock);
-            if (row.firstState == FirstState::Closed)
-                dock->toggleView(false);
-            m_docks.push_back(dock);
         }
     }
-    if (areas.contains(DockSide::Left))
-        m_manager->setSplitterSizes(areas[DockSide::Left], {320, 960});
     m_firstLayout = saveLayout();
+    sizeAreas();
 }
 
 PanelHost::~PanelHost() = default;
@@ -108,20 +108,95 @@ void PanelHost::addToggles(QMenu *menu) const
             menu->addAction(dock->toggleViewAction());
 }
 
+void PanelHost::place(ads::CDockWidget *dock, const PanelRow &row)
+{
+    QPointer<ads::CDockAreaWidget> &area = m_areas[row.side];
+    if (area) {
+        m_manager->addDockWidgetTabToArea(dock, area);
+        // The first panel of a side stays in front.
+        area->setCurrentIndex(0);
+    } else if (row.side == DockSide::LeftBelow && m_areas[DockSide::Left]) {
+        area = m_manager->addDockWidget(ads::BottomDockWidgetArea, dock, m_areas[DockSide::Left]);
+    } else {
+        area = m_manager->addDockWidget(areaOf(row.side), dock);
+    }
+    if (row.firstState == FirstState::Closed)
+        dock->toggleView(false);
+}
+
+void PanelHost::placeStrays()
+{
+    m_areas.clear();
+    for (const PanelRow &row : panelCatalogue())
+        if (const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName)))
+            if (dock->dockAreaWidget() && !dock->isInFloatingContainer())
+                m_areas[row.side] = dock->dockAreaWidget();
+    for (const PanelRow &row : panelCatalogue()) {
+        auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+        if (dock && !dock->dockAreaWidget())
+            place(dock, row);
+    }
+}
+
+void PanelHost::sizeAreas()
+{
+    const int width = m_manager->window()->width();
+    const int left = std::clamp(width / 5, grid(56), grid(84));
+    const int right = std::clamp(width / 5, grid(60), grid(88));
+    QList<int> sizes;
+    const auto isShown = [this](DockSide side) {
+        return m_areas[side] && !m_areas[side]->isHidden();
+    };
+    if (isShown(DockSide::Left) || isShown(DockSide::LeftBelow))
+        sizes.append(left);
+    sizes.append(width - left - right);
+    if (isShown(DockSide::Right))
+        sizes.append(right);
+    if (m_areas[DockSide::Center])
+        m_manager->setSplitterSizes(m_areas[DockSide::Center], sizes);
+    if (isShown(DockSide::LeftBelow))
+        m_manager->setSplitterSizes(m_areas[DockSide::LeftBelow], {3 * left, 2 * left});
+}
+
+void PanelHost::fetchFloating()
+{
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    for (ads::CFloatingDockContainer *floating : m_manager->floatingWidgets()) {
+        const QRect frame = floating->frameGeometry();
+        const QRect reachable = reachableFrame(frame, screens);
+        if (reachable != frame)
+            floating->setGeometry(reachable);
+    }
+}
+
 void PanelHost::resetLayout()
 {
-    restoreLayout(m_firstLayout);
+    m_manager->restoreState(m_firstLayout.mid(checkSize), layoutVersion);
+    placeStrays();
+    sizeAreas();
 }
 
 QByteArray PanelHost::saveLayout() const
 {
-    return m_manager->saveState(layoutVersion);
+    const QByteArray state = m_manager->saveState(layoutVersion);
+    return QCryptographicHash::hash(state, QCryptographicHash::Sha1) + state;
 }
 
-void PanelHost::restoreLayout(const QByteArray &state)
+bool PanelHost::restoreLayout(const QByteArray &layout)
 {
-    if (!state.isEmpty())
-        m_manager->restoreState(state, layoutVersion);
+    const QByteArray state = layout.mid(checkSize);
+    const bool isWhole =
+        !state.isEmpty()
+        && layout.startsWith(QCryptographicHash::hash(state, QCryptographicHash::Sha1));
+    if (!isWhole || !m_manager->restoreState(state, layoutVersion)) {
+        resetLayout();
+        return false;
+    }
+    placeStrays();
+    fetchFloating();
+    return true;
 }
 
 void PanelHost::showPanel(const QString &objectName)
@@ -154,6 +229,21 @@ void PanelHost::moveFocus(int step)
     QWidget *panel = open[size_t(next)]->widget();
     if (QWidget *first = panel->focusProxy() ? panel->focusProxy() : panel->nextInFocusChain())
         first->setFocus(Qt::TabFocusReason);
+}
+
+QRect reachableFrame(const QRect &frame, const QList<QRect> &screens)
+{
+    for (const QRect &screen : screens) {
+        const QRect seen = screen & frame;
+        if (seen.width() >= reachablePixels && seen.height() >= reachablePixels
+            && frame.top() >= screen.top())
+            return frame;
+    }
+    if (screens.isEmpty())
+        return frame;
+    QRect moved(QPoint(), frame.size().boundedTo(screens.first().size()));
+    moved.moveCenter(screens.first().center());
+    return moved;
 }
 
 } // namespace vl::desktop

@@ -1,18 +1,20 @@
 #pragma once
 
-#include "desktop/panels/panelcontext.h"
+#include "desktop/panels/catalogue.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
 
-#include <memory>
-#include <vector>
+#include <map>
 
 class QAction;
 class QMenu;
 class QWidget;
 
 namespace ads {
+class CDockAreaWidget;
 class CDockManager;
 class CDockWidget;
 } // namespace ads
@@ -33,8 +35,8 @@ public:
     void addToggles(QMenu *menu) const;
     void resetLayout();
     QByteArray saveLayout() const;
-    /// Leaves the layout as it is when the state is not one of this version's.
-    void restoreLayout(const QByteArray &state);
+    /// Shows the first layout, and gives false, when the state is damaged or of another version.
+    bool restoreLayout(const QByteArray &state);
     void showPanel(const QString &objectName);
     /// Moves the focus to the next or previous open panel.
     void focusNext() { moveFocus(1); }
@@ -42,10 +44,18 @@ public:
 
 private:
     void moveFocus(int step);
+    void place(ads::CDockWidget *dock, const PanelRow &row);
+    void placeStrays();
+    void sizeAreas();
+    void fetchFloating();
 
     ads::CDockManager *m_manager;
-    std::vector<ads::CDockWidget *> m_docks;
+    std::map<DockSide, QPointer<ads::CDockAreaWidget>> m_areas; ///< where new panels go
     QByteArray m_firstLayout;
 };
+
+/// Where a window of this frame goes so that it can be reached: where it is if enough of it lies in
+/// one of the screens, else into the first of them.
+QRect reachableFrame(const QRect &frame, const QList<QRect> &screens);
 
 } // namespace vl::desktop

@@ -10,7 +10,9 @@ class FakePrompts final : public app::Prompts
 public:
     Unsaved unsaved = Unsaved::Cancel;
     bool confirms = false;
-    QString path; ///< what every choice of a place gives
+    int choice = 0; ///< which of several texts is chosen
+    QString path;   ///< what every choice of a place gives
+    QString text;   ///< what is typed; null leaves what is suggested
     QStringList questions;
     QStringList errors;
 
@@ -28,7 +30,14 @@ public:
     QString chooseProjectFolderToOpen() override { return path; }
     QString chooseBundleToSave(const QString &) override { return path; }
     QString chooseFolderToSave(const QString &) override { return path; }
-    QString askText(const QString &, const QString &, const QString &text) override { return text; }
+    QString askText(const QString &, const QString &, const QString &suggestion) override
+    {
+        return text.isNull() ? suggestion : text;
+    }
+    QString chooseOne(const QString &, const QString &, const QStringList &texts) override
+    {
+        return texts.value(choice);
+    }
     void showError(const QString &, const QString &message) override { errors.append(message); }
 };
 

@@ -1,0 +1,135 @@
+#include "desktop/shell/layouts.h"
+
+#include "app/base/settings.h"
+#include "app/models/prompts.h"
+#include "desktop/actions/actionregistry.h"
+#include "desktop/shell/notices.h"
+#include "desktop/shell/panelhost.h"
+
+#include <QtWidgets/QMenu>
+
+namespace vl::desktop {
+
+namespace {
+
+const QString sessionKey = QStringLiteral("general/layout");
+const QString namesKey = QStringLiteral("general/layoutNames");
+
+/// A name may hold anything, a key of the settings may not.
+QString stateKey(const QString &name)
+{
+    return QStringLiteral("layouts/") + QString::fromLatin1(name.toUtf8().toPercentEncoding());
+}
+
+} // namespace
+
+Layouts::Layouts(PanelHost &panels, app::Settings &settings, app::Prompts &prompts,
+                 Notices &notices, QObject *parent)
+    : QObject(parent)
+    , m_panels(panels)
+    , m_settings(settings)
+    , m_prompts(prompts)
+    , m_notices(notices)
+{
+}
+
+void Layouts::bind(ActionRegistry &actions)
+{
+    actions.bind("view.saveLayout", this, &Layouts::askAndSave);
+    actions.bind("view.deleteLayout", this, &Layouts::askAndRemove);
+    actions.bind("view.resetLayout", &m_panels, &PanelHost::resetLayout);
+    QAction *removal = actions["view.deleteLayout"];
+    const auto enable = [this, removal] { removal->setEnabled(!names().isEmpty()); };
+    connect(this, &Layouts::changed, removal, enable);
+    enable();
+}
+
+void Layouts::showIn(QMenu *menu)
+{
+    const auto fill = [this, menu] {
+        menu->clear();
+        const QStringList all = names();
+        for (const QString &name : all) {
+            QString text = name;
+            menu->addAction(text.replace(u'&', QLatin1String("&&")), this,
+                            [this, name] { apply(name); });
+        }
+        menu->menuAction()->setEnabled(!all.isEmpty());
+    };
+    connect(this, &Layouts::changed, menu, fill);
+    fill();
+}
+
+QStringList Layouts::names() const
+{
+    return m_settings.text(namesKey).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void Layouts::keep(const QString &name, const QByteArray &state)
+{
+    m_settings.setBytes(stateKey(name), state);
+    QStringList all = names();
+    if (!all.contains(name))
+        all.append(name);
+    all.sort(Qt::CaseInsensitive);
+    m_settings.set(namesKey, all.join(u'\n'));
+    Q_EMIT changed();
+}
+
+void Layouts::save(const QString &name)
+{
+    keep(name, m_panels.saveLayout());
+}
+
+void Layouts::apply(const QString &name)
+{
+    if (!m_panels.restoreLayout(m_settings.bytes(stateKey(name))))
+        m_notices.show(
+            tr("The layout “%1” cannot be read; the first layout is shown instead.").arg(name));
+}
+
+void Layouts::remove(const QString &name)
+{
+    const QByteArray state = m_settings.bytes(stateKey(name));
+    m_settings.remove(stateKey(name));
+    QStringList all = names();
+    all.removeAll(name);
+    m_settings.set(namesKey, all.join(u'\n'));
+    Q_EMIT changed();
+    m_notices.show(tr("Deleted the layout “%1”.").arg(name), tr("Undo"),
+                   [this, name, state] { keep(name, state); });
+}
+
+void Layouts::askAndSave()
+{
+    const QString name =
+        m_prompts.askText(tr("Save Current Layout"), tr("Name of the layout:"), QString())
+            .simplified();
+    if (name.isEmpty())
+        return;
+    if (names().contains(name)
+        && !m_prompts.confirm(tr("There is a layout “%1” already.").arg(name),
+                              tr("The present arrangement takes its place."), tr("&Replace")))
+        return;
+    save(name);
+    m_notices.show(tr("Saved the layout “%1”.").arg(name));
+}
+
+void Layouts::askAndRemove()
+{
+    const QString name = m_prompts.chooseOne(tr("Delete Layout"), tr("Layout to delete:"), names());
+    if (!name.isEmpty())
+        remove(name);
+}
+
+void Layouts::saveSession()
+{
+    m_settings.setBytes(sessionKey, m_panels.saveLayout());
+}
+
+void Layouts::restoreSession()
+{
+    m_panels.restoreLayout(m_settings.bytes(sessionKey));
+}
+
+} // namespace vl::desktop

@@ -1,0 +1,330 @@
+#include "app/base/settingskeys.h"
+#include "desktop/shell/appearance.h"
+#include "desktop/shell/layouts.h"
+#include "desktop/shell/maintoolbar.h"
+#include "desktop/shell/mainwindow.h"
+#include "desktop/shell/panelhost.h"
+#include "desktop/shell/theme.h"
+#include "desktop/widgets/grid.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+
+using namespace vl;
+
+namespace {
+
+struct Desk
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    std::unique_ptr<desktop::MainWindow> window;
+
+    void open() { window = std::make_unique<desktop::MainWindow>(settings, &prompts); }
+    QMenu *menu(const QString &title) const
+    {
+        for (QMenu *menu : window->findChildren<QMenu *>())
+            if (menu->title() == title)
+                return menu;
+        return nullptr;
+    }
+    QAction *entry(const QString &title, const QString &text) const
+    {
+        const QMenu *found = menu(title);
+        for (QAction *action : found ? found->actions() : QList<QAction *>())
+            if (action->text() == text)
+                return action;
+        return nullptr;
+    }
+    QAction *action(const char *id) const { return window->actions()[id]; }
+};
+
+QChar mnemonicOf(const QString &text)
+{
+    QString plain = text;
+    plain.replace(QLatin1String("&&"), QLatin1String("  "));
+    const qsizetype at = plain.indexOf(u'&');
+    return at < 0 ? QChar() : plain.at(at + 1).toLower();
+}
+
+} // namespace
+
+class TestShell : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void recentProjectsAreListed();
+    void themesAndLanguagesAreTicked();
+    void layoutsAreKeptUnderTheirNames();
+    void aLayoutThatDoesNotFitGivesTheFirst_data();
+    void aLayoutThatDoesNotFitGivesTheFirst();
+    void windowsAreBroughtBack_data();
+    void windowsAreBroughtBack();
+    void ownKeysStandOverBuiltInOnes_data();
+    void ownKeysStandOverBuiltInOnes();
+    void keysAreTakenAndGivenBack();
+    void theToolBarShowsWhatTheSettingsSay();
+    void mnemonicsAreTold_data();
+    void mnemonicsAreTold();
+};
+
+void TestShell::cleanup()
+{
+    desktop::applyFontScale(1.0);
+}
+
+void TestShell::recentProjectsAreListed()
+{
+    Desk desk;
+    const QString there = desk.dir.filePath(QStringLiteral("Salt & Oil.vellum"));
+    QFile file(there);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    desk.settings.addRecentProject(there);
+    desk.settings.addRecentProject(desk.dir.filePath(QStringLiteral("gone.vellum")));
+    desk.open();
+    QMenu *menu = desk.menu(QStringLiteral("&Recent Projects"));
+    QVERIFY(menu);
+    QVERIFY(menu->actions().at(0)->text().startsWith(QLatin1String("&1 gone")));
+    QVERIFY(menu->actions().at(1)->text().startsWith(QLatin1String("&2 Salt && Oil")));
+    QTRY_VERIFY(!menu->actions().at(0)->isEnabled());
+    QVERIFY(menu->actions().at(1)->isEnabled());
+
+    for (int i = 0; i < 12; ++i)
+        desk.settings.addRecentProject(desk.dir.filePath(QString::number(i)));
+    QCOMPARE(menu->actions().size(), 8 + 2); // a separator and what clears them
+    QVERIFY(menu->actions().at(0)->text().startsWith(QLatin1String("&1 11")));
+    desk.action("file.clearRecent")->trigger();
+    QCOMPARE(menu->actions().size(), 2);
+    QCOMPARE(desk.settings.recentProjects(), QStringList());
+}
+
+void TestShell::themesAndLanguagesAreTicked()
+{
+    Desk desk;
+    desk.settings.set(app::settings::theme, QStringLiteral("No such theme"));
+    desk.open();
+    const QString themes = QStringLiteral("&Theme");
+    QVERIFY(desk.entry(themes, QStringLiteral("Light"))->isChecked());
+    desk.entry(themes, QStringLiteral("Sepia"))->trigger();
+    QCOMPARE(desk.settings.text(app::settings::theme), QStringLiteral("Sepia"));
+    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(0xfa, 0xf3, 0xe0));
+    desk.settings.set(app::settings::theme, QStringLiteral("Dark")); // as the preferences do
+    QVERIFY(desk.entry(themes, QStringLiteral("Dark"))->isChecked());
+    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(0x1e, 0x1e, 0x1e));
+
+    const QString languages = QStringLiteral("Interface &Language");
+    QCOMPARE(desk.menu(languages)->actions().constFirst()->text(), QStringLiteral("English"));
+    desk.entry(languages, QStringLiteral("Español"))->trigger();
+    QCOMPARE(desk.settings.text(app::settings::language), QStringLiteral("es"));
+    QVERIFY(desk.entry(languages, QStringLiteral("Español"))->isChecked());
+
+    const double size = QApplication::font().pointSizeF();
+    desk.settings.set(app::settings::fontScale, QStringLiteral("2.0"));
+    QCOMPARE(QApplication::font().pointSizeF(), 2 * size);
+    QCOMPARE(desktop::grid(2), 16);
+    desk.settings.set(app::settings::fontScale, QStringLiteral("large"));
+    QVERIFY(QApplication::font().pointSizeF() > size / 3);
+}
+
+void TestShell::layoutsAreKeptUnderTheirNames()
+{
+    Desk desk;
+    desk.open();
+    const QString name = QStringLiteral("Drafts / 100 % & more");
+    const QString menu = QStringLiteral("Appl&y Layout");
+    QVERIFY(!desk.action("view.deleteLayout")->isEnabled());
+    QAction *documents = desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"));
+    documents->trigger();
+    desk.prompts.text = name;
+    desk.action("view.saveLayout")->trigger();
+    documents->trigger();
+    QVERIFY(documents->isChecked());
+    QAction *entry = desk.entry(menu, QStringLiteral("Drafts / 100 % && more"));
+    QVERIFY(entry);
+    entry->trigger();
+    QVERIFY(!documents->isChecked());
+
+    desk.action("view.resetLayout")->trigger();
+    QVERIFY(documents->isChecked());
+    desk.action("view.saveLayout")->trigger(); // asks, and the answer is no
+    QCOMPARE(desk.prompts.questions.size(), 1);
+    desk.open(); // the next session
+    desk.entry(menu, QStringLiteral("Drafts / 100 % && more"))->trigger();
+    QVERIFY(!desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->isChecked());
+    desk.action("view.deleteLayout")->trigger();
+    QVERIFY(!desk.menu(menu)->menuAction()->isEnabled());
+}
+
+void TestShell::aLayoutThatDoesNotFitGivesTheFirst_data()
+{
+    QTest::addColumn<int>("cut"); // bytes left, -1 for all
+    QTest::addColumn<int>("flipped");
+    QTest::newRow("nothing") << 0 << -1;
+    QTest::newRow("a check and no state") << 20 << -1;
+    QTest::newRow("half") << 200 << -1;
+    QTest::newRow("a bit of the state") << -1 << 60;
+    QTest::newRow("a bit of the check") << -1 << 3;
+}
+
+void TestShell::aLayoutThatDoesNotFitGivesTheFirst()
+{
+    QFETCH(int, cut);
+    QFETCH(int, flipped);
+    Desk desk;
+    desk.open();
+    desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->trigger();
+    desk.window->close();
+    const QString key = QStringLiteral("general/layout");
+    QByteArray state = desk.settings.bytes(key);
+    QVERIFY(state.size() > 200);
+    if (cut >= 0)
+        state.truncate(cut);
+    if (flipped >= 0)
+        state[flipped] = char(state[flipped] ^ 4);
+    desk.settings.setBytes(key, state);
+    desk.open();
+    QVERIFY(desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->isChecked());
+    QVERIFY(desk.entry(QStringLiteral("&View"), QStringLiteral("Editor"))->isChecked());
+}
+
+void TestShell::windowsAreBroughtBack_data()
+{
+    QTest::addColumn<QRect>("frame");
+    QTest::addColumn<bool>("stays");
+    QTest::newRow("on the second screen") << QRect(1400, 100, 300, 300) << true;
+    QTest::newRow("partly out") << QRect(1180, 500, 300, 300) << true;
+    QTest::newRow("its title above the screen") << QRect(100, -200, 300, 300) << false;
+    QTest::newRow("of a screen that is gone") << QRect(5000, 100, 300, 300) << false;
+    QTest::newRow("a sliver at the edge") << QRect(-290, 100, 300, 300) << false;
+    QTest::newRow("larger than the screen") << QRect(9000, 0, 4000, 4000) << false;
+}
+
+void TestShell::windowsAreBroughtBack()
+{
+    QFETCH(QRect, frame);
+    QFETCH(bool, stays);
+    const QRect first(0, 0, 1280, 800);
+    const QRect reachable = desktop::reachableFrame(frame, {first, QRect(1280, 0, 1280, 800)});
+    if (stays)
+        QCOMPARE(reachable, frame);
+    else
+        QVERIFY(first.contains(reachable));
+}
+
+void TestShell::ownKeysStandOverBuiltInOnes_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("keys");
+    QTest::newRow("a key") << "Ctrl+Alt+J"
+                           << "Ctrl+Alt+J";
+    QTest::newRow("two strokes") << "Ctrl+K, Ctrl+P"
+                                 << "Ctrl+K, Ctrl+P";
+    QTest::newRow("none") << ""
+                          << "";
+    QTest::newRow("nonsense") << "Ctrl+Nonsense"
+                              << "Ctrl+P";
+}
+
+void TestShell::ownKeysStandOverBuiltInOnes()
+{
+    QFETCH(QString, entry);
+    QFETCH(QString, keys);
+    Desk desk;
+    desk.settings.set(QStringLiteral("shortcuts/file.quickOpen"), entry);
+    desk.settings.set(QStringLiteral("shortcuts/no.such.action"), QStringLiteral("Ctrl+S"));
+    desk.open();
+    QCOMPARE(desk.action("file.quickOpen")->shortcut().toString(), keys);
+    QCOMPARE(desk.action("file.save")->shortcut(), QKeySequence(QKeySequence::Save));
+}
+
+void TestShell::keysAreTakenAndGivenBack()
+{
+    Desk desk;
+    desktop::ActionRegistry actions(desk.settings);
+    const QKeySequence taken(QStringLiteral("Ctrl+P"));
+    QCOMPARE(actions.userOf(taken, "edit.find"), actions["file.quickOpen"]);
+    actions.setKeys("edit.find", taken);
+    QCOMPARE(actions["edit.find"]->shortcuts(), QList{taken});
+    QVERIFY(actions["file.quickOpen"]->shortcuts().isEmpty());
+    actions.setKeys("help.about", taken); // from an action with keys of its own
+    QVERIFY(actions["edit.find"]->shortcuts().isEmpty());
+    actions.resetKeys("help.about");
+    QVERIFY(!desk.settings.contains(QStringLiteral("shortcuts/help.about")));
+    QCOMPARE(actions["file.quickOpen"]->shortcuts(), QList{taken});
+    actions.resetAllKeys();
+    QCOMPARE(actions["edit.find"]->shortcut(), QKeySequence(QKeySequence::Find));
+}
+
+void TestShell::theToolBarShowsWhatTheSettingsSay()
+{
+    Desk desk;
+    desk.settings.set(QStringLiteral("toolbars/file.open"), QStringLiteral("0"));
+    desk.settings.set(QStringLiteral("toolbars/file.save"), QStringLiteral("damaged"));
+    desk.settings.set(QStringLiteral("toolbars/edit.undo"), QString());
+    desk.open();
+    const auto *bar = desk.window->findChild<QToolBar *>(QStringLiteral("primaryToolBar"));
+    QVERIFY(bar);
+    QCOMPARE(bar->windowTitle(), QStringLiteral("Main"));
+    QVERIFY(!bar->actions().contains(desk.action("file.open")));
+    QVERIFY(bar->actions().contains(desk.action("file.save")));
+    QVERIFY(bar->actions().contains(desk.action("edit.undo")));
+    for (const desktop::ToolBarRow &row : desktop::toolBarCatalogue()) {
+        QVERIFY2(!desk.action(row.id)->icon().isNull(), row.id);
+        desk.settings.set(desktop::toolBarKey(row.id), QStringLiteral("0"));
+    }
+    QVERIFY(bar->actions().isEmpty()); // no separators are left over
+    desk.settings.set(QStringLiteral("toolbars/file.open"), QStringLiteral("1"));
+    QCOMPARE(bar->actions().size(), 1);
+}
+
+void TestShell::mnemonicsAreTold_data()
+{
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("twice"); // letters that two fixed entries share
+    QTest::newRow("the bar") << ""
+                             << "";
+    QTest::newRow("File") << "&File"
+                          << "l";
+    QTest::newRow("Import") << "&Import"
+                            << "";
+    QTest::newRow("Export") << "&Export"
+                            << "";
+    QTest::newRow("Edit") << "&Edit"
+                          << "rp";
+    QTest::newRow("View") << "&View"
+                          << "d";
+    QTest::newRow("AI") << "&AI"
+                        << "scmg";
+    QTest::newRow("Help") << "&Help"
+                          << "";
+}
+
+void TestShell::mnemonicsAreTold()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, twice);
+    Desk desk;
+    desk.open();
+    QHash<QChar, QString> known;
+    const QWidget *holder = desk.window->menuBar();
+    if (!menu.isEmpty())
+        holder = desk.menu(menu);
+    QVERIFY(holder && holder->actions().size() > 2);
+    for (const QAction *action : holder->actions()) {
+        const QChar letter = mnemonicOf(action->text());
+        if (letter.isNull())
+            continue;
+        QVERIFY2(!known.contains(letter) || twice.contains(letter),
+                 qPrintable(action->text() + u'/' + known.value(letter)));
+        known.insert(letter, action->text());
+    }
+}
+
+QTEST_MAIN(TestShell)
+#include "tst_shell.moc"
