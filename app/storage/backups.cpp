@@ -90,6 +90,12 @@ QStringList Backups::list(const QString &baseName) const
     return paths;
 }
 
+QDateTime Backups::timeOf(const QString &path, const QString &baseName)
+{
+    const std::optional<Stamp> stamp = stampIn(QFileInfo(path).fileName(), baseName);
+    return stamp ? stamp->time : QDateTime();
+}
+
 QString Backups::newName(const QString &baseName) const
 {
     Stamp stamp{m_now().toUTC(), 0};

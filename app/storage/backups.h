@@ -35,6 +35,8 @@ public:
 
     /// Full paths of the backups with this base name, oldest first.
     QStringList list(const QString &baseName) const;
+    /// When a backup of the list was made, in UTC.
+    static QDateTime timeOf(const QString &path, const QString &baseName);
 
 private:
     template<typename Content>

@@ -81,6 +81,23 @@ Result<BundleSource> BundleSource::ofFolder(const QString &folder)
     return source;
 }
 
+Result<BundleSource> BundleSource::ofFiles(const QString &folder, std::vector<QByteArray> paths,
+                                           ProjectFiles files)
+{
+    BundleSource source;
+    source.m_folder = folder;
+    source.m_files = std::move(files);
+    for (QByteArray &path : paths)
+        source.m_items.push_back({std::move(path)});
+    for (const ProjectFile &file : source.m_files)
+        source.m_items.push_back({file.path.toUtf8(), int(&file - source.m_files.data())});
+    std::sort(source.m_items.begin(), source.m_items.end(),
+              [](const Item &a, const Item &b) { return a.path < b.path; });
+    if (const Result<> checked = source.checkItems(); !checked)
+        return checked.asFailure();
+    return source;
+}
+
 Result<BundleSource> BundleSource::ofProject(ProjectFiles files, const QString &folder,
                                              const QStringList &readPaths)
 {

@@ -41,6 +41,10 @@ class BundleSource
 public:
     /// Every file under the folder; "project.json" must be among them.
     static Result<BundleSource> ofFolder(const QString &folder);
+    /// These files of the folder, by their paths in it, and those in memory, "project.json" among
+    /// either.
+    static Result<BundleSource> ofFiles(const QString &folder, std::vector<QByteArray> paths,
+                                        ProjectFiles files);
     /// The files in memory, which are all of the model's, and from the folder those that are not
     /// made from the model: "assets/" and whatever else lies there. Left out are files of ids that
     /// are gone, and `readPaths`, the paths that the project was read from. An empty folder name

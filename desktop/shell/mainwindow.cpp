@@ -6,6 +6,7 @@
 #include "desktop/shell/maintoolbar.h"
 #include "desktop/shell/notices.h"
 #include "desktop/shell/panelhost.h"
+#include "desktop/shell/projectcare.h"
 #include "desktop/shell/safekeeping.h"
 #include "desktop/shell/windowmenus.h"
 #include "desktop/widgets/elidedlabel.h"
@@ -60,6 +61,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
     connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
     m_safeKeeping = std::make_unique<SafeKeeping>(m_workspace);
+    m_care = std::make_unique<ProjectCare>(
+        PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, m_flows, this);
     updateTitle();
     updateSteps();
     restoreWindow();

@@ -15,6 +15,7 @@ class ElidedLabel;
 class Layouts;
 class Notices;
 class PanelHost;
+class ProjectCare;
 class SafeKeeping;
 
 /// The window: puts the project, the panels, the menus and the flows together.
@@ -57,6 +58,7 @@ private:
     PanelHost *m_panels = nullptr;
     Layouts *m_layouts = nullptr;
     std::unique_ptr<SafeKeeping> m_safeKeeping;
+    std::unique_ptr<ProjectCare> m_care;
     ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
     bool m_tellsFailure = false;        ///< the save that runs was asked for by the user
 };

@@ -43,6 +43,15 @@ QColor mix(const QColor &over, const QColor &under, double amount)
                   channel(over.blue(), under.blue()));
 }
 
+DifferenceColours differenceColours(const QPalette &palette)
+{
+    // Red and green of one lightness, laid over the ground so thinly that the text stands out.
+    constexpr double amount = 0.28;
+    const QColor base = palette.color(QPalette::Base);
+    return {mix(QColor(0xd0, 0x3a, 0x3a), base, amount),
+            mix(QColor(0x1f, 0x96, 0x4a), base, amount)};
+}
+
 QPalette paletteOf(const Theme &theme)
 {
     QPalette palette;

@@ -38,4 +38,12 @@ inline constexpr double quietAmount = 0.72;
 /// A colour between the two: all of `over` at 1, all of `under` at 0.
 QColor mix(const QColor &over, const QColor &under, double amount);
 
+/// The grounds of lines that went and lines that came, as far from the text as is legible.
+struct DifferenceColours
+{
+    QColor removed;
+    QColor added;
+};
+DifferenceColours differenceColours(const QPalette &palette);
+
 } // namespace vl::desktop

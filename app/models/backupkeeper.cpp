@@ -1,0 +1,162 @@
+#include "app/models/backupkeeper.h"
+
+#include "app/base/wordcount.h"
+#include "app/models/workspace.h"
+#include "app/storage/projectwriter.h"
+#include "app/text/manuscript.h"
+#include "core/content/document.h"
+
+#include <QtConcurrent/QtConcurrentRun>
+
+namespace vl::app {
+
+namespace {
+
+constexpr int hourMilliseconds = 60 * 60 * 1000;
+/// How often a folder is read again when a save came between.
+constexpr int tries = 3;
+
+/// Makes a backup; of a folder that was being saved meanwhile another one, since the first may hold
+/// some of its files as they were before and some as they were after.
+Result<std::optional<BackupInfo>> addUndisturbed(const AutoBackups &backups,
+                                                 const BackupContent &content, BackupReason reason,
+                                                 const std::atomic<int> &saves)
+{
+    Result<std::optional<BackupInfo>> first = std::optional<BackupInfo>();
+    for (int i = 0; i < tries; ++i) {
+        const int before = saves;
+        Result<std::optional<BackupInfo>> made = backups.add(content, reason);
+        if (i == 0 || !made || *made)
+            first = std::move(made);
+        if (!first || before == saves)
+            break;
+    }
+    return first;
+}
+
+} // namespace
+
+BackupSummary summarizeBackup(const core::Project &project)
+{
+    BackupSummary summary;
+    for (const core::Document *document : project.all<core::Document>()) {
+        ++summary.documents;
+        if (document->documentKind() != core::DocumentKind::Note
+            && !project.documentTree().hasChildren(document->id()))
+            ++summary.scenes;
+    }
+    for (const ManuscriptEntry &entry : readManuscript(project).entries)
+        summary.words += countWords(entry.text);
+    return summary;
+}
+
+BackupKeeper::BackupKeeper(Workspace &workspace, StorageLocations locations, QObject *parent)
+    : QObject(parent)
+    , m_workspace(workspace)
+    , m_locations(std::move(locations))
+    , m_saves(std::make_shared<std::atomic<int>>(0))
+{
+    m_pool.setMaxThreadCount(1);
+    connect(&workspace, &Workspace::projectReplaced, this, [this] {
+        leave();
+        enter();
+    });
+    connect(&workspace, &Workspace::locationChanged, this, [this] {
+        if (m_workspace.current().path() != m_path || !m_workspace.current().hasLocation()) {
+            leave();
+            enter();
+        }
+    });
+    connect(&workspace, &Workspace::flushRequested, this, [this] { ++*m_saves; });
+    connect(&workspace, &Workspace::saved, this, [this] {
+        ++*m_saves;
+        m_savedSince = true;
+        lookAtDay();
+    });
+    m_hourly.setInterval(hourMilliseconds);
+    connect(&m_hourly, &QTimer::timeout, this, &BackupKeeper::lookAtDay);
+    m_hourly.start();
+    enter();
+}
+
+BackupKeeper::~BackupKeeper()
+{
+    m_workspace.current().finishSaving();
+    leave();
+    finish();
+}
+
+AutoBackups BackupKeeper::backups() const
+{
+    return {m_workspace.current().path(), m_locations, &summarizeBackup};
+}
+
+void BackupKeeper::finish()
+{
+    m_pool.waitForDone();
+}
+
+void BackupKeeper::leave()
+{
+    if (!m_path.isEmpty() && m_savedSince)
+        run(m_path, {m_path, {}}, BackupReason::Closed);
+    m_path.clear();
+}
+
+void BackupKeeper::enter()
+{
+    m_savedSince = false;
+    const OpenProject &project = m_workspace.current();
+    if (!project.hasLocation())
+        return;
+    m_path = project.path();
+    run(m_path, {m_path, {}}, BackupReason::Opened);
+}
+
+void BackupKeeper::lookAtDay()
+{
+    // Any other day will do: a clock that is set back makes no backups fail to appear.
+    if (!m_path.isEmpty() && m_savedSince && m_locations.now().date() != m_lastDay)
+        run(m_path, {m_path, {}}, BackupReason::Daily);
+}
+
+void BackupKeeper::backUpNow()
+{
+    m_workspace.flush();
+    const OpenProject &project = m_workspace.current();
+    if (!project.hasLocation())
+        return;
+    BackupContent content{project.path(), {}};
+    if (project.isDirty()) {
+        content.path = project.folder();
+        serializeProject(project.project(),
+                         [&content](const QString &path, const QByteArray &bytes) {
+                             content.files.push_back({path, bytes});
+                         });
+    }
+    run(project.path(), std::move(content), BackupReason::ByHand);
+}
+
+void BackupKeeper::run(const QString &projectPath, BackupContent content, BackupReason reason)
+{
+    m_savedSince = m_savedSince && reason == BackupReason::ByHand;
+    m_lastDay = m_locations.now().date();
+    const AutoBackups backups(projectPath, m_locations, &summarizeBackup);
+    QtConcurrent::run(&m_pool, [backups, content = std::move(content), reason, saves = m_saves] {
+        return addUndisturbed(backups, content, reason, *saves);
+    }).then(this, [this, reason](const Result<std::optional<BackupInfo>> &result) {
+        report(reason, result);
+    });
+}
+
+void BackupKeeper::report(BackupReason reason, const Result<std::optional<BackupInfo>> &result)
+{
+    if (!result)
+        Q_EMIT failed(reason, result.message());
+    else if (*result)
+        Q_EMIT made(reason);
+    else
+        Q_EMIT unchanged(reason);
+}
+
+} // namespace vl::app

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace vl::app {
+
+/// One line of two texts held against each other.
+struct DifferenceLine
+{
+    enum class Kind
+    {
+        Same,
+        Removed, ///< only in the first text
+        Added,   ///< only in the second
+        Skipped  ///< stands for same lines that are left out; its text is empty
+    };
+
+    Kind kind = Kind::Same;
+    QString text; ///< without its end
+
+    bool operator==(const DifferenceLine &) const = default;
+};
+
+/// The lines of both texts in order, removed ones before those that took their place. Of same lines
+/// only so many next to a difference are told; a negative number tells all.
+std::vector<DifferenceLine> differenceLines(const QString &before, const QString &after,
+                                            int context = -1);
+
+} // namespace vl::app

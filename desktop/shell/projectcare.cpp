@@ -1,0 +1,110 @@
+#include "desktop/shell/projectcare.h"
+
+#include "app/models/backupoperations.h"
+#include "app/models/projectflows.h"
+#include "app/models/prompts.h"
+#include "app/models/workspace.h"
+#include "desktop/actions/actionregistry.h"
+#include "desktop/dialogs/backupsdialog.h"
+#include "desktop/dialogs/restoredocumentdialog.h"
+#include "desktop/shell/notices.h"
+
+#include <QtCore/QFileInfo>
+
+namespace vl::desktop {
+
+ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, QWidget *window)
+    : m_context(context)
+    , m_flows(flows)
+    , m_window(window)
+    , m_backups(context.workspace, app::StorageLocations::standard())
+{
+    listen();
+    context.actions.bind("file.backUp", this, &ProjectCare::backUpNow);
+    context.actions.bind("file.backups", this, &ProjectCare::showBackups);
+}
+
+ProjectCare::~ProjectCare() = default;
+
+void ProjectCare::listen()
+{
+    connect(&m_backups, &app::BackupKeeper::made, this, [this](app::BackupReason reason) {
+        if (reason == app::BackupReason::ByHand)
+            m_context.notices.show(tr("The project is backed up."), tr("Show Backups"),
+                                   [this] { showBackups(); });
+        if (m_list)
+            m_list->refresh();
+    });
+    connect(&m_backups, &app::BackupKeeper::unchanged, this, [this](app::BackupReason reason) {
+        if (reason == app::BackupReason::ByHand)
+            m_context.notices.show(tr("The newest backup holds the same already."),
+                                   tr("Show Backups"), [this] { showBackups(); });
+    });
+    connect(&m_backups, &app::BackupKeeper::failed, this,
+            [this](app::BackupReason reason, const QString &message) {
+                if (reason == app::BackupReason::ByHand)
+                    m_context.prompts.showError(tr("Back Up Project"), message);
+                else
+                    m_context.notices.ask(QStringLiteral("backupFailed"),
+                                          tr("No backup was made: %1").arg(message),
+                                          {{tr("Show Backups"), [this] { showBackups(); }}});
+            });
+}
+
+void ProjectCare::backUpNow()
+{
+    // A project without a place has nothing that a backup could stand for.
+    if (m_context.workspace.current().hasLocation() || m_flows.saveAs())
+        m_backups.backUpNow();
+}
+
+void ProjectCare::showBackups()
+{
+    if (!m_context.workspace.current().hasLocation() && !m_flows.saveAs())
+        return;
+    BackupsDialog dialog(m_backups.backups(), m_window);
+    m_list = &dialog;
+    QString copied;
+    connect(&dialog, &BackupsDialog::backUpRequested, this, &ProjectCare::backUpNow);
+    connect(&dialog, &BackupsDialog::restoreDocumentRequested, this, &ProjectCare::restoreDocument);
+    connect(&dialog, &BackupsDialog::openCopyRequested, &dialog, [&](const QString &path) {
+        copied = path;
+        dialog.accept();
+    });
+    dialog.exec();
+    if (!copied.isEmpty())
+        openCopy(copied);
+}
+
+void ProjectCare::openCopy(const QString &backupPath)
+{
+    const QString target = m_context.prompts.chooseBundleToSave(
+        tr("%1 (backup)").arg(m_context.workspace.current().name()));
+    if (target.isEmpty())
+        return;
+    if (const app::Result<> copied = app::copyBackup(backupPath, target); !copied)
+        m_context.prompts.showError(tr("Open a Copy"), copied.message());
+    else
+        m_flows.openHere(target);
+}
+
+void ProjectCare::restoreDocument(const QString &backupPath)
+{
+    const app::Result<std::unique_ptr<core::Project>> backup = app::loadBackup(backupPath);
+    if (!backup) {
+        m_context.prompts.showError(tr("Backups"), backup.message());
+        return;
+    }
+    m_context.workspace.flush();
+    app::BackupOperations operations(m_context.workspace);
+    RestoreDocumentDialog dialog(operations.documents(**backup),
+                                 m_list ? static_cast<QWidget *>(m_list) : m_window);
+    if (dialog.exec() != QDialog::Accepted || !operations.restore(**backup, dialog.chosen()))
+        return;
+    m_context.workspace.select(dialog.chosen());
+    m_context.notices.offerUndo(tr("The document is restored."));
+    if (m_list)
+        m_list->accept();
+}
+
+} // namespace vl::desktop

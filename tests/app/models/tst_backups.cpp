@@ -1,0 +1,475 @@
+#include "app/models/backupkeeper.h"
+#include "app/models/backupoperations.h"
+#include "app/models/backupsmodel.h"
+#include "app/models/textdifference.h"
+#include "app/models/workspace.h"
+#include "app/storage/autobackups.h"
+#include "core/commands/documentcommands.h"
+#include "core/commands/objectcommands.h"
+#include "tests/support/folders.h"
+#include "tests/support/projectbuilder.h"
+
+#include <QtTest/QtTest>
+
+using namespace vl;
+using namespace vl::app;
+using namespace vl::test;
+
+Q_DECLARE_METATYPE(vl::app::BackupReason)
+
+class TestBackups : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void thinsByAge_data();
+    void thinsByAge();
+    void clockThatJumps_data();
+    void clockThatJumps();
+    void namesAreMatchedWhole();
+    void leavesTheOthersAlone();
+    void keepsNothingThatCannotBeReadBack_data();
+    void keepsNothingThatCannotBeReadBack();
+    void folderWithoutWhatIsHidden();
+    void listsAndCounts();
+    void madeWhenOpenedSavedAndClosed_data();
+    void madeWhenOpenedSavedAndClosed();
+    void byHandHoldsWhatIsNotSaved();
+    void restoresADocument_data();
+    void restoresADocument();
+    void differences_data();
+    void differences();
+
+private:
+    QString at(const QString &name) const { return m_folder->filePath(name); }
+    AutoBackups backups(const QString &path) const { return {path, m_locations, &summarizeBackup}; }
+    /// Puts a state of the project there that differs from the one before.
+    void change(const QString &folder)
+    {
+        putFile(folder + QStringLiteral("/notes.txt"), QByteArray::number(++m_changes));
+    }
+    BackupInfo made(const QString &folder, BackupReason reason = BackupReason::Opened);
+    QStringList daysKept(const QString &folder) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    StorageLocations m_locations;
+    QDateTime m_now;
+    int m_changes = 0;
+};
+
+void TestBackups::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
+                                               + QStringLiteral("/bäckups of a test-XXXXXX"));
+    QVERIFY(m_folder->isValid());
+    m_now = QDateTime(QDate(2024, 5, 6), QTime(12, 0), Qt::UTC);
+    m_locations.root = at(QStringLiteral("data"));
+    m_locations.now = [this] { return m_now; };
+}
+
+BackupInfo TestBackups::made(const QString &folder, BackupReason reason)
+{
+    change(folder);
+    const Result<std::optional<BackupInfo>> result = backups(folder).add({folder, {}}, reason);
+    if (!result || !*result)
+        qFatal("%s", qPrintable(result ? QStringLiteral("unchanged") : result.message()));
+    return **result;
+}
+
+QStringList TestBackups::daysKept(const QString &folder) const
+{
+    QStringList days;
+    for (const BackupInfo &backup : backups(folder).list())
+        days.append(backup.time.toString(QStringLiteral("MM-dd HH")));
+    return days;
+}
+
+void TestBackups::thinsByAge_data()
+{
+    QTest::addColumn<int>("hours"); // between two backups
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("kept"); // month, day and hour;
+
+    QTest::newRow("all within the last five")
+        << 1 << 5 << "05-06 16, 05-06 15, 05-06 14, 05-06 13, 05-06 12";
+    QTest::newRow("many in one day")
+        << 1 << 9 << "05-06 20, 05-06 19, 05-06 18, 05-06 17, 05-06 16";
+    // 4 a day for 4 days: the last five, then the last one of each day.
+    QTest::newRow("some days")
+        << 6 << 16
+        << "05-10 06, 05-10 00, 05-09 18, 05-09 12, 05-09 06, 05-08 18, 05-07 18, 05-06 18";
+    // One a day for 40 days: a week of days, then a week of each.
+    QTest::newRow("weeks") << 24 << 40
+                           << "06-14 12, 06-13 12, 06-12 12, 06-11 12, 06-10 12, 06-09 12, 06-08 "
+                              "12, 06-02 12, 05-26 12, 05-19 12, 05-12 12";
+    // One in ten days for 200: the last five, and those within two months.
+    QTest::newRow("months")
+        << 240 << 20 << "11-12 12, 11-02 12, 10-23 12, 10-13 12, 10-03 12, 09-23 12, 09-13 12";
+}
+
+void TestBackups::thinsByAge()
+{
+    QFETCH(int, hours);
+    QFETCH(int, count);
+    QFETCH(QString, kept);
+    const QString folder = at(QStringLiteral("novel"));
+    for (int i = 0; i < count; ++i) {
+        if (i > 0)
+            m_now = m_now.addSecs(qint64(hours) * 3600);
+        made(folder);
+    }
+    QCOMPARE(daysKept(folder).join(QStringLiteral(", ")), kept);
+    // Each backup has its summary beside it, and nothing else stays.
+    QCOMPARE(namesIn(backups(folder).folder()).size(), 2 * daysKept(folder).size());
+}
+
+void TestBackups::clockThatJumps_data()
+{
+    QTest::addColumn<QDateTime>("wrong");
+    QTest::addColumn<int>("withWrongClock");
+    QTest::addColumn<int>("lost"); // of the seven that stood before
+    const QDateTime past(QDate(1975, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime future(QDate(2099, 1, 1), QTime(0, 0), Qt::UTC);
+    QTest::newRow("years back") << past << 3 << 0;
+    QTest::newRow("years ahead for one backup") << future << 1 << 2;
+    QTest::newRow("no time at all") << QDateTime() << 3 << 0;
+}
+
+void TestBackups::clockThatJumps()
+{
+    QFETCH(QDateTime, wrong);
+    QFETCH(int, withWrongClock);
+    QFETCH(int, lost);
+    const QString folder = at(QStringLiteral("novel"));
+    QStringList before;
+    for (int i = 0; i < 7; ++i) {
+        before.append(made(folder).path);
+        m_now = m_now.addDays(1);
+    }
+    const QDateTime right = m_now;
+    m_now = wrong;
+    QString newest;
+    for (int i = 0; i < withWrongClock; ++i)
+        newest = made(folder).path;
+    // The newest is the one made last, whatever the clock says.
+    QCOMPARE(backups(folder).list().front().path, newest);
+    m_now = right;
+    int gone = 0;
+    for (const QString &path : before)
+        gone += !QFile::exists(path);
+    QCOMPARE(gone, lost);
+    QVERIFY(!backups(folder).list().front().time.isValid() || wrong < right);
+    newest = made(folder).path;
+    QCOMPARE(backups(folder).list().front().path, newest);
+}
+
+void TestBackups::namesAreMatchedWhole()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    const BackupInfo backup = made(folder);
+    const QString place = backups(folder).folder() + u'/';
+    const QString name = QFileInfo(backup.path).fileName();
+    for (const QString &other :
+         {name + QStringLiteral("~"), QStringLiteral("my ") + name,
+          QString(name).replace(QStringLiteral("-000001-"), QStringLiteral("-00001a-")),
+          QString(name).replace(QStringLiteral("20240506"), QStringLiteral("20240536")),
+          QString(name).replace(QStringLiteral("-opened"), QStringLiteral("-opened\n"))})
+        putFile(place + other, "mine");
+    QCOMPARE(backups(folder).list().size(), 1U);
+    for (int i = 0; i < 8; ++i)
+        made(folder);
+    QCOMPARE(fileBytes(place + name + QStringLiteral("~")), QByteArray("mine"));
+}
+
+void TestBackups::leavesTheOthersAlone()
+{
+    // Two projects of one name, the backups of what was replaced, and those made by hand.
+    const QString first = at(QStringLiteral("a/novel"));
+    const QString second = at(QStringLiteral("b/novel"));
+    made(second);
+    for (int i = 0; i < 15; ++i) {
+        putFile(first + QStringLiteral("/project.json"), "{}");
+        QVERIFY(m_locations.backups().addFolder(QStringLiteral("novel"), first));
+    }
+    made(first, BackupReason::ByHand);
+    for (int i = 0; i < 20; ++i) {
+        m_now = m_now.addDays(30);
+        made(first);
+    }
+    QCOMPARE(m_locations.backups().list(QStringLiteral("novel")).size(), 15);
+    QCOMPARE(backups(second).list().size(), 1U + 15U);
+    int byHand = 0;
+    for (const BackupInfo &backup : backups(first).list())
+        byHand += backup.reason == BackupReason::ByHand;
+    QCOMPARE(byHand, 1);
+}
+
+void TestBackups::keepsNothingThatCannotBeReadBack_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("a file that is no JSON") << "objects/0f8b2a34-5c6d-4e7f-8a9b-0c1d2e3f4a5b.json"
+                                            << QByteArray("half a fi") << "Invalid JSON in file: ";
+    QTest::newRow("records that are none")
+        << "project.json" << QByteArray("[]") << "Invalid JSON in file: ";
+}
+
+void TestBackups::keepsNothingThatCannotBeReadBack()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, message);
+    const QString folder = at(QStringLiteral("novel"));
+    const BackupInfo good = made(folder);
+    putFile(folder + u'/' + path, bytes);
+    const Result<std::optional<BackupInfo>> result =
+        backups(folder).add({folder, {}}, BackupReason::Daily);
+    QVERIFY(!result);
+    QVERIFY2(result.message().startsWith(message), qPrintable(result.message()));
+    QCOMPARE(backups(folder).list().size(), 1U);
+    QCOMPARE(namesIn(backups(folder).folder()).size(), 2);
+
+    // Neither does a place that cannot be written to cost the ones there are.
+    QFile::remove(folder + u'/' + path);
+    putFile(at(QStringLiteral("data2")), "a file in the folder's place");
+    m_locations.root = at(QStringLiteral("data2"));
+    QVERIFY(!backups(folder).add({folder, {}}, BackupReason::Daily));
+}
+
+void TestBackups::folderWithoutWhatIsHidden()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    putFiles(folder, {{QStringLiteral(".git/objects/aa"), "blob"},
+                      {QStringLiteral("assets/map.png"), "picture"}});
+    QVERIFY(QFile::link(at(QStringLiteral("nowhere")), folder + QStringLiteral("/link")));
+    const BackupInfo backup = made(folder); // it has no records either
+    const QString copy = at(QStringLiteral("copy.vellum"));
+    QVERIFY(copyBackup(backup.path, copy));
+    QVERIFY(extractBundle(copy, at(QStringLiteral("unpacked"))));
+    QCOMPARE(QStringList(filesUnder(at(QStringLiteral("unpacked"))).keys()),
+             (QStringList{QStringLiteral("assets/map.png"), QStringLiteral("notes.txt"),
+                          QStringLiteral("project.json")}));
+}
+
+void TestBackups::listsAndCounts()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    Workspace workspace;
+    const auto add = [&](core::DocumentKind kind, const QString &body, core::ContentId parent) {
+        auto document = std::make_unique<core::Document>(core::ContentId::create(), kind, body);
+        document->setBody(body);
+        document->setParentId(parent);
+        const core::ContentId id = document->id();
+        workspace.push<core::AddObjectCommand>(workspace.project(), std::move(document));
+        return id;
+    };
+    const core::ContentId chapter = add(core::DocumentKind::Prose, QStringLiteral("one two"), {});
+    add(core::DocumentKind::Prose, QStringLiteral("three"), chapter);
+    add(core::DocumentKind::Note, QStringLiteral("not counted as words"), chapter);
+    QVERIFY(workspace.current().saveAsFolder(folder));
+    made(folder);
+    m_now = m_now.addDays(1);
+    const BackupInfo damaged = made(folder, BackupReason::ByHand);
+    QFile::remove(damaged.path + QStringLiteral(".json"));
+    putFile(damaged.path, "not an archive any more");
+
+    BackupsModel model(backups(folder));
+    QAbstractItemModelTester tester(&model);
+    model.finish();
+    const auto text = [&](int row, int column) {
+        return model.index(row, column).data().toString();
+    };
+    QTRY_COMPARE(text(0, BackupsModel::WordsColumn), QStringLiteral("damaged"));
+    QCOMPARE(text(0, BackupsModel::ReasonColumn), QStringLiteral("By hand"));
+    QTRY_COMPARE(text(1, BackupsModel::WordsColumn), QStringLiteral("3"));
+    QCOMPARE(text(1, BackupsModel::ScenesColumn), QStringLiteral("1"));
+    const Result<BackupSummary> summary = backups(folder).summary(model.backupAt(1));
+    QCOMPARE(summary->documents, 3);
+}
+
+void TestBackups::madeWhenOpenedSavedAndClosed_data()
+{
+    QTest::addColumn<bool>("asBundle");
+    QTest::newRow("folder") << false;
+    QTest::newRow("bundle") << true;
+}
+
+void TestBackups::madeWhenOpenedSavedAndClosed()
+{
+    QFETCH(bool, asBundle);
+    QStandardPaths::setTestModeEnabled(true);
+    const QString path =
+        asBundle ? at(QStringLiteral("novel.vellum")) : at(QStringLiteral("novel"));
+    const auto reasons = [&] {
+        QStringList texts;
+        for (const BackupInfo &backup : backups(path).list())
+            texts.prepend(BackupsModel::reasonText(backup.reason));
+        return texts;
+    };
+    const QStringList opened{QStringLiteral("When opened")};
+    const QStringList daily = opened + QStringList{QStringLiteral("Once a day")};
+    {
+        Workspace workspace;
+        auto keeper = std::make_unique<BackupKeeper>(workspace, m_locations);
+        const auto write = [&](const QString &title) {
+            workspace.push<core::AddObjectCommand>(
+                workspace.project(),
+                std::make_unique<core::Document>(core::ContentId::create(),
+                                                 core::DocumentKind::Prose, title));
+        };
+        write(QStringLiteral("One"));
+        QVERIFY(asBundle ? workspace.current().saveAsBundle(path)
+                         : workspace.current().saveAsFolder(path));
+        keeper->finish();
+        QCOMPARE(reasons(), opened);
+
+        write(QStringLiteral("Two"));
+        QVERIFY(workspace.current().save());
+        keeper->lookAtDay(); // the same day still
+        keeper->finish();
+        QCOMPARE(reasons(), opened);
+        m_now = m_now.addDays(1);
+        keeper->lookAtDay();
+        keeper->finish();
+        QCOMPARE(reasons(), daily);
+
+        write(QStringLiteral("Three"));
+        QVERIFY(workspace.current().save());
+        keeper.reset(); // as the window does when it closes
+        QCOMPARE(reasons(), daily + QStringList{QStringLiteral("When closed")});
+    }
+    // Opened again there is nothing new, and closed neither.
+    Workspace workspace;
+    {
+        BackupKeeper keeper(workspace, m_locations);
+        QSignalSpy unchanged(&keeper, &BackupKeeper::unchanged);
+        auto project = OpenProject::open(path);
+        QVERIFY(project);
+        workspace.replaceProject(*std::move(project));
+        QVERIFY(unchanged.wait());
+    }
+    QCOMPARE(reasons().size(), 3);
+}
+
+void TestBackups::byHandHoldsWhatIsNotSaved()
+{
+    const QString path = at(QStringLiteral("novel"));
+    Workspace workspace;
+    BackupKeeper keeper(workspace, m_locations);
+    QVERIFY(workspace.current().saveAsFolder(path));
+    putFile(path + QStringLiteral("/assets/map.png"), "picture");
+    const auto id = core::ContentId::create();
+    workspace.push<core::AddObjectCommand>(
+        workspace.project(),
+        std::make_unique<core::Document>(id, core::DocumentKind::Prose, QStringLiteral("New")));
+    keeper.backUpNow();
+    keeper.finish();
+    const BackupInfo newest = backups(path).list().front();
+    QCOMPARE(newest.reason, BackupReason::ByHand);
+    const auto kept = loadBackup(newest.path);
+    QVERIFY(kept);
+    QVERIFY((*kept)->contains(id));
+    QVERIFY(workspace.current().isDirty());
+}
+
+void TestBackups::restoresADocument_data()
+{
+    QTest::addColumn<QString>("fate"); // of the document since the backup
+    QTest::addColumn<DocumentStanding>("standing");
+    QTest::newRow("edited") << "edited" << DocumentStanding::Changed;
+    QTest::newRow("deleted") << "deleted" << DocumentStanding::Missing;
+    QTest::newRow("deleted with its parent") << "all deleted" << DocumentStanding::Missing;
+    QTest::newRow("untouched") << "" << DocumentStanding::Same;
+}
+
+void TestBackups::restoresADocument()
+{
+    QFETCH(QString, fate);
+    QFETCH(DocumentStanding, standing);
+    core::Project backup;
+    auto parent = std::make_unique<core::Document>(numberedId(1), core::DocumentKind::Prose,
+                                                   QStringLiteral("Part"));
+    auto child = std::make_unique<core::Document>(numberedId(2), core::DocumentKind::Prose,
+                                                  QStringLiteral("Scene"));
+    child->setParentId(numberedId(1));
+    child->setBody(QStringLiteral("as it was"));
+    Workspace workspace;
+    core::Project &project = workspace.project();
+    for (const auto *document : {parent.get(), child.get()}) {
+        auto copy = std::make_unique<core::Document>(document->id(), document->documentKind(),
+                                                     document->title());
+        copy->setParentId(document->parentId());
+        copy->setBody(document->body());
+        project.add(std::move(copy));
+    }
+    backup.add(std::move(parent));
+    backup.add(std::move(child));
+    auto *scene = project.find<core::Document>(numberedId(2));
+    if (fate == QLatin1String("edited"))
+        workspace.push<core::SetDocumentBodyCommand>(*scene, QStringLiteral("spoilt"));
+    if (fate.contains(QLatin1String("deleted")))
+        workspace.push<core::RemoveObjectCommand>(project, numberedId(2));
+    if (fate == QLatin1String("all deleted"))
+        workspace.push<core::RemoveObjectCommand>(project, numberedId(1));
+
+    BackupOperations operations(workspace);
+    const QList<BackupDocument> documents = operations.documents(backup);
+    QCOMPARE(documents.size(), 2);
+    QCOMPARE(documents.at(1).standing, standing);
+    QCOMPARE(documents.at(1).depth, 1);
+    const qsizetype steps = workspace.history().undoCount();
+    QVERIFY(operations.restore(backup, numberedId(2)));
+    QCOMPARE(workspace.history().undoCount(), steps + 1);
+    const auto *restored = project.find<core::Document>(numberedId(2));
+    QVERIFY(restored);
+    QCOMPARE(restored->body(), QStringLiteral("as it was"));
+    QCOMPARE(restored->parentId().isNull(), fate == QLatin1String("all deleted"));
+    while (workspace.history().canUndo())
+        workspace.undo();
+    QCOMPARE(project.find<core::Document>(numberedId(2))->body(), QStringLiteral("as it was"));
+    while (workspace.history().canRedo())
+        workspace.redo();
+    QCOMPARE(project.find<core::Document>(numberedId(2))->body(), QStringLiteral("as it was"));
+    QVERIFY(!operations.restore(backup, numberedId(9)));
+}
+
+void TestBackups::differences_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("shown"); // "=", "-", "+" or "~" and the line, divided by "|"
+    QTest::newRow("nothing") << ""
+                             << ""
+                             << "";
+    QTest::newRow("all new") << ""
+                             << "a\nb"
+                             << "+a|+b";
+    QTest::newRow("replaced") << "a\nb\nc"
+                              << "a\nx\nc"
+                              << "=a|-b|+x|=c";
+    QTest::newRow("far apart") << "1\n2\n3\n4\n5\n6\n7"
+                               << "0\n2\n3\n4\n5\n6\n8"
+                               << "-1|+0|=2|~|=6|-7|+8";
+    QTest::newRow("one line is not skipped") << "1\n2\n3\n4\n5"
+                                             << "0\n2\n3\n4\n6"
+                                             << "-1|+0|=2|=3|=4|-5|+6";
+    QTest::newRow("only in the middle") << "1\n2\n3\n4\n5\n6\n7"
+                                        << "1\n2\n3\nx\n5\n6\n7"
+                                        << "~|=3|-4|+x|=5|~";
+}
+
+void TestBackups::differences()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, shown);
+    QStringList lines;
+    for (const DifferenceLine &line : differenceLines(before, after, 1))
+        lines.append(QStringLiteral("=-+~").mid(int(line.kind), 1) + line.text);
+    QCOMPARE(lines.join(u'|'), shown);
+}
+
+QTEST_GUILESS_MAIN(TestBackups)
+#include "tst_backups.moc"
