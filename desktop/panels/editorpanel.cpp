@@ -1,16 +1,18 @@
 #include "desktop/panels/editorpanel.h"
 
+#include "app/base/settings.h"
 #include "app/base/wordcount.h"
 #include "app/models/documentoperations.h"
 #include "app/models/workspace.h"
 #include "core/commands/documentcommands.h"
 #include "desktop/actions/actionregistry.h"
+#include "desktop/editor/editorlayout.h"
+#include "desktop/editor/editorpictures.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/widgets/focusring.h"
 
 #include <QtCore/QLocale>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
@@ -29,6 +31,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     , m_pages(new QStackedWidget(this))
     , m_title(new QLabel(this))
     , m_counts(new QLabel(this))
+    , m_pictures(new EditorPictures(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -49,8 +52,11 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     m_pause.setInterval(pauseMilliseconds);
     connect(&m_pause, &QTimer::timeout, this, &EditorPanel::handIn);
     connect(m_text, &QPlainTextEdit::textChanged, this, [this] {
-        m_hasTyped = true;
+        if (!m_live || m_isFollowing)
+            return;
+        m_live->hasTyped = true;
         m_pause.start();
+        updateCounts();
     });
     connect(m_text, &EditorTextWidget::caretJumped, this, &EditorPanel::handIn);
     connect(m_text, &EditorTextWidget::focusLost, this, &EditorPanel::handIn);
@@ -62,8 +68,34 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     connect(&workspace, &app::Workspace::revealRequested, this, &EditorPanel::reveal);
     connect(&workspace, &app::Workspace::changed, this, &EditorPanel::follow);
     connect(&workspace, &app::Workspace::projectReplaced, this, &EditorPanel::forgetProject);
+    connect(&workspace, &app::Workspace::locationChanged, this,
+            [this] { m_pictures->setFolder(m_context.workspace.current().folder()); });
+    connect(&m_context.settings.changes(), &app::SettingsChanges::changed, this,
+            [this](const QString &key) {
+                if (key.startsWith(QLatin1String("editor/")))
+                    restyle();
+            });
     m_context.actions.bind("doc.split", this, &EditorPanel::splitAtCaret);
-    open({});
+    m_text->setPictures(m_pictures);
+    restyle();
+    forgetProject();
+}
+
+EditorPanel::~EditorPanel()
+{
+    m_text->showDocument(nullptr); // before the texts go
+}
+
+void EditorPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        restyle();
+}
+
+void EditorPanel::restyle()
+{
+    m_text->setStyle(std::make_shared<EditorStyle>(m_context.settings, palette()));
 }
 
 void EditorPanel::buildFooter(QLayout *layout)
@@ -82,7 +114,7 @@ void EditorPanel::buildFooter(QLayout *layout)
 
 core::Document *EditorPanel::document() const
 {
-    return m_context.workspace.project().find<core::Document>(m_documentId);
+    return m_context.workspace.project().find<core::Document>(documentId());
 }
 
 void EditorPanel::openSelected()
@@ -95,26 +127,29 @@ void EditorPanel::openSelected()
 
 void EditorPanel::open(const core::ContentId &id)
 {
-    if (!id.isNull() && id == m_documentId)
+    if (m_live && id == m_live->id())
         return;
     handIn();
-    if (!m_documentId.isNull())
-        m_views.insert(m_documentId, {m_text->caret(), m_text->verticalScrollBar()->value()});
+    m_text->notePlace();
+    m_pause.stop();
 
-    m_documentId = id;
-    const core::Document *opened = document();
+    const auto *opened = m_context.workspace.project().find<core::Document>(id);
     m_context.actions["doc.split"]->setEnabled(opened != nullptr);
+    m_live = nullptr;
+    if (opened) {
+        const bool isNew = !m_documents.find(id);
+        LiveDocument *live = m_documents.open(id);
+        if (isNew)
+            live->setText(app::shownText(opened->body()));
+        else if (live->body != opened->body())
+            live->apply(
+                app::difference(app::shownText(live->body), app::shownText(opened->body())));
+        live->body = opened->body();
+        m_live = live;
+    }
+    m_text->showDocument(m_live);
     m_pages->setCurrentIndex(opened ? 1 : 0);
     m_title->setText(opened ? opened->title() : QString());
-    m_body = opened ? opened->body() : QString();
-    m_text->showText(app::shownText(m_body));
-    m_hasTyped = false;
-    m_pause.stop();
-    if (opened) {
-        const View view = m_views.value(id);
-        m_text->setCaret(view.caret);
-        m_text->verticalScrollBar()->setValue(view.scroll);
-    }
     updateCounts();
 }
 
@@ -124,11 +159,8 @@ void EditorPanel::reveal(const core::ContentId &id, qsizetype position, qsizetyp
     const core::Document *shown = document();
     if (!shown)
         return;
-    QTextCursor cursor = m_text->textCursor();
-    cursor.setPosition(int(app::shownPosition(shown->body(), position)));
-    cursor.setPosition(int(app::shownPosition(shown->body(), position + length)),
-                       QTextCursor::KeepAnchor);
-    m_text->setTextCursor(cursor);
+    m_text->select(app::shownPosition(shown->body(), position),
+                   app::shownPosition(shown->body(), position + length));
     m_text->centerCursor();
 }
 
@@ -138,55 +170,54 @@ void EditorPanel::handIn()
         return;
     m_pause.stop();
     core::Document *edited = document();
-    if (!m_hasTyped || !edited)
+    if (!edited || !m_live->hasTyped)
         return;
-    m_hasTyped = false;
-    const QString body = app::bodyAfterEdit(edited->body(), m_text->text());
+    m_live->hasTyped = false;
+    const QString body = app::bodyAfterEdit(edited->body(), m_live->text());
     if (body == edited->body())
         return;
-    m_body = body; // so that the step is not taken for somebody else's
+    m_live->body = body; // so that the step is not taken for somebody else's
     m_context.workspace.push<core::SetDocumentBodyCommand>(*edited, body);
-    updateCounts();
 }
 
 void EditorPanel::follow(const core::ChangeSet &changes)
 {
-    if (!changes.objects().contains(m_documentId))
+    if (!m_live || !changes.objects().contains(m_live->id()))
         return;
     const core::Document *changed = document();
     if (!changed) {
-        m_hasTyped = false;
+        m_live->hasTyped = false;
+        const core::ContentId gone = m_live->id();
         open({});
+        m_documents.remove(gone);
         return;
     }
     m_title->setText(changed->title());
-    if (changed->body() == m_body)
+    if (changed->body() == m_live->body)
         return;
 
-    const QString before = app::shownText(m_body);
+    const QString before = app::shownText(m_live->body);
     const QString after = app::shownText(changed->body());
     const app::TextEdit fromOutside = app::difference(before, after);
-    m_body = changed->body();
-    const bool hasTyped = m_hasTyped;
+    m_live->body = changed->body();
     m_isFollowing = true;
-    if (hasTyped)
-        m_text->apply(app::rebased(fromOutside, app::difference(before, m_text->text())),
-                      EditorTextWidget::Caret::Keep);
-    else
-        m_text->apply(fromOutside, EditorTextWidget::Caret::GoToEdit);
-    m_isFollowing = false;
-    m_hasTyped = hasTyped;
-    if (!hasTyped)
+    if (m_live->hasTyped) {
+        m_live->apply(app::rebased(fromOutside, app::difference(before, m_live->text())));
+    } else {
+        m_text->setTextCursor(m_live->apply(fromOutside));
         m_pause.stop();
+    }
+    m_isFollowing = false;
     updateCounts();
 }
 
 void EditorPanel::forgetProject()
 {
-    m_hasTyped = false;
-    m_documentId = {};
-    m_views.clear();
+    if (m_live)
+        m_live->hasTyped = false;
     open({});
+    m_documents.clear();
+    m_pictures->setFolder(m_context.workspace.current().folder());
 }
 
 void EditorPanel::splitAtCaret()
@@ -197,20 +228,19 @@ void EditorPanel::splitAtCaret()
         return;
     const core::ContentId added =
         app::DocumentOperations(m_context.workspace)
-            .split(m_documentId, app::bodyPosition(cut->body(), m_text->caret()));
+            .split(cut->id(), app::bodyPosition(cut->body(), m_text->caret()));
     if (!added.isNull())
         m_context.workspace.select(added);
 }
 
 void EditorPanel::updateCounts()
 {
-    const core::Document *counted = document();
-    if (!counted) {
+    if (!m_live) {
         m_counts->clear();
         return;
     }
     const QString words =
-        tr("%1 words").arg(QLocale().toString(qlonglong(app::countWords(counted->body()))));
+        tr("%1 words").arg(QLocale().toString(qlonglong(m_live->layout()->wordCount())));
     const QString selected = m_text->textCursor().selectedText();
     m_counts->setText(
         selected.isEmpty()

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/id.h"
+#include "desktop/editor/livedocuments.h"
 #include "desktop/panels/panelcontext.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
@@ -17,6 +17,7 @@ class Document;
 
 namespace vl::desktop {
 
+class EditorPictures;
 class EditorTextWidget;
 
 /// The body of the selected document. What is typed becomes a step of the history at each pause,
@@ -28,15 +29,15 @@ class EditorPanel final : public QWidget
 public:
     EditorPanel(const PanelContext &context, QWidget *parent);
 
-    const core::ContentId &documentId() const { return m_documentId; }
+    ~EditorPanel() override;
+
+    /// The document that is open, null when none is.
+    core::ContentId documentId() const { return m_live ? m_live->id() : core::ContentId(); }
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
-    struct View
-    {
-        int caret = 0;
-        int scroll = 0;
-    };
-
     void buildFooter(QLayout *layout);
     void openSelected();
     void open(const core::ContentId &id);
@@ -46,6 +47,7 @@ private:
     void forgetProject();
     void splitAtCaret();
     void updateCounts();
+    void restyle();
     core::Document *document() const;
 
     PanelContext m_context;
@@ -54,11 +56,10 @@ private:
     QLabel *m_title;
     QLabel *m_counts;
     QTimer m_pause;
-    core::ContentId m_documentId; ///< null while no document is open
-    QString m_body; ///< the model's body that the widget was last brought in step with
-    bool m_hasTyped = false;
-    bool m_isFollowing = false; ///< while the widget takes over a change of the model
-    QHash<core::ContentId, View> m_views;
+    EditorPictures *m_pictures;
+    LiveDocuments m_documents;
+    LiveDocument *m_live = nullptr; ///< the one that is open, null while none is
+    bool m_isFollowing = false;     ///< while the text takes over a change of the model
 };
 
 } // namespace vl::desktop

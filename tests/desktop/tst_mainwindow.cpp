@@ -148,7 +148,7 @@ void TestMainWindow::typingBecomesStepsOfTheHistory()
     // One step back takes what was typed since the pause, whether it was handed in or not.
     QTest::keyClick(desk.text, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(desk.text->text(), QStringLiteral("Once upon"));
-    QCOMPARE(desk.text->caret(), 9);
+    QCOMPARE(desk.text->caret(), qsizetype(9));
     QTest::keyClick(desk.text, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(desk.text->text(), QStringLiteral("Once"));
     QTest::keySequence(desk.text, QKeySequence::Redo);
