@@ -335,12 +335,23 @@
         <source>Connect Claude &amp;Desktop…</source>
         <translation>Connect Claude &amp;Desktop…</translation>
     </message>
+    <message>
+        <source>Bac&amp;kups…</source>
+        <translation>Bac&amp;kups…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
     <message>
         <source>The texts in "%1" must be strings.</source>
         <translation>The texts in "%1" must be strings.</translation>
+    </message>
+</context>
+<context>
+    <name>Languages</name>
+    <message>
+        <source>The interface language will change to “%1” when you restart Ivorel.</source>
+        <translation>The interface language will change to “%1” when you restart Ivorel.</translation>
     </message>
 </context>
 <context>
@@ -557,6 +568,25 @@
     </message>
 </context>
 <context>
+    <name>vl::app::AutoBackups</name>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>The project folder does not exist: %1</translation>
+    </message>
+    <message>
+        <source>The backup does not hold what was written: %1</source>
+        <translation>The backup does not hold what was written: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>Could not create the folder for: %1</translation>
+    </message>
+    <message>
+        <source>There is not enough room for a backup in: %1</source>
+        <translation>There is not enough room for a backup in: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::BackupFolder</name>
     <message>
         <source>Could not create the folder for: %1</source>
@@ -565,6 +595,64 @@
     <message>
         <source>Could not clear the stale working copy: %1</source>
         <translation>Could not clear the stale working copy: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BackupOperations</name>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restore “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BackupsModel</name>
+    <message>
+        <source>When opened</source>
+        <translation>When opened</translation>
+    </message>
+    <message>
+        <source>When closed</source>
+        <translation>When closed</translation>
+    </message>
+    <message>
+        <source>Once a day</source>
+        <translation>Once a day</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>By hand</translation>
+    </message>
+    <message>
+        <source>Before something took its place</source>
+        <translation>Before something took its place</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>damaged</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Made</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Scenes</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
     </message>
 </context>
 <context>
@@ -2155,6 +2243,41 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::BackupsDialog</name>
+    <message>
+        <source>Open a &amp;Copy…</source>
+        <translation>Open a &amp;Copy…</translation>
+    </message>
+    <message>
+        <source>&amp;Restore This Document…</source>
+        <translation>&amp;Restore This Document…</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Backups</translation>
+    </message>
+    <message>
+        <source>Ivorel makes a backup when you open a project, when you close it and once a day, if anything changed.</source>
+        <translation>Ivorel makes a backup when you open a project, when you close it and once a day, if anything changed.</translation>
+    </message>
+    <message>
+        <source>There are no backups of this project yet.</source>
+        <translation>There are no backups of this project yet.</translation>
+    </message>
+    <message>
+        <source>They are in %1</source>
+        <translation>They are in %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>Show &amp;Folder</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up Now</source>
+        <translation>&amp;Back Up Now</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2207,6 +2330,17 @@
     <message>
         <source>Save Project as Folder</source>
         <translation>Save Project as Folder</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>Differences</translation>
+    </message>
+    <message>
+        <source>Both are the same.</source>
+        <translation>Both are the same.</translation>
     </message>
 </context>
 <context>
@@ -2316,34 +2450,64 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::Layouts</name>
+    <message>
+        <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
+        <translation>The layout “%1” cannot be read; the first layout is shown instead.</translation>
+    </message>
+    <message>
+        <source>Deleted the layout “%1”.</source>
+        <translation>Deleted the layout “%1”.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Save Current Layout</source>
+        <translation>Save Current Layout</translation>
+    </message>
+    <message>
+        <source>Name of the layout:</source>
+        <translation>Name of the layout:</translation>
+    </message>
+    <message>
+        <source>There is a layout “%1” already.</source>
+        <translation>There is a layout “%1” already.</translation>
+    </message>
+    <message>
+        <source>The present arrangement takes its place.</source>
+        <translation>The present arrangement takes its place.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>Saved the layout “%1”.</source>
+        <translation>Saved the layout “%1”.</translation>
+    </message>
+    <message>
+        <source>Delete Layout</source>
+        <translation>Delete Layout</translation>
+    </message>
+    <message>
+        <source>Layout to delete:</source>
+        <translation>Layout to delete:</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::MainToolBar</name>
+    <message>
+        <source>Main</source>
+        <translation>Main</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::MainWindow</name>
     <message>
         <source>Saved “%1”.</source>
         <translation>Saved “%1”.</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;File</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Edit</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;View</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Theme</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Help</translation>
-    </message>
-    <message>
-        <source>Main</source>
-        <translation>Main</translation>
     </message>
     <message>
         <source>%1[*] – Ivorel</source>
@@ -2385,22 +2549,6 @@
         <source>Save Project</source>
         <translation>Save Project</translation>
     </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>&amp;Import</translation>
-    </message>
-    <message>
-        <source>&amp;Export</source>
-        <translation>&amp;Export</translation>
-    </message>
-    <message>
-        <source>&amp;Recent Projects</source>
-        <translation>&amp;Recent Projects</translation>
-    </message>
-    <message>
-        <source>&amp;AI</source>
-        <translation>&amp;AI</translation>
-    </message>
 </context>
 <context>
     <name>vl::desktop::NoticeBar</name>
@@ -2414,6 +2562,146 @@
     <message>
         <source>Undo</source>
         <translation>Undo</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ProjectCare</name>
+    <message>
+        <source>The project is backed up.</source>
+        <translation>The project is backed up.</translation>
+    </message>
+    <message>
+        <source>Show Backups</source>
+        <translation>Show Backups</translation>
+    </message>
+    <message>
+        <source>The newest backup holds the same already.</source>
+        <translation>The newest backup holds the same already.</translation>
+    </message>
+    <message>
+        <source>Back Up Project</source>
+        <translation>Back Up Project</translation>
+    </message>
+    <message>
+        <source>No backup was made: %1</source>
+        <translation>No backup was made: %1</translation>
+    </message>
+    <message>
+        <source>%1 (backup)</source>
+        <translation>%1 (backup)</translation>
+    </message>
+    <message>
+        <source>Open a Copy</source>
+        <translation>Open a Copy</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Backups</translation>
+    </message>
+    <message>
+        <source>The document is restored.</source>
+        <translation>The document is restored.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecentMenu</name>
+    <message>
+        <source>Not found: %1</source>
+        <translation>Not found: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RestoreDocumentDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>Restore This Document</source>
+        <translation>Restore This Document</translation>
+    </message>
+    <message>
+        <source>Choose a document. Restoring it is one step that you can undo; what goes is marked “−”, what comes back “+”.</source>
+        <translation>Choose a document. Restoring it is one step that you can undo; what goes is marked “−”, what comes back “+”.</translation>
+    </message>
+    <message>
+        <source>Documents in the backup</source>
+        <translation>Documents in the backup</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>unchanged</translation>
+    </message>
+    <message>
+        <source>changed since</source>
+        <translation>changed since</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>not there any more</translation>
+    </message>
+    <message>
+        <source>There are no documents in this backup.</source>
+        <translation>There are no documents in this backup.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::WindowMenus</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;AI</source>
+        <translation>&amp;AI</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Export</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>&amp;Recent Projects</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Theme</translation>
+    </message>
+    <message>
+        <source>Interface &amp;Language</source>
+        <translation>Interface &amp;Language</translation>
+    </message>
+    <message>
+        <source>Appl&amp;y Layout</source>
+        <translation>Appl&amp;y Layout</translation>
     </message>
 </context>
 </TS>

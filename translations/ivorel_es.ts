@@ -335,12 +335,23 @@
         <source>Connect Claude &amp;Desktop…</source>
         <translation>Conectar Claude &amp;Desktop…</translation>
     </message>
+    <message>
+        <source>Bac&amp;kups…</source>
+        <translation>Copias de se&amp;guridad…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
     <message>
         <source>The texts in "%1" must be strings.</source>
         <translation>Los textos de "%1" deben ser cadenas.</translation>
+    </message>
+</context>
+<context>
+    <name>Languages</name>
+    <message>
+        <source>The interface language will change to “%1” when you restart Ivorel.</source>
+        <translation>El idioma de la interfaz cambiará a «%1» cuando reinicie Ivorel.</translation>
     </message>
 </context>
 <context>
@@ -557,6 +568,25 @@
     </message>
 </context>
 <context>
+    <name>vl::app::AutoBackups</name>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>La carpeta del proyecto no existe: %1</translation>
+    </message>
+    <message>
+        <source>The backup does not hold what was written: %1</source>
+        <translation>La copia de seguridad no contiene lo que se escribió: %1</translation>
+    </message>
+    <message>
+        <source>Could not create the folder for: %1</source>
+        <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+    <message>
+        <source>There is not enough room for a backup in: %1</source>
+        <translation>No hay espacio suficiente para una copia de seguridad en: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::BackupFolder</name>
     <message>
         <source>Could not create the folder for: %1</source>
@@ -565,6 +595,64 @@
     <message>
         <source>Could not clear the stale working copy: %1</source>
         <translation>No se pudo borrar la copia de trabajo anticuada: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BackupOperations</name>
+    <message>
+        <source>Restore “%1”</source>
+        <translation>Restaurar «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::BackupsModel</name>
+    <message>
+        <source>When opened</source>
+        <translation>Al abrir</translation>
+    </message>
+    <message>
+        <source>When closed</source>
+        <translation>Al cerrar</translation>
+    </message>
+    <message>
+        <source>Once a day</source>
+        <translation>Una vez al día</translation>
+    </message>
+    <message>
+        <source>By hand</source>
+        <translation>A mano</translation>
+    </message>
+    <message>
+        <source>Before something took its place</source>
+        <translation>Antes de ser sustituido</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>dañada</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Hecha</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Escenas</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
     </message>
 </context>
 <context>
@@ -2155,6 +2243,41 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::BackupsDialog</name>
+    <message>
+        <source>Open a &amp;Copy…</source>
+        <translation>Abrir una &amp;copia…</translation>
+    </message>
+    <message>
+        <source>&amp;Restore This Document…</source>
+        <translation>&amp;Restaurar este documento…</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Ivorel makes a backup when you open a project, when you close it and once a day, if anything changed.</source>
+        <translation>Ivorel hace una copia de seguridad al abrir un proyecto, al cerrarlo y una vez al día, si algo ha cambiado.</translation>
+    </message>
+    <message>
+        <source>There are no backups of this project yet.</source>
+        <translation>Aún no hay copias de seguridad de este proyecto.</translation>
+    </message>
+    <message>
+        <source>They are in %1</source>
+        <translation>Están en %1</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>Mostrar la car&amp;peta</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up Now</source>
+        <translation>&amp;Hacer una copia ahora</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2207,6 +2330,17 @@
     <message>
         <source>Save Project as Folder</source>
         <translation>Guardar el proyecto como carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>Diferencias</translation>
+    </message>
+    <message>
+        <source>Both are the same.</source>
+        <translation>Los dos son iguales.</translation>
     </message>
 </context>
 <context>
@@ -2316,34 +2450,64 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::Layouts</name>
+    <message>
+        <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
+        <translation>La disposición «%1» no se puede leer; se muestra la inicial en su lugar.</translation>
+    </message>
+    <message>
+        <source>Deleted the layout “%1”.</source>
+        <translation>Se eliminó la disposición «%1».</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Save Current Layout</source>
+        <translation>Guardar la disposición actual</translation>
+    </message>
+    <message>
+        <source>Name of the layout:</source>
+        <translation>Nombre de la disposición:</translation>
+    </message>
+    <message>
+        <source>There is a layout “%1” already.</source>
+        <translation>Ya hay una disposición «%1».</translation>
+    </message>
+    <message>
+        <source>The present arrangement takes its place.</source>
+        <translation>La disposición actual ocupa su lugar.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Sustituir</translation>
+    </message>
+    <message>
+        <source>Saved the layout “%1”.</source>
+        <translation>Se guardó la disposición «%1».</translation>
+    </message>
+    <message>
+        <source>Delete Layout</source>
+        <translation>Eliminar disposición</translation>
+    </message>
+    <message>
+        <source>Layout to delete:</source>
+        <translation>Disposición que eliminar:</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::MainToolBar</name>
+    <message>
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::MainWindow</name>
     <message>
         <source>Saved “%1”.</source>
         <translation>«%1» guardado.</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Edición</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ver</translation>
-    </message>
-    <message>
-        <source>&amp;Theme</source>
-        <translation>&amp;Tema</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
-    </message>
-    <message>
-        <source>Main</source>
-        <translation>Principal</translation>
     </message>
     <message>
         <source>%1[*] – Ivorel</source>
@@ -2385,22 +2549,6 @@
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
-    <message>
-        <source>&amp;Import</source>
-        <translation>&amp;Importar</translation>
-    </message>
-    <message>
-        <source>&amp;Export</source>
-        <translation>&amp;Exportar</translation>
-    </message>
-    <message>
-        <source>&amp;Recent Projects</source>
-        <translation>Proyec&amp;tos recientes</translation>
-    </message>
-    <message>
-        <source>&amp;AI</source>
-        <translation>&amp;IA</translation>
-    </message>
 </context>
 <context>
     <name>vl::desktop::NoticeBar</name>
@@ -2414,6 +2562,146 @@
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ProjectCare</name>
+    <message>
+        <source>The project is backed up.</source>
+        <translation>Se ha hecho la copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Show Backups</source>
+        <translation>Mostrar las copias</translation>
+    </message>
+    <message>
+        <source>The newest backup holds the same already.</source>
+        <translation>La copia más reciente ya contiene lo mismo.</translation>
+    </message>
+    <message>
+        <source>Back Up Project</source>
+        <translation>Copia de seguridad del proyecto</translation>
+    </message>
+    <message>
+        <source>No backup was made: %1</source>
+        <translation>No se hizo ninguna copia de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>%1 (backup)</source>
+        <translation>%1 (copia de seguridad)</translation>
+    </message>
+    <message>
+        <source>Open a Copy</source>
+        <translation>Abrir una copia</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>The document is restored.</source>
+        <translation>El documento se ha restaurado.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecentMenu</name>
+    <message>
+        <source>Not found: %1</source>
+        <translation>No se encuentra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RestoreDocumentDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Restore This Document</source>
+        <translation>Restaurar este documento</translation>
+    </message>
+    <message>
+        <source>Choose a document. Restoring it is one step that you can undo; what goes is marked “−”, what comes back “+”.</source>
+        <translation>Elija un documento. Restaurarlo es un solo paso que puede deshacer; lo que desaparece lleva «−» y lo que vuelve, «+».</translation>
+    </message>
+    <message>
+        <source>Documents in the backup</source>
+        <translation>Documentos de la copia</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>unchanged</source>
+        <translation>sin cambios</translation>
+    </message>
+    <message>
+        <source>changed since</source>
+        <translation>cambiado desde entonces</translation>
+    </message>
+    <message>
+        <source>not there any more</source>
+        <translation>ya no está</translation>
+    </message>
+    <message>
+        <source>There are no documents in this backup.</source>
+        <translation>No hay documentos en esta copia.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::WindowMenus</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;AI</source>
+        <translation>&amp;IA</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Projects</source>
+        <translation>Proyec&amp;tos recientes</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>Interface &amp;Language</source>
+        <translation>&amp;Idioma de la interfaz</translation>
+    </message>
+    <message>
+        <source>Appl&amp;y Layout</source>
+        <translation>A&amp;plicar disposición</translation>
     </message>
 </context>
 </TS>
