@@ -19,5 +19,9 @@ inline constexpr SettingKey editorLineWidth{"editor/lineWidth", "70"};
 inline constexpr SettingKey editorLineSpacing{"editor/lineSpacing", "150"};
 inline constexpr SettingKey editorSmartQuotes{"editor/smartQuotes", "true"};
 inline constexpr SettingKey editorTypewriter{"editor/typewriter", "false"};
+/// What was opened last in each of the recent projects: a JSON object of lists of ids by path.
+inline constexpr SettingKey recentItems{"general/recentItems", ""};
+/// Ids of the actions used last from the palette, a line each.
+inline constexpr SettingKey recentCommands{"general/recentCommands", ""};
 
 } // namespace vl::app::settings

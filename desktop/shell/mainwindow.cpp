@@ -1,6 +1,7 @@
 #include "desktop/shell/mainwindow.h"
 
 #include "app/base/settingskeys.h"
+#include "desktop/dialogs/palettehost.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
 #include "desktop/shell/maintoolbar.h"
@@ -43,6 +44,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     , m_actions(settings)
 {
     buildCentre();
+    m_palette = std::make_unique<PaletteHost>(
+        PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, *m_panels, this);
     bindActions();
     buildMenus();
     m_saveFault = new ElidedLabel({}, this);

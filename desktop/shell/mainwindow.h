@@ -14,6 +14,7 @@ class Appearance;
 class ElidedLabel;
 class Layouts;
 class Notices;
+class PaletteHost;
 class PanelHost;
 class ProjectCare;
 class SafeKeeping;
@@ -57,6 +58,7 @@ private:
     Appearance *m_appearance = nullptr;
     PanelHost *m_panels = nullptr;
     Layouts *m_layouts = nullptr;
+    std::unique_ptr<PaletteHost> m_palette;
     std::unique_ptr<SafeKeeping> m_safeKeeping;
     std::unique_ptr<ProjectCare> m_care;
     ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds

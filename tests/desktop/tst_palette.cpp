@@ -1,0 +1,202 @@
+#include "app/models/documentoperations.h"
+#include "core/commands/documentcommands.h"
+#include "core/commands/objectcommands.h"
+#include "core/content/entity.h"
+#include "desktop/dialogs/palette.h"
+#include "desktop/panels/editorpanel.h"
+#include "desktop/panels/editortextwidget.h"
+#include "desktop/shell/mainwindow.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+
+using namespace vl;
+using core::ContentId;
+
+namespace {
+
+struct Window
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    desktop::MainWindow window{settings, &prompts};
+    app::Workspace &workspace = window.workspace();
+
+    Window()
+    {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the window does not show");
+    }
+    ContentId addDocument(const QString &title, const QString &body)
+    {
+        const auto id = app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {});
+        auto &document = *workspace.project().find<core::Document>(id);
+        workspace.push<core::SetDocumentTitleCommand>(document, title);
+        workspace.push<core::SetDocumentBodyCommand>(document, body);
+        return id;
+    }
+    ContentId addEntity(const QString &name)
+    {
+        const ContentId id = ContentId::create();
+        workspace.push<core::AddObjectCommand>(
+            workspace.project(), std::make_unique<core::Entity>(id, ContentId(), name));
+        return id;
+    }
+    QLineEdit *openPalette()
+    {
+        window.actions()["file.quickOpen"]->trigger();
+        auto *field = window.findChild<QLineEdit *>(QStringLiteral("paletteField"));
+        return field && field->hasFocus() ? field : nullptr;
+    }
+    const desktop::Palette *palette() const { return window.findChild<desktop::Palette *>(); }
+    QListView *list() const { return window.findChild<QListView *>(QStringLiteral("paletteList")); }
+};
+
+} // namespace
+
+class TestPalette : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enterOpensADocument();
+    void choosingAnEntitySelectsIt();
+    void actionsAreTriggered();
+    void headingsLeadIntoTheText();
+    void theArrowsGoRound();
+    void escapeLeavesEverythingAsItIs();
+};
+
+void TestPalette::enterOpensADocument()
+{
+    Window desk;
+    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain"));
+    desk.addDocument(QStringLiteral("Calm"), QStringLiteral("sun"));
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QCOMPARE(field->placeholderText(), QStringLiteral("Search documents and entities…"));
+    QTest::keyClicks(field, QStringLiteral("stor"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(!desk.palette()->isVisible());
+    QCOMPARE(desk.workspace.selection(), QList<ContentId>{storm});
+    QCOMPARE(desk.window.findChild<desktop::EditorPanel *>()->documentId(), storm);
+    // It opens empty again, with the place before as its first row.
+    field = desk.openPalette();
+    QVERIFY(field && field->text().isEmpty());
+}
+
+void TestPalette::choosingAnEntitySelectsIt()
+{
+    Window desk;
+    const ContentId lamp = desk.addEntity(QStringLiteral("Lamplighter"));
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral("lampl"));
+    QTest::mouseClick(desk.list()->viewport(), Qt::LeftButton, {},
+                      desk.list()->visualRect(desk.list()->model()->index(0, 0)).center());
+    QCOMPARE(desk.workspace.selection(), QList<ContentId>{lamp});
+}
+
+void TestPalette::actionsAreTriggered()
+{
+    Window desk;
+    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), {});
+    const auto documents = desk.workspace.project().size();
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral(">doc.add"));
+    QTest::keyClick(field, Qt::Key_Enter);
+    QCOMPARE(desk.workspace.project().size(), documents + 1);
+
+    // One that is not to be had is listed, tells why, and does nothing.
+    desk.workspace.undo();
+    while (desk.workspace.history().canRedo())
+        desk.workspace.redo();
+    field = desk.openPalette();
+    QTest::keyClicks(field, QStringLiteral(">edit.redo"));
+    const QModelIndex row = desk.list()->model()->index(0, 0);
+    QVERIFY(!row.data(app::QuickOpenModel::IsEnabledRole).toBool());
+    QVERIFY(!row.data(app::QuickOpenModel::DetailRole).toString().isEmpty());
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(desk.palette()->isVisible());
+    // Entries of sub-menus are found by their names.
+    field->clear();
+    QTest::keyClicks(field, QStringLiteral(">sepia"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QCOMPARE(desk.settings.text(QStringLiteral("appearance/theme")), QStringLiteral("Sepia"));
+    // And panels.
+    desk.workspace.select(storm);
+    field = desk.openPalette();
+    QTest::keyClicks(field, QStringLiteral(">panel editor"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(desk.window.findChild<desktop::EditorTextWidget *>()->hasFocus());
+}
+
+void TestPalette::headingsLeadIntoTheText()
+{
+    Window desk;
+    desk.workspace.select(
+        desk.addDocument(QStringLiteral("Scene"), QStringLiteral("One\r\n\r\n# Two\r\nthree")));
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral("@two"));
+    QTest::keyClick(field, Qt::Key_Return);
+    const auto *text = desk.window.findChild<desktop::EditorTextWidget *>();
+    QCOMPARE(text->textCursor().selectedText(), QStringLiteral("# Two"));
+}
+
+void TestPalette::theArrowsGoRound()
+{
+    Window desk;
+    for (const char *title : {"Storm A", "Storm B", "Storm C"})
+        desk.addDocument(QLatin1String(title), {});
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral("storm"));
+    const auto current = [&desk] { return desk.list()->currentIndex().row(); };
+    QCOMPARE(current(), 0);
+    QTest::keyClick(field, Qt::Key_Down);
+    QCOMPARE(current(), 1);
+    QTest::keyClick(field, Qt::Key_Up);
+    QTest::keyClick(field, Qt::Key_Up);
+    QCOMPARE(current(), 2);
+    QTest::keyClick(field, Qt::Key_Tab);
+    QCOMPARE(current(), 0);
+    QTest::keyClick(field, Qt::Key_PageDown);
+    QCOMPARE(current(), 2);
+    QVERIFY(field->hasFocus());
+}
+
+void TestPalette::escapeLeavesEverythingAsItIs()
+{
+    Window desk;
+    const ContentId id = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain"));
+    desk.workspace.select(id);
+    auto *text = desk.window.findChild<desktop::EditorTextWidget *>();
+    text->setFocus();
+    const auto steps = desk.workspace.history().undoCount();
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral("zzz"));
+    QCOMPARE(desk.list()->model()->rowCount(), 0);
+    QTest::keyClick(field, Qt::Key_Return); // nothing to open
+    QVERIFY(desk.palette()->isVisible());
+    QTest::keyClick(field, Qt::Key_Escape);
+    QVERIFY(!desk.palette()->isVisible());
+    QVERIFY(text->hasFocus());
+    QCOMPARE(desk.workspace.history().undoCount(), steps);
+    // It goes when the user turns elsewhere.
+    field = desk.openPalette();
+    QVERIFY(field);
+    text->setFocus();
+    QVERIFY(!desk.palette()->isVisible());
+}
+
+QTEST_MAIN(TestPalette)
+#include "tst_palette.moc"
