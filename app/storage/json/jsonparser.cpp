@@ -90,7 +90,11 @@ bool JsonParser::Data::parseFast(const QByteArray &bytes)
 // such as "1." are fine with it. What it accepts must open.
 bool JsonParser::Data::parseTolerant(const QByteArray &bytes)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(bytes);
+    // It would take a text's own first character for a byte order mark and drop it; not when that
+    // is escaped.
+    QByteArray text = bytes;
+    text.replace(QByteArrayLiteral("\"\xEF\xBB\xBF"), QByteArrayLiteral("\"\\ufeff"));
+    const QJsonDocument document = QJsonDocument::fromJson(text);
     if (!document.isObject())
         return false;
     add(QJsonValue(document.object()));

@@ -160,6 +160,7 @@ private Q_SLOTS:
     void integers_data();
     void integers();
     void depthIsBounded();
+    void keepsALeadingMark_data();
     void keepsALeadingMark();
 };
 
@@ -359,10 +360,23 @@ void TestJson::depthIsBounded()
 }
 
 // The toolkit's reader takes U+FEFF at the start of any text inside for a mark, and drops it.
+void TestJson::keepsALeadingMark_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("alone") << QByteArray("{\"a\":\"\xEF\xBB\xBFx\"}");
+    QTest::newRow("escaped") << QByteArray("{\"a\":\"\\ufeffx\",\"b\":1.}");
+    // What only the toolkit's own reader takes.
+    QTest::newRow("beside half a pair")
+        << QByteArray("{\"a\":\"\xEF\xBB\xBFx\",\"b\":\"\\ud800\"}");
+    QTest::newRow("beside a huge number")
+        << QByteArray("{\"b\":100000000000000000000,\"a\":\"\xEF\xBB\xBFx\"}");
+}
+
 void TestJson::keepsALeadingMark()
 {
+    QFETCH(QByteArray, text);
     JsonParser parser;
-    const std::optional<JsonValue> read = parser.parseObject("{\"a\":\"\xEF\xBB\xBFx\"}");
+    const std::optional<JsonValue> read = parser.parseObject(text);
     QVERIFY(read);
     QCOMPARE(read->member("a").text(), QChar(0xFEFF) + QStringLiteral("x"));
 }
