@@ -4,11 +4,13 @@
 #include "app/storage/bundle.h"
 #include "app/storage/folderstore.h"
 #include "app/storage/projectfolder.h"
+#include "app/storage/projectpaths.h"
 #include "app/storage/projectwriter.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QRandomGenerator>
 
 #include <algorithm>
 
@@ -71,18 +73,33 @@ app::Result<> writeBundle(const core::Project &project, const app::ProjectFiles 
     return app::BundleWriter(path).write(*source);
 }
 
+/// Makes a folder beside the target, of a name that nothing has yet; empty when that fails.
+QString makeStagingFolder(const QString &target)
+{
+    if (!app::makeFolder(QFileInfo(target).absolutePath()))
+        return {};
+    for (int attempt = 0; attempt < 16; ++attempt) {
+        const QString path = target + QStringLiteral(".unfinished-")
+                             + QString::number(QRandomGenerator::global()->generate(), 16);
+        if (QDir().mkdir(path))
+            return path;
+    }
+    return {};
+}
+
 /// Writes a folder that is not there yet: under another name first, so that it appears as a whole.
 template<typename Write>
 app::Result<> writeFreshFolder(const QString &path, const Write &write)
 {
     const QString target = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    const QString staged = target + QStringLiteral(".unfinished");
-    QDir(staged).removeRecursively();
-    if (!app::makeFolder(staged))
-        return app::failure(app::withPath(Texts::tr("Cannot create project folder: %1"), path));
+    const app::Failure failed =
+        app::failure(app::withPath(Texts::tr("Cannot create project folder: %1"), path));
+    const QString staged = makeStagingFolder(target);
+    if (staged.isEmpty())
+        return failed;
     app::Result<> written = write(staged);
     if (written && !app::renamePath(staged, target))
-        written = app::failure(app::withPath(Texts::tr("Cannot create project folder: %1"), path));
+        written = failed;
     if (!written)
         QDir(staged).removeRecursively();
     return written;
@@ -100,14 +117,25 @@ app::Result<> rewriteFolder(const core::Project &project, const QString &path)
 /// Refuses to write over what is no project, or another one.
 app::Result<> checkReplaceable(const core::Project &project, const QString &path)
 {
+    // Any folder loads, as an empty project if need be; but one without records is none of ours.
+    if (!isBundlePath(path) && !QFileInfo(path + u'/' + app::recordsPath()).isFile())
+        return app::failure(app::withPath(
+            Texts::tr("The folder is not an Ivorel project (no project.json): %1"), path));
     const app::Result<ProjectSource> older = ProjectSource::open(path);
     if (!older)
         return older.asFailure();
     const core::Project &other = older->project();
-    const auto isShared = [&other](const auto &object) { return other.contains(object.first); };
+    const std::vector<core::ContentId> categories = other.taxonomy().ids();
+    const auto isSharedObject = [&other](const auto &object) {
+        return other.contains(object.first);
+    };
+    const auto isSharedCategory = [&project](const core::ContentId &id) {
+        return project.taxonomy().contains(id);
+    };
     const bool isRelated =
-        other.size() == 0
-        || std::any_of(project.objects().begin(), project.objects().end(), isShared);
+        (other.size() == 0 && categories.empty())
+        || std::any_of(project.objects().begin(), project.objects().end(), isSharedObject)
+        || std::any_of(categories.begin(), categories.end(), isSharedCategory);
     return isRelated
                ? app::Result<>()
                : app::failure(app::withPath(Texts::tr("Another project stands there: %1"), path));

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void validate_data();
     void validate();
     void conversionsKeepEverything();
+    void conversionLeavesItsNeighbours();
     void conversionDropsWhatIsGone();
     void conversionRefuses_data();
     void conversionRefuses();
@@ -279,6 +280,16 @@ void TestCliProjects::conversionsKeepEverything()
                                            text("e.vellum"), text("full")}));
 }
 
+// The folder is written under another name first, which must not be that of something there.
+void TestCliProjects::conversionLeavesItsNeighbours()
+{
+    makeFullProject();
+    putFile(at("copy.unfinished/chapter.txt"), "mine");
+    QCOMPARE(run("convert full copy").status, 0);
+    QCOMPARE(namesIn(m_path), (QStringList{text("copy"), text("copy.unfinished"), text("full")}));
+    QCOMPARE(fileBytes(at("copy.unfinished/chapter.txt")), QByteArray("mine"));
+}
+
 void TestCliProjects::conversionDropsWhatIsGone()
 {
     makeFullProject();
@@ -300,6 +311,8 @@ void TestCliProjects::conversionRefuses_data()
     QTest::newRow("another project, a folder") << text("full") << text("other");
     QTest::newRow("another project, a bundle") << text("full") << text("other.vellum");
     QTest::newRow("an empty one over a full one") << text("empty") << text("other.vellum");
+    QTest::newRow("another one of categories only") << text("full") << text("codex");
+    QTest::newRow("a folder that is no project") << text("full") << text("notes");
     QTest::newRow("a file that is no bundle") << text("full") << text("text.txt");
     QTest::newRow("a project that does not load") << text("full") << text("torn");
     QTest::newRow("from one that does not load") << text("torn") << text("new");
@@ -316,6 +329,10 @@ void TestCliProjects::conversionRefuses()
     QVERIFY(vl::app::saveProject(other, at("other")));
     QVERIFY(vl::app::saveProject(Project(), at("empty")));
     QCOMPARE(run("pack other other.vellum").status, 0);
+    Project codex;
+    codex.editTaxonomy().add({ContentId::create(), text("People"), {}, {}});
+    QVERIFY(vl::app::saveProject(codex, at("codex")));
+    putFile(at("notes/assets/map.png"), "mine");
     putFile(at("text.txt"), "hello");
     putFile(at("torn/project.json"), "{");
     const FileMap before = filesUnder(m_path);
