@@ -1,5 +1,6 @@
 #include "app/storage/folderstore.h"
 
+#include "app/storage/projectfolder.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectreader.h"
 #include "app/storage/projectwriter.h"
@@ -27,9 +28,14 @@ public:
     static Result<> makeFolders(const QString &folder, Durability durability);
     static Result<> applyRenames(const FolderSave &save, Durability durability);
     static Result<> applyRemovals(const FolderSave &save, Durability durability);
-    static Failure changedOutside()
+    static Failure changedOutside(const QString &folder)
     {
-        return failure(tr("The project changed outside Ivorel since you opened it."));
+        const QFileInfo info(folder);
+        if (info.isDir())
+            return failure(tr("The project changed outside Ivorel since you opened it."));
+        return failure(withPath(info.exists() ? tr("Cannot create project folder: %1")
+                                              : tr("The project folder does not exist: %1"),
+                                folder));
     }
 };
 
@@ -42,10 +48,19 @@ enum class Standing
     Foreign, ///< someone else changed it
 };
 
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
 Standing standing(const QString &folder, const FolderSave::Target &target)
 {
-    const Result<QByteArray> bytes =
-        readRegularFile(folder + u'/' + target.path, QStringLiteral("%1"));
+    const QString path = folder + u'/' + target.path;
+    const Result<QByteArray> bytes = readRegularFile(path, QStringLiteral("%1"));
+    // Where the records are gone the whole folder is: renamed, emptied, or on a disk that is away.
+    if (!bytes && target.path == recordsPath() && !target.known.empty() && !isThere(path))
+        return Standing::Foreign;
     if (!bytes)
         return Standing::Missing;
     if (*bytes == target.bytes)
@@ -124,26 +139,22 @@ std::vector<QString> outsideChanges(const FolderSave &save)
 
 Result<> commitFolderSave(const FolderSave &save, OutsideChanges outside, Durability durability)
 {
-    if (Result<> made = FolderWriter::makeFolders(save.folder, durability); !made)
-        return made;
-
-    // A save that was killed may have left its temporaries.
-    for (const QString &name : {QString(), objectsFolder(), taxonomyFolder()})
-        removeUnfinishedFiles(save.folder + u'/' + name);
-
     std::vector<bool> isRight(save.writes.size());
     for (std::size_t i = 0; i < save.writes.size(); ++i) {
         const Standing found = standing(save.folder, save.writes[i]);
         if (found == Standing::Foreign && outside == OutsideChanges::Refuse)
-            return FolderWriter::changedOutside();
+            return FolderWriter::changedOutside(save.folder);
         isRight[i] = found == Standing::Right;
     }
     if (outside == OutsideChanges::Refuse) {
         for (const FolderSave::Target &target : save.removals)
             if (standing(save.folder, target) == Standing::Foreign)
-                return FolderWriter::changedOutside();
+                return FolderWriter::changedOutside(save.folder);
     }
 
+    if (Result<> made = FolderWriter::makeFolders(save.folder, durability); !made)
+        return made;
+    removeUnfinishedOwnFiles(save.folder); // of a save that was killed
     if (Result<> renamed = FolderWriter::applyRenames(save, durability); !renamed)
         return renamed;
     FileBatch batch(FolderWriter::messages(), durability);
@@ -258,6 +269,9 @@ FolderSave FolderStore::prepare(const core::Project &project) const
 
 FolderSave FolderStore::prepare(const core::Project &project, const core::ChangeSet &changes) const
 {
+    // A folder that is gone needs everything, should the user want it there again.
+    if (m_known.contains(recordsPath()) && !isThere(m_folder + u'/' + recordsPath()))
+        return prepare(project);
     FolderSave save;
     save.folder = m_folder;
     for (const auto &[id, change] : changes.objects()) {

@@ -46,7 +46,7 @@ enum class OutsideChanges
 
 /// The files of the save that others have changed, added or, where the save removes them, edited;
 /// their paths relative to the folder. A file that others removed is not among them: writing it
-/// again loses nothing.
+/// again loses nothing; but "project.json" is, since without it the whole folder is gone.
 std::vector<QString> outsideChanges(const FolderSave &save);
 
 /// Carries the save out: all files are written beside their targets first, then put in place in
@@ -73,7 +73,7 @@ public:
     /// A save of the whole project. It removes the known files of objects and categories that are
     /// gone, and those whose name is not their id; never one that is not known.
     FolderSave prepare(const core::Project &project) const;
-    /// A save of what was touched since the last one.
+    /// A save of what was touched since the last one; of everything when the folder is gone.
     FolderSave prepare(const core::Project &project, const core::ChangeSet &changes) const;
 
     /// Notes that a save succeeded: its files are known as it wrote them.

@@ -1,6 +1,7 @@
 #include "app/storage/projectfolder.h"
 
 #include "app/storage/archive.h"
+#include "app/storage/projectpaths.h"
 #include "core/id.h"
 
 #include <QtCore/QCoreApplication>
@@ -111,6 +112,12 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
         return failure(withPath(ProjectFolder::unreadable(), current));
     std::sort(paths.begin(), paths.end());
     return paths;
+}
+
+void removeUnfinishedOwnFiles(const QString &folder)
+{
+    for (const QString &name : {QString(), objectsFolder(), taxonomyFolder()})
+        removeUnfinishedFiles(folder + u'/' + name);
 }
 
 void removeUnfinishedFilesUnder(const QString &folder)

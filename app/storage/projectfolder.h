@@ -23,6 +23,10 @@ bool isReadPath(QByteArrayView path);
 /// no other system could unpack. What unfinished writes left behind is passed over.
 Result<std::vector<QByteArray>> listProjectFolder(const QString &folder);
 
+/// Removes what unfinished writes of the program's own files left in a project folder. Others, such
+/// as an asset just being imported, stay.
+void removeUnfinishedOwnFiles(const QString &folder);
+
 /// Removes what unfinished writes left anywhere under a folder that nobody else writes to.
 void removeUnfinishedFilesUnder(const QString &folder);
 

@@ -111,6 +111,8 @@ private Q_SLOTS:
     void storeRemovesWhatIsGone();
     void storeRenamesStrays();
     void storeNoticesOutsideChanges();
+    void storeNoticesThatTheFolderIsGone_data();
+    void storeNoticesThatTheFolderIsGone();
     void assetNames_data();
     void assetNames();
     void importsAssets();
@@ -709,6 +711,44 @@ void TestProjectFolder::storeNoticesOutsideChanges()
     put(path, theirs);
     store.adopt(path, theirs);
     QVERIFY(outsideChanges(store.prepare(**loaded, changes)).empty());
+}
+
+// A folder that was renamed, emptied or unmounted while it was open is not taken for one that needs
+// only what was touched.
+void TestProjectFolder::storeNoticesThatTheFolderIsGone_data()
+{
+    QTest::addColumn<QStringList>("removed");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("all of it") << QStringList{QString()} << "The project folder does not exist: %1";
+    QTest::newRow("what is in it")
+        << QStringList{QStringLiteral("objects"), QStringLiteral("taxonomy"),
+                       QStringLiteral("project.json")}
+        << "The project changed outside Ivorel since you opened it.";
+}
+
+void TestProjectFolder::storeNoticesThatTheFolderIsGone()
+{
+    QFETCH(QStringList, removed);
+    QFETCH(QString, message);
+    QVERIFY(saveProject(*fullProject(), folder()));
+    FolderStore store(folder());
+    const auto project = store.load();
+    QVERIFY(project);
+    for (const QString &name : removed) {
+        const QString path = folder() + u'/' + name;
+        QVERIFY(QFileInfo(path).isDir() ? QDir(path).removeRecursively() : QFile::remove(path));
+    }
+    ChangeSet changes;
+    changes.touchObject((*project)->all<Document>().front()->id(), ChangeSet::Change::Changed);
+    const FolderSave save = store.prepare(**project, changes);
+    QCOMPARE(outsideChanges(save), std::vector<QString>{QStringLiteral("project.json")});
+    const Result<> refused = commitFolderSave(save, OutsideChanges::Refuse);
+    QVERIFY(!refused);
+    QCOMPARE(refused.message(), message.contains(u'%') ? withPath(message, folder()) : message);
+    QVERIFY(filesIn(folder()).empty());
+
+    QVERIFY(commitFolderSave(save, OutsideChanges::Overwrite));
+    QCOMPARE(filesIn(folder()), filesOf(**project));
 }
 
 void TestProjectFolder::assetNames_data()
