@@ -38,8 +38,8 @@ QByteArray recordsName()
 Result<ReadBundle> readBundle(const QString &path)
 {
     FileIdentity identity = FileIdentity::of(path);
-    Result<QByteArray> bytes = readRegularFile(
-        path, Bundle::tr("Could not open the project file: %1"), ArchiveWriter::maxBytes + 65535);
+    Result<QByteArray> bytes =
+        readRegularFile(path, Bundle::tr("Could not open the project file: %1"), maxBundleBytes);
     if (!bytes)
         return bytes.asFailure();
     if (identity != FileIdentity::of(path))

@@ -29,6 +29,9 @@ struct ReadBundle
     FileIdentity identity; ///< none when the file changed while it was read
 };
 
+/// The most bytes that a bundle may have: an archive and the longest comment behind it.
+inline constexpr qint64 maxBundleBytes = ArchiveWriter::maxBytes + 65535;
+
 /// Reads a bundle: "Could not open the project file: %1" or "Not a valid Ivorel project file: %1".
 Result<ReadBundle> readBundle(const QString &path);
 

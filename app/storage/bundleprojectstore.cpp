@@ -7,6 +7,8 @@
 #include "app/storage/projectwriter.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 
@@ -33,7 +35,8 @@ public:
         if (isNew || FileIdentity::of(save.bundlePath) == save.known.identity)
             return false;
         // Touched is not changed.
-        const Result<QByteArray> bytes = readRegularFile(save.bundlePath, QString());
+        const Result<QByteArray> bytes =
+            readRegularFile(save.bundlePath, QString(), maxBundleBytes);
         return !bytes || Sha256::of(*bytes) != save.known.sha256;
     }
 
@@ -102,6 +105,19 @@ public:
     QString path() const override { return m_bundlePath; }
     bool isBundle() const override { return true; }
     QString folder() const override { return m_workingFolder; }
+
+    /// Where the copy was swept away, the bundle gives it back.
+    QString carriedFolder() const override
+    {
+        if (!m_isNew && !QFileInfo(m_workingFolder).isDir()) {
+            if (const Result<ReadBundle> bundle = readBundle(m_bundlePath)) {
+                const WorkingCopy copy = WorkingCopy::at(m_bundlePath, m_workingFolder);
+                if (const Result<> filled = copy.fill(bundle->archive); !filled)
+                    return {};
+            }
+        }
+        return ProjectStore::carriedFolder();
+    }
 
     std::unique_ptr<PendingSave> prepare(const core::Project &project,
                                          const core::ChangeSet *touched) override
@@ -205,6 +221,10 @@ Result<OpenedStore> openBundleStore(const QString &path)
         return opened.asFailure();
     Result<std::unique_ptr<core::Project>> project =
         loadProject(opened->workingFolder, opened->files);
+    if (!project && opened->origin == WorkingCopyOrigin::Restored)
+        return failure(BundleText::tr("%1 The file as it was before its unsaved changes were put "
+                                      "back is kept as: %2")
+                           .arg(project.message(), QDir::toNativeSeparators(opened->backupPath)));
     if (!project)
         return project.asFailure();
     QStringList paths;

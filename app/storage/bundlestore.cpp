@@ -177,6 +177,19 @@ Result<OpenedBundle> Opening::finish()
     return std::move(m_opened);
 }
 
+/// Puts what stands under the bundle's name into a backup, whether it is a sound bundle or a
+/// damaged one, of which something may yet be saved.
+Result<QString> keepBytes(const QString &bundlePath, const StorageLocations &locations)
+{
+    const Result<QByteArray> bytes = readRegularFile(
+        bundlePath,
+        QCoreApplication::translate("vl::app::Saving", "Could not open the project file: %1"),
+        maxBundleBytes);
+    if (!bytes)
+        return bytes.asFailure();
+    return locations.backups().addBytes(bundleBaseName(bundlePath), *bytes);
+}
+
 /// One save of a bundle that is open.
 class Saving
 {
@@ -245,8 +258,7 @@ Saving::Standing Saving::standing()
     if (identity == m_save.known.identity)
         return Standing::AsKnown;
     // Touched or copied, but maybe not changed.
-    const Result<QByteArray> bytes =
-        readRegularFile(m_save.bundlePath, QString(), ArchiveWriter::maxBytes + 65535);
+    const Result<QByteArray> bytes = readRegularFile(m_save.bundlePath, QString(), maxBundleBytes);
     if (!bytes || Sha256::of(*bytes) != m_save.known.sha256)
         return Standing::Changed;
     return Standing::AsKnown;
@@ -254,12 +266,7 @@ Saving::Standing Saving::standing()
 
 Result<> Saving::keepOutsideChanges()
 {
-    const Result<QByteArray> bytes =
-        readRegularFile(m_save.bundlePath, tr("Could not open the project file: %1"),
-                        ArchiveWriter::maxBytes + 65535);
-    if (!bytes)
-        return bytes.asFailure();
-    const Result<QString> backup = m_locations.backups().addBytes(m_copy.baseName(), *bytes);
+    const Result<QString> backup = keepBytes(m_save.bundlePath, m_locations);
     if (!backup)
         return backup.asFailure();
     m_report.backupPath = *backup;
@@ -302,7 +309,7 @@ Result<> Saving::updateCopy(const BundleSource &source) const
 {
     if (!m_copy.removeMarker())
         return m_copy.prepareFailure();
-    removeUnfinishedFilesUnder(m_copy.folder());
+    removeUnfinishedOwnFiles(m_copy.folder());
     if (const Result<> updated = m_copy.update(source); !updated)
         return updated;
     return m_copy.writeMarker(m_report.known.sha256);
@@ -335,9 +342,8 @@ Result<OpenedBundle> saveBundleAs(const BundleSave &save, const QString &carryFr
         BundleSource::ofProject(save.files, carryFrom, save.readPaths);
     if (!source)
         return source.asFailure();
-    if (const Result<ReadBundle> old = readBundle(save.bundlePath)) {
-        const Result<QString> backup =
-            locations.backups().addBytes(bundleBaseName(save.bundlePath), old->archive.bytes());
+    if (FileIdentity::of(save.bundlePath).size > 0) {
+        const Result<QString> backup = keepBytes(save.bundlePath, locations);
         if (!backup)
             return backup.asFailure();
     }

@@ -80,6 +80,11 @@ QString OpenProject::folder() const
     return m_store ? m_store->folder() : QString();
 }
 
+QString OpenProject::carriedFolder() const
+{
+    return m_store ? m_store->carriedFolder() : QString();
+}
+
 QString OpenProject::name() const
 {
     if (!m_store)
@@ -169,7 +174,7 @@ Result<> OpenProject::saveAsBundle(const QString &path)
 {
     Q_EMIT aboutToSave();
     finishSaving();
-    Result<std::unique_ptr<ProjectStore>> store = newBundleStore(path, folder());
+    Result<std::unique_ptr<ProjectStore>> store = newBundleStore(path, carriedFolder());
     return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
 }
 
@@ -177,7 +182,7 @@ Result<> OpenProject::saveAsFolder(const QString &folder)
 {
     Q_EMIT aboutToSave();
     finishSaving();
-    Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, this->folder());
+    Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, carriedFolder());
     return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
 }
 

@@ -77,6 +77,7 @@ private:
     OpenProject(std::unique_ptr<core::Project> project, std::unique_ptr<ProjectStore> store);
 
     void listen();
+    QString carriedFolder() const;
     std::unique_ptr<RunningSave> beginSave(ProjectStore &store, bool everything);
     Result<> endSave(RunningSave &save, const Result<> &result);
     Result<> saveInto(std::unique_ptr<ProjectStore> store);

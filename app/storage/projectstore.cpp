@@ -12,6 +12,11 @@ namespace vl::app {
 PendingSave::~PendingSave() = default;
 ProjectStore::~ProjectStore() = default;
 
+QString ProjectStore::carriedFolder() const
+{
+    return QFileInfo(folder()).isDir() ? folder() : QString();
+}
+
 namespace {
 
 struct StoreText

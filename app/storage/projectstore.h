@@ -40,6 +40,8 @@ public:
     virtual bool isBundle() const = 0;
     /// The folder that holds the project's files now, "assets" among them.
     virtual QString folder() const = 0;
+    /// The same when there is such a folder, to take along what it carries; else empty.
+    virtual QString carriedFolder() const;
 
     /// Chooses what a save writes: everything, or, given what was touched, only that.
     virtual std::unique_ptr<PendingSave> prepare(const core::Project &project,

@@ -80,6 +80,8 @@ private Q_SLOTS:
     void saveFailsAndCopyStays();
     void saveWithoutCopyTakesTheBundlesAssets();
     void brokenCopyDoesNotFailTheSave();
+    void saveLeavesAssetsBeingImported();
+    void saveAs_data();
     void saveAs();
     void reload_data();
     void reload();
@@ -442,11 +444,36 @@ void TestBundleStore::brokenCopyDoesNotFailTheSave()
     QCOMPARE(fileBytes(m_path), bundleOf(wanted));
 }
 
-void TestBundleStore::saveAs()
+// A save runs beside the interface thread, where an asset may be half written.
+void TestBundleStore::saveLeavesAssetsBeingImported()
 {
     const OpenedBundle bundle = opened();
+    AtomicFile import(bundle.workingFolder + QStringLiteral("/assets/new.png"), {});
+    QVERIFY(import.open() && import.write("imported"));
+    const FileMap wanted = with(sampleFiles(), objectFile, "second");
+    const SaveReport report =
+        saveBundle({m_path, bundle.workingFolder, own(wanted), {}, bundle.known}, m_locations);
+    QVERIFY2(report.outcome == SaveOutcome::Saved, qPrintable(report.message));
+    QCOMPARE(fileBytes(m_path), bundleOf(wanted));
+    QVERIFY(import.commit());
+    // Until the next save the copy is ahead of the bundle, which the next opening would make good.
+    QCOMPARE(opened().origin, WorkingCopyOrigin::Restored);
+    QCOMPARE(fileBytes(m_path),
+             bundleOf(with(wanted, QStringLiteral("assets/new.png"), "imported")));
+}
+
+void TestBundleStore::saveAs_data()
+{
+    QTest::addColumn<QByteArray>("older");
+    QTest::newRow("over another project") << bundleOf({{records, "another project"}});
+    QTest::newRow("over a damaged one") << bundleOf({{records, "another project"}}).chopped(1);
+}
+
+void TestBundleStore::saveAs()
+{
+    QFETCH(QByteArray, older);
+    const OpenedBundle bundle = opened();
     const QString other = at(QStringLiteral("elsewhere/Copy.vellum"));
-    const QByteArray older = bundleOf({{records, "another project"}});
     putFile(other, older);
     const FileMap wanted = with(sampleFiles(), objectFile, "new");
     const Result<OpenedBundle> copy =

@@ -1,0 +1,121 @@
+#include "app/storage/bundle.h"
+#include "app/storage/openproject.h"
+#include "core/content/document.h"
+#include "tests/support/folders.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+using namespace vl::app;
+using namespace vl::test;
+using vl::core::ContentId;
+using vl::core::Document;
+using vl::core::DocumentKind;
+using vl::core::Project;
+
+namespace {
+
+bool remove(const QString &path)
+{
+    return QFileInfo(path).isDir() ? QDir(path).removeRecursively() : QFile::remove(path);
+}
+
+} // namespace
+
+class TestOpenProject : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void savesElsewhereWhenItsPlaceIsGone_data();
+    void savesElsewhereWhenItsPlaceIsGone();
+    void namesTheBackupOfWhatDoesNotLoad();
+};
+
+void TestOpenProject::savesElsewhereWhenItsPlaceIsGone_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("losesPlace");
+    QTest::addColumn<bool>("losesFolder");
+    QTest::addColumn<bool>("keepsAssets");
+    const auto row = [](const char *name, const char *place, bool losesPlace, bool losesFolder,
+                        bool keepsAssets) {
+        for (const char *target : {"copy", "copy.vellum"})
+            QTest::addRow("%s, into %s", name, target)
+                << place << target << losesPlace << losesFolder << keepsAssets;
+    };
+    row("a folder", "book", false, false, true);
+    row("a folder that is gone", "book", true, true, false);
+    row("a bundle that is gone", "book.vellum", true, false, true);
+    row("a bundle without its copy", "book.vellum", false, true, true);
+    row("a bundle gone with its copy", "book.vellum", true, true, false);
+}
+
+void TestOpenProject::savesElsewhereWhenItsPlaceIsGone()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, target);
+    QFETCH(bool, losesPlace);
+    QFETCH(bool, losesFolder);
+    QFETCH(bool, keepsAssets);
+    QTemporaryDir dir(QDir::tempPath() + QStringLiteral("/wörk in progress-XXXXXX"));
+    QVERIFY(dir.isValid());
+    {
+        OpenProject made;
+        made.project().add(
+            std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, name));
+        const QString path = dir.filePath(name);
+        QVERIFY(name.endsWith(QLatin1String(".vellum")) ? made.saveAsBundle(path)
+                                                        : made.saveAsFolder(path));
+        putFile(made.folder() + QStringLiteral("/assets/map.png"), "picture");
+        QVERIFY(made.save());
+    }
+    const auto opened = OpenProject::open(dir.filePath(name));
+    QVERIFY(opened);
+    OpenProject &open = **opened;
+    const QString folder = open.folder();
+    QVERIFY(!losesPlace || remove(open.path()));
+    QVERIFY(!losesFolder || !QFileInfo::exists(folder) || remove(folder));
+
+    const QString path = dir.filePath(target);
+    const Result<> saved = target.endsWith(QLatin1String(".vellum")) ? open.saveAsBundle(path)
+                                                                     : open.saveAsFolder(path);
+    QVERIFY2(saved, qPrintable(saved ? QString() : saved.message()));
+    const auto again = OpenProject::open(path);
+    QVERIFY(again);
+    QCOMPARE((*again)->project().size(), 1);
+    QCOMPARE(QFile::exists((*again)->folder() + QStringLiteral("/assets/map.png")), keepsAssets);
+}
+
+// Changes that were never saved come from a copy that a crash may have cut short.
+void TestOpenProject::namesTheBackupOfWhatDoesNotLoad()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("book.vellum"));
+    QString file;
+    {
+        OpenProject made;
+        const ContentId id = ContentId::create();
+        made.project().add(std::make_unique<Document>(id, DocumentKind::Prose, QString()));
+        QVERIFY(made.saveAsBundle(path));
+        file = made.folder() + QStringLiteral("/objects/%1.json").arg(id.toString());
+    }
+    const QByteArray before = fileBytes(path);
+    putFile(file, "{");
+    const auto opened = OpenProject::open(path);
+    QVERIFY(!opened);
+    const QString message = opened.message();
+    QVERIFY2(message.startsWith(QStringLiteral("Invalid JSON in file: ") + file),
+             qPrintable(message));
+    const QString backup = message.mid(message.lastIndexOf(QLatin1String(": ")) + 2);
+    QCOMPARE(fileBytes(backup), before);
+}
+
+QTEST_GUILESS_MAIN(TestOpenProject)
+#include "tst_openproject.moc"
