@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/content/contentobject.h"
+#include "core/contentkind.h"
+
+#include <QtCore/QString>
+
+namespace vl::app {
+
+/// What an object is called: the title, name or caption of its kind; empty when it has none.
+QString titleOf(const core::ContentObject &object);
+
+/// The kind in the interface language, as it begins a sentence: "Timeline event".
+QString kindText(core::ContentKind kind);
+
+/// A name as it fits in a row: on one line and at most 200 characters of it.
+QString rowText(const QString &name);
+
+/// The text in lower case and without accents, so that "cafe" is found in "Café".
+QString searchText(const QString &text);
+
+} // namespace vl::app
