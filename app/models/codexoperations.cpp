@@ -353,14 +353,14 @@ void CodexOperations::move(const Ids &ids, const ContentId &category)
     const Ids categories = categoriesOf(ids);
     const QSet<ContentId> moved = setOf(categories);
     // What lies in a category that moves travels along with it.
-    const auto travels = [&](const ContentId &parent) {
+    const auto travels = [&](const ContentId &parent, const ContentId &self = {}) {
         return std::any_of(moved.begin(), moved.end(), [&](const ContentId &id) {
-            return project.taxonomy().isWithin(parent, id);
+            return id != self && project.taxonomy().isWithin(parent, id);
         });
     };
     for (const ContentId &id : categories) {
         const ContentId parent = project.taxonomy().find(id)->parentId;
-        if (parent != category && !travels(parent))
+        if (parent != category && !travels(parent, id))
             commands.push_back(std::make_unique<core::MoveCategoryCommand>(project, id, category));
     }
     int count = int(commands.size());
