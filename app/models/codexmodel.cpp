@@ -212,7 +212,7 @@ void CodexModel::updateCategory(const ContentId &id)
     if (isNew)
         node = addNode(id, true);
     place(*node, wantedParent(category));
-    adoptLost(*node);
+    adoptLost(isNew);
 }
 
 void CodexModel::updateEntity(const ContentId &id)
@@ -223,19 +223,26 @@ void CodexModel::updateEntity(const ContentId &id)
     place(*node, wantedParent(*m_workspace.project().find<Entity>(id)));
 }
 
-void CodexModel::adoptLost(Node &category)
+CodexModel::Node &CodexModel::wantedParent(const Node &node) const
 {
     const core::Project &project = m_workspace.project();
+    if (const Category *category = node.isCategory ? project.taxonomy().find(node.id) : nullptr)
+        return wantedParent(*category);
+    const Entity *entity = node.isCategory ? nullptr : project.find<Entity>(node.id);
+    return entity ? wantedParent(*entity) : *m_root;
+}
+
+void CodexModel::adoptLost(bool alsoEntities)
+{
     Nodes lost;
     for (Node *node : m_root->children) {
-        const Category *other = node->isCategory ? project.taxonomy().find(node->id) : nullptr;
-        const Entity *entity = node->isCategory ? nullptr : project.find<Entity>(node->id);
-        if ((other && other->parentId == category.id && &wantedParent(*other) == &category)
-            || (entity && entity->categoryId() == category.id))
+        if (!node->isCategory && !alsoEntities)
+            break;
+        if (&wantedParent(*node) != m_root.get())
             lost.push_back(node);
     }
     for (Node *node : lost)
-        place(*node, category);
+        place(*node, wantedParent(*node)); // asked anew: the others have moved meanwhile
 }
 
 void CodexModel::place(Node &node, Node &parent)

@@ -102,7 +102,8 @@ private:
     void show(Node &node);
     void hide(Node &node);
     void hideEmptied(Node &category);
-    void adoptLost(Node &category);
+    /// Brings rows of the top level under their categories, where those are there now.
+    void adoptLost(bool alsoEntities);
     void touchCounts(const Node *node);
     void emitCounts();
 
@@ -115,6 +116,7 @@ private:
 
     Node &wantedParent(const core::Entity &entity) const;
     Node &wantedParent(const core::Category &category) const;
+    Node &wantedParent(const Node &node) const;
     Node *nodeAt(const QModelIndex &index) const;
     QModelIndex indexOf(const Node &node, int column = NameColumn) const;
     int countIn(const Node &node) const;

@@ -43,6 +43,8 @@ public:
     const QList<core::ContentId> &selection() const { return m_selection; }
     void select(const QList<core::ContentId> &ids);
     void select(const core::ContentId &id) { select(QList<core::ContentId>{id}); }
+    /// Has the inspector shown, with the focus in it.
+    void inspect() { Q_EMIT inspectRequested(); }
     /// Selects a document and has the editor show a place of its body with the selection laid over
     /// it; position and length are UTF-16 units, clamped to the text.
     void reveal(const core::ContentId &documentId, qsizetype position, qsizetype length);
@@ -57,6 +59,7 @@ Q_SIGNALS:
     void saveFailed(const QString &message);
     void flushRequested();
     void selectionChanged();
+    void inspectRequested();
     /// The document is selected already when this comes.
     void revealRequested(const vl::core::ContentId &documentId, qsizetype position,
                          qsizetype length);

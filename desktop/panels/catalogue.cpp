@@ -1,5 +1,6 @@
 #include "desktop/panels/catalogue.h"
 
+#include "desktop/panels/codexpanel.h"
 #include "desktop/panels/documentspanel.h"
 #include "desktop/panels/editorpanel.h"
 
@@ -21,7 +22,7 @@ constexpr PanelMaker notBuilt = nullptr;
 
 // clang-format off
 constexpr PanelRow rows[] = {
-    {"codex", QT_TRANSLATE_NOOP("Panels", "Codex"), DockSide::LeftBelow, FirstState::Open, notBuilt},
+    {"codex", QT_TRANSLATE_NOOP("Panels", "Codex"), DockSide::LeftBelow, FirstState::Open, make<CodexPanel>},
     {"manuscript", QT_TRANSLATE_NOOP("Panels", "Documents"), DockSide::Left, FirstState::Open, make<DocumentsPanel>},
     {"editor", QT_TRANSLATE_NOOP("Panels", "Editor"), DockSide::Center, FirstState::Open, make<EditorPanel>},
     {"inspector", QT_TRANSLATE_NOOP("Panels", "Inspector"), DockSide::Right, FirstState::Open, notBuilt},

@@ -1,5 +1,6 @@
 #include "desktop/shell/panelhost.h"
 
+#include "app/models/workspace.h"
 #include "desktop/widgets/grid.h"
 
 #include <DockAreaTitleBar.h>
@@ -95,6 +96,8 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
             nameButtons(dock);
         }
     }
+    connect(&context.workspace, &app::Workspace::inspectRequested, this,
+            [this] { showPanel(QStringLiteral("inspector")); });
     m_firstLayout = saveLayout();
     sizeAreas();
 }

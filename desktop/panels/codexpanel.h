@@ -1,0 +1,119 @@
+#pragma once
+
+#include "core/id.h"
+#include "desktop/panels/panelcontext.h"
+
+#include <QtCore/QList>
+#include <QtCore/QSet>
+#include <QtWidgets/QWidget>
+
+#include <vector>
+
+class QAction;
+class QLineEdit;
+class QMenu;
+class QStackedWidget;
+class QToolButton;
+class QTreeView;
+class QVBoxLayout;
+
+namespace vl::app {
+class CodexModel;
+class CodexOperations;
+} // namespace vl::app
+
+namespace vl::desktop {
+
+/// The codex: the categories of the invented world and the entities in them.
+class CodexPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CodexPanel(const PanelContext &context, QWidget *parent);
+    ~CodexPanel() override;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    using Ids = QList<core::ContentId>;
+    /// What an entry of the menus needs to be of use.
+    enum class Needs
+    {
+        Nothing,
+        Category, ///< the selected one, or that of the selected entity
+        OneCategory,
+        Categories,
+        OneEntity,
+        Entities,
+        Rows,
+        Template,
+        Clipboard,
+        NotYet, ///< stands for what is still to come
+    };
+    struct Entry
+    {
+        QAction *action;
+        Needs needs;
+    };
+
+    void makeEntries();
+    void makeOtherEntries();
+    QAction *addEntry(const QString &text, Needs needs, void (CodexPanel::*slot)(),
+                      const QKeySequence &keys = {});
+    void buildToolBar(QVBoxLayout *layout);
+    QToolButton *menuButton(const QString &text, const QString &name, QMenu *menu);
+    void buildTree(QVBoxLayout *layout);
+    void updateEntries();
+    void updateEmptyState();
+    void showProject();
+    void showContextMenu(const QPoint &position);
+
+    void applyFilter(const QString &text);
+    void restoreBranches();
+    void noteBranches();
+
+    void addCategory();
+    void addSubcategory();
+    void addEntity();
+    void addFromTemplate();
+    void addField();
+    void addTask();
+    void renameCurrent();
+    void duplicate();
+    void deleteSelected();
+    void togglePin();
+    void editTags();
+    void saveAsTemplate();
+    void manageTemplates();
+    void mergeInto();
+    void split();
+    void cut();
+    void copy();
+    void paste();
+    void openInInspector();
+    void nothing() {}
+
+    void edit(const core::ContentId &id);
+    void reveal(const Ids &ids);
+    void selectFromWorkspace();
+    void selectInWorkspace();
+    Ids selectedIds() const;
+    core::ContentId currentId() const;
+    app::CodexOperations operations() const;
+
+    PanelContext m_context;
+    app::CodexModel *m_model;
+    QLineEdit *m_filter = nullptr;
+    QTreeView *m_tree = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    QMenu *m_newMenu = nullptr;
+    QMenu *m_moreMenu = nullptr;
+    std::vector<Entry> m_entries;
+    QList<QAction *> m_clipboardActions;
+    QSet<core::ContentId> m_openBranches; ///< as they were before the filter opened them all
+    bool m_isFollowing = false; ///< while one side's selection is carried over to the other
+};
+
+} // namespace vl::desktop
