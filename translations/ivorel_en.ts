@@ -348,10 +348,251 @@
     </message>
 </context>
 <context>
+    <name>ContentKinds</name>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entity</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Spreadsheet</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Chart</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Timeline</translation>
+    </message>
+    <message>
+        <source>Timeline event</source>
+        <translation>Timeline event</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Task</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Canvas</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Random table</source>
+        <translation>Random table</translation>
+    </message>
+    <message>
+        <source>Stat block</source>
+        <translation>Stat block</translation>
+    </message>
+</context>
+<context>
+    <name>FieldTypes</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Yes or no</source>
+        <translation>Yes or no</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Choice</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>Web address</translation>
+    </message>
+</context>
+<context>
     <name>Languages</name>
     <message>
         <source>The interface language will change to “%1” when you restart Ivorel.</source>
         <translation>The interface language will change to “%1” when you restart Ivorel.</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWords</name>
+    <message>
+        <source>create, start, template</source>
+        <translation>create, start, template</translation>
+    </message>
+    <message>
+        <source>load</source>
+        <translation>load</translation>
+    </message>
+    <message>
+        <source>load directory</source>
+        <translation>load directory</translation>
+    </message>
+    <message>
+        <source>command palette, go to, jump to, search</source>
+        <translation>command palette, go to, jump to, search</translation>
+    </message>
+    <message>
+        <source>save a copy, duplicate project</source>
+        <translation>save a copy, duplicate project</translation>
+    </message>
+    <message>
+        <source>export project, unpack</source>
+        <translation>export project, unpack</translation>
+    </message>
+    <message>
+        <source>backup, snapshot, safety copy</source>
+        <translation>backup, snapshot, safety copy</translation>
+    </message>
+    <message>
+        <source>reload, sync, merge, conflicts</source>
+        <translation>reload, sync, merge, conflicts</translation>
+    </message>
+    <message>
+        <source>txt, markdown</source>
+        <translation>txt, markdown</translation>
+    </message>
+    <message>
+        <source>docx, doc</source>
+        <translation>docx, doc</translation>
+    </message>
+    <message>
+        <source>compile, publish, book, docx, epub, pdf, rtf, print</source>
+        <translation>compile, publish, book, docx, epub, pdf, rtf, print</translation>
+    </message>
+    <message>
+        <source>script, fountain, fdx</source>
+        <translation>script, fountain, fdx</translation>
+    </message>
+    <message>
+        <source>wiki, html, publish</source>
+        <translation>wiki, html, publish</translation>
+    </message>
+    <message>
+        <source>statistics, readability, report</source>
+        <translation>statistics, readability, report</translation>
+    </message>
+    <message>
+        <source>exit, close</source>
+        <translation>exit, close</translation>
+    </message>
+    <message>
+        <source>take back, revert</source>
+        <translation>take back, revert</translation>
+    </message>
+    <message>
+        <source>repeat, again</source>
+        <translation>repeat, again</translation>
+    </message>
+    <message>
+        <source>search</source>
+        <translation>search</translation>
+    </message>
+    <message>
+        <source>substitute, change all</source>
+        <translation>substitute, change all</translation>
+    </message>
+    <message>
+        <source>search everywhere, global search, replace everywhere</source>
+        <translation>search everywhere, global search, replace everywhere</translation>
+    </message>
+    <message>
+        <source>settings, options, configuration, shortcuts, font</source>
+        <translation>settings, options, configuration, shortcuts, font</translation>
+    </message>
+    <message>
+        <source>new scene, new chapter, add</source>
+        <translation>new scene, new chapter, add</translation>
+    </message>
+    <message>
+        <source>new child, new scene in chapter</source>
+        <translation>new child, new scene in chapter</translation>
+    </message>
+    <message>
+        <source>new note, add</source>
+        <translation>new note, add</translation>
+    </message>
+    <message>
+        <source>cut, divide scene</source>
+        <translation>cut, divide scene</translation>
+    </message>
+    <message>
+        <source>outdent, move left</source>
+        <translation>outdent, move left</translation>
+    </message>
+    <message>
+        <source>indent, nest, move right</source>
+        <translation>indent, nest, move right</translation>
+    </message>
+    <message>
+        <source>snapshots, drafts, revisions</source>
+        <translation>snapshots, drafts, revisions</translation>
+    </message>
+    <message>
+        <source>journal, diary, daily note</source>
+        <translation>journal, diary, daily note</translation>
+    </message>
+    <message>
+        <source>focus mode, zen, full screen, composition mode</source>
+        <translation>focus mode, zen, full screen, composition mode</translation>
+    </message>
+    <message>
+        <source>print preview, pages</source>
+        <translation>print preview, pages</translation>
+    </message>
+    <message>
+        <source>restore panels, default windows</source>
+        <translation>restore panels, default windows</translation>
+    </message>
+    <message>
+        <source>workspace, perspective</source>
+        <translation>workspace, perspective</translation>
+    </message>
+    <message>
+        <source>start page, tutorial, sample, example</source>
+        <translation>start page, tutorial, sample, example</translation>
+    </message>
+    <message>
+        <source>upgrade, new version</source>
+        <translation>upgrade, new version</translation>
+    </message>
+    <message>
+        <source>version, licence, credits, folders</source>
+        <translation>version, licence, credits, folders</translation>
     </message>
 </context>
 <context>
@@ -708,6 +949,10 @@
         <source>The project file is gone: %1</source>
         <translation>The project file is gone: %1</translation>
     </message>
+    <message>
+        <source>%1 The file as it was before its unsaved changes were put back is kept as: %2</source>
+        <translation>%1 The file as it was before its unsaved changes were put back is kept as: %2</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::CalendarText</name>
@@ -720,6 +965,136 @@
         <source>Year</source>
         <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
         <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CodexModel</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, category, %n entity(ies)</source>
+        <translation><numerusform>%1, category, %n entity</numerusform><numerusform>%1, category, %n entities</numerusform></translation>
+    </message>
+    <message>
+        <source>%1, pinned</source>
+        <translation>%1, pinned</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+    </message>
+    <message>
+        <source>Also: %1</source>
+        <translation>Also: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Count</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CodexOperations</name>
+    <message>
+        <source>New Category</source>
+        <translation>New Category</translation>
+    </message>
+    <message>
+        <source>New Entity</source>
+        <translation>New Entity</translation>
+    </message>
+    <message>
+        <source>Add entity</source>
+        <translation>Add entity</translation>
+    </message>
+    <message>
+        <source>Add task</source>
+        <translation>Add task</translation>
+    </message>
+    <message>
+        <source>Delete “%1”? Its entities move up to the parent. Edit › Undo will restore it.</source>
+        <translation>Delete “%1”? Its entities move up to the parent. Edit › Undo will restore it.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n category(ies)</source>
+        <translation><numerusform>%n category</numerusform><numerusform>%n categories</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete %1 and %2?</source>
+        <translation>Delete %1 and %2?</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>Delete %1?</translation>
+    </message>
+    <message>
+        <source>Edit › Undo will restore it.</source>
+        <translation>Edit › Undo will restore it.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies) move up.</source>
+        <translation><numerusform>%n entity move up.</numerusform><numerusform>%n entities move up.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Row(s)</source>
+        <translation><numerusform>Delete %n Row</numerusform><numerusform>Delete %n Rows</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Category(ies)</source>
+        <translation><numerusform>Delete %n Category</numerusform><numerusform>Delete %n Categories</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Entity(ies)</source>
+        <translation><numerusform>Delete %n Entity</numerusform><numerusform>Delete %n Entities</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n entity(ies)</source>
+        <translation><numerusform>Delete %n entity</numerusform><numerusform>Delete %n entities</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n category(ies)</source>
+        <translation><numerusform>Delete %n category</numerusform><numerusform>Delete %n categories</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete from the codex</source>
+        <translation>Delete from the codex</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copy)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n entity(ies)</source>
+        <translation><numerusform>Duplicate %n entity</numerusform><numerusform>Duplicate %n entities</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n codex row(s)</source>
+        <translation><numerusform>Move %n codex row</numerusform><numerusform>Move %n codex rows</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Paste %n entity(ies)</source>
+        <translation><numerusform>Paste %n entity</numerusform><numerusform>Paste %n entities</numerusform></translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1377,10 @@
     <message>
         <source>Cannot create taxonomy folder: %1</source>
         <translation>Cannot create taxonomy folder: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>The project folder does not exist: %1</translation>
     </message>
 </context>
 <context>
@@ -1435,6 +1814,45 @@
     </message>
 </context>
 <context>
+    <name>vl::app::QuickOpenModel</name>
+    <message>
+        <source>The current document has no headings.</source>
+        <translation>The current document has no headings.</translation>
+    </message>
+    <message>
+        <source>No heading matches.</source>
+        <translation>No heading matches.</translation>
+    </message>
+    <message>
+        <source>Nothing in this project has a tag.</source>
+        <translation>Nothing in this project has a tag.</translation>
+    </message>
+    <message>
+        <source>No tag matches.</source>
+        <translation>No tag matches.</translation>
+    </message>
+    <message>
+        <source>No command matches.</source>
+        <translation>No command matches.</translation>
+    </message>
+    <message>
+        <source>This project has no documents or entities yet.</source>
+        <translation>This project has no documents or entities yet.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.</source>
+        <translation>Nothing matches “%1”.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 – also “%2”</source>
+        <translation>%1 – also “%2”</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ReckoningView</name>
     <message>
         <source>New reckoning</source>
@@ -1838,6 +2256,10 @@
     <message>
         <source>Another project stands there: %1</source>
         <translation>Another project stands there: %1</translation>
+    </message>
+    <message>
+        <source>The folder is not an Ivorel project (no project.json): %1</source>
+        <translation>The folder is not an Ivorel project (no project.json): %1</translation>
     </message>
 </context>
 <context>
@@ -2278,6 +2700,221 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::CodexPanel</name>
+    <message>
+        <source>Category…</source>
+        <translation>Category…</translation>
+    </message>
+    <message>
+        <source>Subcategory…</source>
+        <translation>Subcategory…</translation>
+    </message>
+    <message>
+        <source>Entity…</source>
+        <translation>Entity…</translation>
+    </message>
+    <message>
+        <source>Entity from Template…</source>
+        <translation>Entity from Template…</translation>
+    </message>
+    <message>
+        <source>Field…</source>
+        <translation>Field…</translation>
+    </message>
+    <message>
+        <source>Task for Entity…</source>
+        <translation>Task for Entity…</translation>
+    </message>
+    <message>
+        <source>Rename Entity…</source>
+        <translation>Rename Entity…</translation>
+    </message>
+    <message>
+        <source>Duplicate Entity</source>
+        <translation>Duplicate Entity</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Rename Category…</source>
+        <translation>Rename Category…</translation>
+    </message>
+    <message>
+        <source>Delete Entity</source>
+        <translation>Delete Entity</translation>
+    </message>
+    <message>
+        <source>Delete Category</source>
+        <translation>Delete Category</translation>
+    </message>
+    <message>
+        <source>Toggle Pin</source>
+        <translation>Toggle Pin</translation>
+    </message>
+    <message>
+        <source>Edit Tags…</source>
+        <translation>Edit Tags…</translation>
+    </message>
+    <message>
+        <source>Save Entity as Template…</source>
+        <translation>Save Entity as Template…</translation>
+    </message>
+    <message>
+        <source>Manage Entity Templates…</source>
+        <translation>Manage Entity Templates…</translation>
+    </message>
+    <message>
+        <source>Merge Entity Into…</source>
+        <translation>Merge Entity Into…</translation>
+    </message>
+    <message>
+        <source>Split Entity…</source>
+        <translation>Split Entity…</translation>
+    </message>
+    <message>
+        <source>State Over Time…</source>
+        <translation>State Over Time…</translation>
+    </message>
+    <message>
+        <source>Draft Details with AI…</source>
+        <translation>Draft Details with AI…</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>New Entity</source>
+        <translation>New Entity</translation>
+    </message>
+    <message>
+        <source>New ▾</source>
+        <translation>New ▾</translation>
+    </message>
+    <message>
+        <source>Add to the codex</source>
+        <translation>Add to the codex</translation>
+    </message>
+    <message>
+        <source>More ▾</source>
+        <translation>More ▾</translation>
+    </message>
+    <message>
+        <source>Change what is selected in the codex</source>
+        <translation>Change what is selected in the codex</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter the codex by name, alias or tag</source>
+        <translation>Filter the codex by name, alias or tag</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Codex</translation>
+    </message>
+    <message>
+        <source>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</source>
+        <translation>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>The people, places and things of your world stand here, sorted into categories.</source>
+        <translation>The people, places and things of your world stand here, sorted into categories.</translation>
+    </message>
+    <message>
+        <source>Add the First Category</source>
+        <translation>Add the First Category</translation>
+    </message>
+    <message>
+        <source>Nothing in the codex has this name, alias or tag.</source>
+        <translation>Nothing in the codex has this name, alias or tag.</translation>
+    </message>
+    <message>
+        <source>Clear the Filter</source>
+        <translation>Clear the Filter</translation>
+    </message>
+    <message>
+        <source>Entity from Template</source>
+        <translation>Entity from Template</translation>
+    </message>
+    <message>
+        <source>Template:</source>
+        <translation>Template:</translation>
+    </message>
+    <message>
+        <source>Add Entity</source>
+        <translation>Add Entity</translation>
+    </message>
+    <message>
+        <source>The field “%1” was added.</source>
+        <translation>The field “%1” was added.</translation>
+    </message>
+    <message>
+        <source>Task for Entity</source>
+        <translation>Task for Entity</translation>
+    </message>
+    <message>
+        <source>Task:</source>
+        <translation>Task:</translation>
+    </message>
+    <message>
+        <source>The task “%1” was added.</source>
+        <translation>The task “%1” was added.</translation>
+    </message>
+    <message>
+        <source>%1 done.</source>
+        <translation>%1 done.</translation>
+    </message>
+    <message>
+        <source>Tags that all of them have, separated by commas:</source>
+        <translation>Tags that all of them have, separated by commas:</translation>
+    </message>
+    <message>
+        <source>Tags, separated by commas:</source>
+        <translation>Tags, separated by commas:</translation>
+    </message>
+    <message>
+        <source>Edit Tags</source>
+        <translation>Edit Tags</translation>
+    </message>
+    <message>
+        <source>Save Entity as Template</source>
+        <translation>Save Entity as Template</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>The template “%1” was saved.</source>
+        <translation>The template “%1” was saved.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2450,6 +3087,61 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FieldDialog</name>
+    <message>
+        <source>&amp;Options, one a line:</source>
+        <translation>&amp;Options, one a line:</translation>
+    </message>
+    <message>
+        <source>To be filled for every &amp;entity</source>
+        <translation>To be filled for every &amp;entity</translation>
+    </message>
+    <message>
+        <source>Options, one a line</source>
+        <translation>Options, one a line</translation>
+    </message>
+    <message>
+        <source>Label of the field</source>
+        <translation>Label of the field</translation>
+    </message>
+    <message>
+        <source>Type of the field</source>
+        <translation>Type of the field</translation>
+    </message>
+    <message>
+        <source>What to fill in</source>
+        <translation>What to fill in</translation>
+    </message>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Label:</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Type:</translation>
+    </message>
+    <message>
+        <source>&amp;Help text:</source>
+        <translation>&amp;Help text:</translation>
+    </message>
+    <message>
+        <source>New Field of “%1”</source>
+        <translation>New Field of “%1”</translation>
+    </message>
+    <message>
+        <source>Add Field</source>
+        <translation>Add Field</translation>
+    </message>
+    <message>
+        <source>Field “%1”</source>
+        <translation>Field “%1”</translation>
+    </message>
+    <message>
+        <source>Change Field</source>
+        <translation>Change Field</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Layouts</name>
     <message>
         <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
@@ -2562,6 +3254,67 @@
     <message>
         <source>Undo</source>
         <translation>Undo</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::Palette</name>
+    <message>
+        <source>Command palette</source>
+        <translation>Command palette</translation>
+    </message>
+    <message>
+        <source>Search documents and entities…</source>
+        <translation>Search documents and entities…</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>What was found</translation>
+    </message>
+    <message>
+        <source>&gt; commands    # tags    @ headings</source>
+        <translation>&gt; commands    # tags    @ headings</translation>
+    </message>
+    <message>
+        <source>How much was found</source>
+        <translation>How much was found</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::PaletteHost</name>
+    <message>
+        <source>Go to Panel: %1</source>
+        <translation>Go to Panel: %1</translation>
+    </message>
+    <message>
+        <source>show, open</source>
+        <translation>show, open</translation>
+    </message>
+    <message>
+        <source>Not possible at the moment</source>
+        <translation>Not possible at the moment</translation>
+    </message>
+    <message>
+        <source>Not part of this version</source>
+        <translation>Not part of this version</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::PickDialog</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation>Filter the list</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
     </message>
 </context>
 <context>

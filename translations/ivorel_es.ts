@@ -348,10 +348,251 @@
     </message>
 </context>
 <context>
+    <name>ContentKinds</name>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Chart</source>
+        <translation>Gráfico</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Mapa</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline event</source>
+        <translation>Acontecimiento</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>Canvas</source>
+        <translation>Lienzo</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Random table</source>
+        <translation>Tabla aleatoria</translation>
+    </message>
+    <message>
+        <source>Stat block</source>
+        <translation>Ficha de juego</translation>
+    </message>
+</context>
+<context>
+    <name>FieldTypes</name>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Yes or no</source>
+        <translation>Sí o no</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Opción</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <translation>Dirección web</translation>
+    </message>
+</context>
+<context>
     <name>Languages</name>
     <message>
         <source>The interface language will change to “%1” when you restart Ivorel.</source>
         <translation>El idioma de la interfaz cambiará a «%1» cuando reinicie Ivorel.</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWords</name>
+    <message>
+        <source>create, start, template</source>
+        <translation>crear, empezar, plantilla</translation>
+    </message>
+    <message>
+        <source>load</source>
+        <translation>cargar</translation>
+    </message>
+    <message>
+        <source>load directory</source>
+        <translation>cargar directorio</translation>
+    </message>
+    <message>
+        <source>command palette, go to, jump to, search</source>
+        <translation>paleta de órdenes, ir a, saltar a, buscar</translation>
+    </message>
+    <message>
+        <source>save a copy, duplicate project</source>
+        <translation>guardar una copia, duplicar proyecto</translation>
+    </message>
+    <message>
+        <source>export project, unpack</source>
+        <translation>exportar proyecto, desempaquetar</translation>
+    </message>
+    <message>
+        <source>backup, snapshot, safety copy</source>
+        <translation>respaldo, instantánea, copia de seguridad</translation>
+    </message>
+    <message>
+        <source>reload, sync, merge, conflicts</source>
+        <translation>recargar, sincronizar, fusionar, conflictos</translation>
+    </message>
+    <message>
+        <source>txt, markdown</source>
+        <translation>txt, markdown</translation>
+    </message>
+    <message>
+        <source>docx, doc</source>
+        <translation>docx, doc</translation>
+    </message>
+    <message>
+        <source>compile, publish, book, docx, epub, pdf, rtf, print</source>
+        <translation>compilar, publicar, libro, docx, epub, pdf, rtf, imprimir</translation>
+    </message>
+    <message>
+        <source>script, fountain, fdx</source>
+        <translation>guion, fountain, fdx</translation>
+    </message>
+    <message>
+        <source>wiki, html, publish</source>
+        <translation>wiki, html, publicar</translation>
+    </message>
+    <message>
+        <source>statistics, readability, report</source>
+        <translation>estadísticas, legibilidad, informe</translation>
+    </message>
+    <message>
+        <source>exit, close</source>
+        <translation>salir, cerrar</translation>
+    </message>
+    <message>
+        <source>take back, revert</source>
+        <translation>revertir, volver atrás</translation>
+    </message>
+    <message>
+        <source>repeat, again</source>
+        <translation>repetir, otra vez</translation>
+    </message>
+    <message>
+        <source>search</source>
+        <translation>buscar</translation>
+    </message>
+    <message>
+        <source>substitute, change all</source>
+        <translation>sustituir, cambiar todo</translation>
+    </message>
+    <message>
+        <source>search everywhere, global search, replace everywhere</source>
+        <translation>buscar en todo, búsqueda global, reemplazar en todo</translation>
+    </message>
+    <message>
+        <source>settings, options, configuration, shortcuts, font</source>
+        <translation>ajustes, opciones, configuración, atajos, letra</translation>
+    </message>
+    <message>
+        <source>new scene, new chapter, add</source>
+        <translation>escena nueva, capítulo nuevo, añadir</translation>
+    </message>
+    <message>
+        <source>new child, new scene in chapter</source>
+        <translation>hijo nuevo, escena nueva en el capítulo</translation>
+    </message>
+    <message>
+        <source>new note, add</source>
+        <translation>nota nueva, añadir</translation>
+    </message>
+    <message>
+        <source>cut, divide scene</source>
+        <translation>cortar, dividir escena</translation>
+    </message>
+    <message>
+        <source>outdent, move left</source>
+        <translation>quitar sangría, mover a la izquierda</translation>
+    </message>
+    <message>
+        <source>indent, nest, move right</source>
+        <translation>sangrar, anidar, mover a la derecha</translation>
+    </message>
+    <message>
+        <source>snapshots, drafts, revisions</source>
+        <translation>instantáneas, borradores, revisiones</translation>
+    </message>
+    <message>
+        <source>journal, diary, daily note</source>
+        <translation>diario, nota diaria</translation>
+    </message>
+    <message>
+        <source>focus mode, zen, full screen, composition mode</source>
+        <translation>modo concentración, zen, pantalla completa</translation>
+    </message>
+    <message>
+        <source>print preview, pages</source>
+        <translation>vista previa de impresión, páginas</translation>
+    </message>
+    <message>
+        <source>restore panels, default windows</source>
+        <translation>restaurar paneles, ventanas iniciales</translation>
+    </message>
+    <message>
+        <source>workspace, perspective</source>
+        <translation>espacio de trabajo, perspectiva</translation>
+    </message>
+    <message>
+        <source>start page, tutorial, sample, example</source>
+        <translation>página de inicio, tutorial, ejemplo</translation>
+    </message>
+    <message>
+        <source>upgrade, new version</source>
+        <translation>actualizar, versión nueva</translation>
+    </message>
+    <message>
+        <source>version, licence, credits, folders</source>
+        <translation>versión, licencia, créditos, carpetas</translation>
     </message>
 </context>
 <context>
@@ -708,6 +949,10 @@
         <source>The project file is gone: %1</source>
         <translation>El archivo del proyecto ya no está: %1</translation>
     </message>
+    <message>
+        <source>%1 The file as it was before its unsaved changes were put back is kept as: %2</source>
+        <translation>%1 El archivo tal como estaba antes de recuperar sus cambios sin guardar se conserva como: %2</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::CalendarText</name>
@@ -720,6 +965,136 @@
         <source>Year</source>
         <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
         <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CodexModel</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, category, %n entity(ies)</source>
+        <translation><numerusform>%1, categoría, %n entidad</numerusform><numerusform>%1, categoría, %n entidades</numerusform></translation>
+    </message>
+    <message>
+        <source>%1, pinned</source>
+        <translation>%1, fijado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+    </message>
+    <message>
+        <source>Also: %1</source>
+        <translation>También: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>De %1 a %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Cantidad</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CodexOperations</name>
+    <message>
+        <source>New Category</source>
+        <translation>Categoría nueva</translation>
+    </message>
+    <message>
+        <source>New Entity</source>
+        <translation>Entidad nueva</translation>
+    </message>
+    <message>
+        <source>Add entity</source>
+        <translation>Añadir entidad</translation>
+    </message>
+    <message>
+        <source>Add task</source>
+        <translation>Añadir tarea</translation>
+    </message>
+    <message>
+        <source>Delete “%1”? Its entities move up to the parent. Edit › Undo will restore it.</source>
+        <translation>¿Eliminar «%1»? Sus entidades pasan a la categoría superior. Edición › Deshacer la recupera.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <translation>¿Eliminar «%1»?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n category(ies)</source>
+        <translation><numerusform>%n categoría</numerusform><numerusform>%n categorías</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete %1 and %2?</source>
+        <translation>¿Eliminar %1 y %2?</translation>
+    </message>
+    <message>
+        <source>Delete %1?</source>
+        <translation>¿Eliminar %1?</translation>
+    </message>
+    <message>
+        <source>Edit › Undo will restore it.</source>
+        <translation>Edición › Deshacer lo recupera.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies) move up.</source>
+        <translation><numerusform>%n entidad sube de nivel.</numerusform><numerusform>%n entidades suben de nivel.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Row(s)</source>
+        <translation><numerusform>Eliminar %n fila</numerusform><numerusform>Eliminar %n filas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Category(ies)</source>
+        <translation><numerusform>Eliminar %n categoría</numerusform><numerusform>Eliminar %n categorías</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Entity(ies)</source>
+        <translation><numerusform>Eliminar %n entidad</numerusform><numerusform>Eliminar %n entidades</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n entity(ies)</source>
+        <translation><numerusform>Eliminar %n entidad</numerusform><numerusform>Eliminar %n entidades</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n category(ies)</source>
+        <translation><numerusform>Eliminar %n categoría</numerusform><numerusform>Eliminar %n categorías</numerusform></translation>
+    </message>
+    <message>
+        <source>Delete from the codex</source>
+        <translation>Eliminar del códice</translation>
+    </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copia)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Duplicate %n entity(ies)</source>
+        <translation><numerusform>Duplicar %n entidad</numerusform><numerusform>Duplicar %n entidades</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n codex row(s)</source>
+        <translation><numerusform>Mover %n fila del códice</numerusform><numerusform>Mover %n filas del códice</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Paste %n entity(ies)</source>
+        <translation><numerusform>Pegar %n entidad</numerusform><numerusform>Pegar %n entidades</numerusform></translation>
     </message>
 </context>
 <context>
@@ -1002,6 +1377,10 @@
     <message>
         <source>Cannot create taxonomy folder: %1</source>
         <translation>No se puede crear la carpeta de categorías: %1</translation>
+    </message>
+    <message>
+        <source>The project folder does not exist: %1</source>
+        <translation>La carpeta del proyecto no existe: %1</translation>
     </message>
 </context>
 <context>
@@ -1435,6 +1814,45 @@
     </message>
 </context>
 <context>
+    <name>vl::app::QuickOpenModel</name>
+    <message>
+        <source>The current document has no headings.</source>
+        <translation>El documento actual no tiene títulos.</translation>
+    </message>
+    <message>
+        <source>No heading matches.</source>
+        <translation>Ningún título coincide.</translation>
+    </message>
+    <message>
+        <source>Nothing in this project has a tag.</source>
+        <translation>Nada en este proyecto tiene etiquetas.</translation>
+    </message>
+    <message>
+        <source>No tag matches.</source>
+        <translation>Ninguna etiqueta coincide.</translation>
+    </message>
+    <message>
+        <source>No command matches.</source>
+        <translation>Ninguna orden coincide.</translation>
+    </message>
+    <message>
+        <source>This project has no documents or entities yet.</source>
+        <translation>Este proyecto aún no tiene documentos ni entidades.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.</source>
+        <translation>Nada coincide con «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 – also “%2”</source>
+        <translation>%1 – también «%2»</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ReckoningView</name>
     <message>
         <source>New reckoning</source>
@@ -1838,6 +2256,10 @@
     <message>
         <source>Another project stands there: %1</source>
         <translation>Ahí hay otro proyecto: %1</translation>
+    </message>
+    <message>
+        <source>The folder is not an Ivorel project (no project.json): %1</source>
+        <translation>La carpeta no es un proyecto de Ivorel (falta project.json): %1</translation>
     </message>
 </context>
 <context>
@@ -2278,6 +2700,221 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::CodexPanel</name>
+    <message>
+        <source>Category…</source>
+        <translation>Categoría…</translation>
+    </message>
+    <message>
+        <source>Subcategory…</source>
+        <translation>Subcategoría…</translation>
+    </message>
+    <message>
+        <source>Entity…</source>
+        <translation>Entidad…</translation>
+    </message>
+    <message>
+        <source>Entity from Template…</source>
+        <translation>Entidad a partir de plantilla…</translation>
+    </message>
+    <message>
+        <source>Field…</source>
+        <translation>Campo…</translation>
+    </message>
+    <message>
+        <source>Task for Entity…</source>
+        <translation>Tarea para la entidad…</translation>
+    </message>
+    <message>
+        <source>Rename Entity…</source>
+        <translation>Cambiar el nombre de la entidad…</translation>
+    </message>
+    <message>
+        <source>Duplicate Entity</source>
+        <translation>Duplicar entidad</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Rename Category…</source>
+        <translation>Cambiar el nombre de la categoría…</translation>
+    </message>
+    <message>
+        <source>Delete Entity</source>
+        <translation>Eliminar entidad</translation>
+    </message>
+    <message>
+        <source>Delete Category</source>
+        <translation>Eliminar categoría</translation>
+    </message>
+    <message>
+        <source>Toggle Pin</source>
+        <translation>Fijar o soltar</translation>
+    </message>
+    <message>
+        <source>Edit Tags…</source>
+        <translation>Editar etiquetas…</translation>
+    </message>
+    <message>
+        <source>Save Entity as Template…</source>
+        <translation>Guardar la entidad como plantilla…</translation>
+    </message>
+    <message>
+        <source>Manage Entity Templates…</source>
+        <translation>Gestionar las plantillas de entidad…</translation>
+    </message>
+    <message>
+        <source>Merge Entity Into…</source>
+        <translation>Fusionar la entidad con…</translation>
+    </message>
+    <message>
+        <source>Split Entity…</source>
+        <translation>Dividir la entidad…</translation>
+    </message>
+    <message>
+        <source>State Over Time…</source>
+        <translation>Estado a lo largo del tiempo…</translation>
+    </message>
+    <message>
+        <source>Draft Details with AI…</source>
+        <translation>Redactar detalles con IA…</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>New Entity</source>
+        <translation>Entidad nueva</translation>
+    </message>
+    <message>
+        <source>New ▾</source>
+        <translation>Nuevo ▾</translation>
+    </message>
+    <message>
+        <source>Add to the codex</source>
+        <translation>Añadir al códice</translation>
+    </message>
+    <message>
+        <source>More ▾</source>
+        <translation>Más ▾</translation>
+    </message>
+    <message>
+        <source>Change what is selected in the codex</source>
+        <translation>Cambia lo seleccionado en el códice</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Filter the codex by name, alias or tag</source>
+        <translation>Filtrar el códice por nombre, alias o etiqueta</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Borrar el filtro</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Códice</translation>
+    </message>
+    <message>
+        <source>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</source>
+        <translation>El códice de su mundo: categorías y entidades. Botón derecho para las acciones; F2 cambia el nombre, Supr elimina.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>The people, places and things of your world stand here, sorted into categories.</source>
+        <translation>Aquí están las personas, los lugares y las cosas de su mundo, ordenados por categorías.</translation>
+    </message>
+    <message>
+        <source>Add the First Category</source>
+        <translation>Añadir la primera categoría</translation>
+    </message>
+    <message>
+        <source>Nothing in the codex has this name, alias or tag.</source>
+        <translation>Nada en el códice tiene este nombre, alias o etiqueta.</translation>
+    </message>
+    <message>
+        <source>Clear the Filter</source>
+        <translation>Borrar el filtro</translation>
+    </message>
+    <message>
+        <source>Entity from Template</source>
+        <translation>Entidad a partir de plantilla</translation>
+    </message>
+    <message>
+        <source>Template:</source>
+        <translation>Plantilla:</translation>
+    </message>
+    <message>
+        <source>Add Entity</source>
+        <translation>Añadir entidad</translation>
+    </message>
+    <message>
+        <source>The field “%1” was added.</source>
+        <translation>Se añadió el campo «%1».</translation>
+    </message>
+    <message>
+        <source>Task for Entity</source>
+        <translation>Tarea para la entidad</translation>
+    </message>
+    <message>
+        <source>Task:</source>
+        <translation>Tarea:</translation>
+    </message>
+    <message>
+        <source>The task “%1” was added.</source>
+        <translation>Se añadió la tarea «%1».</translation>
+    </message>
+    <message>
+        <source>%1 done.</source>
+        <translation>%1: hecho.</translation>
+    </message>
+    <message>
+        <source>Tags that all of them have, separated by commas:</source>
+        <translation>Etiquetas que todos tienen, separadas por comas:</translation>
+    </message>
+    <message>
+        <source>Tags, separated by commas:</source>
+        <translation>Etiquetas, separadas por comas:</translation>
+    </message>
+    <message>
+        <source>Edit Tags</source>
+        <translation>Editar etiquetas</translation>
+    </message>
+    <message>
+        <source>Save Entity as Template</source>
+        <translation>Guardar la entidad como plantilla</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>The template “%1” was saved.</source>
+        <translation>Se guardó la plantilla «%1».</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2450,6 +3087,61 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FieldDialog</name>
+    <message>
+        <source>&amp;Options, one a line:</source>
+        <translation>&amp;Opciones, una por línea:</translation>
+    </message>
+    <message>
+        <source>To be filled for every &amp;entity</source>
+        <translation>Se debe rellenar en cada &amp;entidad</translation>
+    </message>
+    <message>
+        <source>Options, one a line</source>
+        <translation>Opciones, una por línea</translation>
+    </message>
+    <message>
+        <source>Label of the field</source>
+        <translation>Etiqueta del campo</translation>
+    </message>
+    <message>
+        <source>Type of the field</source>
+        <translation>Tipo del campo</translation>
+    </message>
+    <message>
+        <source>What to fill in</source>
+        <translation>Qué rellenar</translation>
+    </message>
+    <message>
+        <source>&amp;Label:</source>
+        <translation>&amp;Etiqueta:</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Tipo:</translation>
+    </message>
+    <message>
+        <source>&amp;Help text:</source>
+        <translation>Texto de a&amp;yuda:</translation>
+    </message>
+    <message>
+        <source>New Field of “%1”</source>
+        <translation>Campo nuevo de «%1»</translation>
+    </message>
+    <message>
+        <source>Add Field</source>
+        <translation>Añadir campo</translation>
+    </message>
+    <message>
+        <source>Field “%1”</source>
+        <translation>Campo «%1»</translation>
+    </message>
+    <message>
+        <source>Change Field</source>
+        <translation>Cambiar campo</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Layouts</name>
     <message>
         <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
@@ -2562,6 +3254,67 @@
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::Palette</name>
+    <message>
+        <source>Command palette</source>
+        <translation>Paleta de órdenes</translation>
+    </message>
+    <message>
+        <source>Search documents and entities…</source>
+        <translation>Buscar documentos y entidades…</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Lo encontrado</translation>
+    </message>
+    <message>
+        <source>&gt; commands    # tags    @ headings</source>
+        <translation>&gt; órdenes    # etiquetas    @ títulos</translation>
+    </message>
+    <message>
+        <source>How much was found</source>
+        <translation>Cuánto se encontró</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::PaletteHost</name>
+    <message>
+        <source>Go to Panel: %1</source>
+        <translation>Ir al panel: %1</translation>
+    </message>
+    <message>
+        <source>show, open</source>
+        <translation>mostrar, abrir</translation>
+    </message>
+    <message>
+        <source>Not possible at the moment</source>
+        <translation>No es posible en este momento</translation>
+    </message>
+    <message>
+        <source>Not part of this version</source>
+        <translation>No forma parte de esta versión</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::PickDialog</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation>Filtrar la lista</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Borrar el filtro</translation>
     </message>
 </context>
 <context>
