@@ -58,6 +58,15 @@ const CommandRow rows[] = {
      QT_TRANSLATE_NOOP("vl::cli::Catalogue",
                        "Make a project from a “markdown” or “text” source, or add to one"),
      runImport},
+    {"repair", "PROJECT COPY",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue",
+                       "Write a copy that loads, and name each file that it leaves out"),
+     runRepair},
+    {"backups", "PROJECT",
+     QT_TRANSLATE_NOOP("vl::cli::Catalogue",
+                       "List the backups of a project, newest first: file, date, size in bytes, "
+                       "documents, words"),
+     runBackups},
     {"batch", "", QT_TRANSLATE_NOOP("vl::cli::Catalogue", "Answer JSON requests, one a line"),
      runBatch},
 };

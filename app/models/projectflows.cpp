@@ -2,6 +2,7 @@
 
 #include "app/base/settings.h"
 #include "app/models/prompts.h"
+#include "app/models/repairflow.h"
 #include "app/models/workspace.h"
 
 namespace vl::app {
@@ -35,7 +36,9 @@ bool ProjectFlows::open(const QString &path)
 {
     Result<std::unique_ptr<OpenProject>> opened = OpenProject::open(path);
     if (!opened)
-        return report(tr("Open Project"), opened.message());
+        return RepairFlow(m_prompts, StorageLocations::standard(),
+                          [this](const QString &other) { return open(other); })
+            .offer(path, opened.message());
     m_workspace.replaceProject(*std::move(opened));
     m_settings.addRecentProject(path);
     return true;

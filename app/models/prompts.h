@@ -5,6 +5,9 @@
 
 namespace vl::app {
 
+struct DamagedProject;
+enum class DamageAnswer;
+
 /// What a flow asks of the user. The program answers with dialogs, a test with what it likes.
 class Prompts
 {
@@ -33,6 +36,8 @@ public:
     virtual QString chooseOne(const QString &title, const QString &label,
                               const QStringList &texts) = 0;
     virtual void showError(const QString &title, const QString &message) = 0;
+    /// Tells why a project does not load, and asks what to do about it.
+    virtual DamageAnswer askDamaged(const DamagedProject &project) = 0;
 
 protected:
     Prompts() = default;

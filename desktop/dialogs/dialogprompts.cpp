@@ -1,5 +1,7 @@
 #include "desktop/dialogs/dialogprompts.h"
 
+#include "desktop/dialogs/damagedprojectdialog.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
@@ -98,6 +100,13 @@ void DialogPrompts::showError(const QString &title, const QString &message)
     QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok, m_window);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+app::DamageAnswer DialogPrompts::askDamaged(const app::DamagedProject &project)
+{
+    DamagedProjectDialog dialog(project, m_window);
+    dialog.exec();
+    return dialog.answer();
 }
 
 } // namespace vl::desktop

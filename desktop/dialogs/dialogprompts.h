@@ -29,6 +29,7 @@ public:
     QString chooseOne(const QString &title, const QString &label,
                       const QStringList &texts) override;
     void showError(const QString &title, const QString &message) override;
+    app::DamageAnswer askDamaged(const app::DamagedProject &project) override;
 
 private:
     QWidget *m_window;

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void packAndUnpack();
     void readingTouchesNothing_data();
     void readingTouchesNothing();
+    void repairsACopy();
+    void listsBackups();
     void texts_data();
     void texts();
     void exportsRtf();
@@ -110,7 +112,7 @@ void TestCliProjects::usage_data()
     row("nix", "Unknown command: nix", "COMMAND [ARGUMENT…]");
     row("--nix", "Unknown option: --nix", "COMMAND [ARGUMENT…]");
     row("Info a", "Unknown command: Info", "COMMAND [ARGUMENT…]");
-    row("repair a b", "Unknown command: repair", "COMMAND [ARGUMENT…]");
+    row("mend a b", "Unknown command: mend", "COMMAND [ARGUMENT…]");
     row("info", "PROJECT is missing.", "info PROJECT [--json]");
     row("info a b", "Too many arguments: b", "info PROJECT [--json]");
     row("info a --name", "Unknown option: --name", "info PROJECT [--json]");
@@ -153,7 +155,7 @@ void TestCliProjects::helpNamesWhatThereIs()
         QCOMPARE(each.status, 0);
         QVERIFY(each.output.startsWith("Usage: ivorel-cli " + command.toUtf8()));
     }
-    for (const char *later : {"repair", "backups", "ask"})
+    for (const char *later : {"ask"})
         QVERIFY(!commands.contains(text(later)));
     QVERIFY(run("--version").output.startsWith("ivorel-cli "));
 }
@@ -389,6 +391,51 @@ void TestCliProjects::readingTouchesNothing()
     }
     QCOMPARE(filesUnder(folder), before);
     QCOMPARE(namesIn(folder), QStringList{text("un été")}); // no working copy either
+}
+
+void TestCliProjects::repairsACopy()
+{
+    makeFullProject();
+    const QString damaged =
+        text("objects/%1.json").arg(QString::fromStdString("0f8b2a34-5c6d-4e7f-8a9b-0c1d2e3f4a5b"));
+    Outcome outcome = run("repair full same");
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.output, QByteArray());
+    QCOMPARE(filesUnder(at("same")), filesUnder(at("full")));
+
+    putFile(at("full/") + damaged, "{\"id\": ");
+    const FileMap before = filesUnder(at("full"));
+    outcome = run("repair full copy.vellum");
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(QString::fromUtf8(outcome.output),
+             text("%1: Invalid JSON in file: %2\n").arg(damaged, at("full/") + damaged));
+    QCOMPARE(run("validate copy.vellum").status, 0);
+    QCOMPARE(filesUnder(at("full")), before);
+    QCOMPARE(run("repair full copy.vellum").status, 3); // it stands there already
+    QCOMPARE(run("repair nowhere.vellum other").status, 3);
+}
+
+void TestCliProjects::listsBackups()
+{
+    makeFullProject();
+    QCOMPARE(run("backups full").output, QByteArray());
+    const QString name = text("full-20240506T070809010Z-0000.vlbackup");
+    QCOMPARE(run("pack full one.vellum").status, 0);
+    const QString folder = m_folder->filePath(text("data/Quessel Games/Ivorel/backups"));
+    putFile(folder + text("/") + name, fileBytes(at("one.vellum")));
+    putFile(folder + text("/full-20230506T070809010Z-0000.vlbackup"), "damaged");
+    const Outcome outcome = run("backups full");
+    QCOMPARE(outcome.status, 0);
+    const QStringList lines = QString::fromUtf8(outcome.output).split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 3);
+    const QStringList first = lines.at(0).split(QLatin1Char('\t'));
+    QCOMPARE(first.value(0), folder + text("/") + name);
+    QCOMPARE(first.value(1), text("2024-05-06T07:08:09Z"));
+    QCOMPARE(first.value(2).toLongLong(), qint64(fileBytes(at("one.vellum")).size()));
+    QCOMPARE(first.value(3), text("3"));
+    QVERIFY(first.value(4).toInt() > 0);
+    QVERIFY(lines.at(1).endsWith(text("\t7\t-\t-")));
+    QVERIFY(!outcome.messages.isEmpty());
 }
 
 void TestCliProjects::texts_data()

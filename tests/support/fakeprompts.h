@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/prompts.h"
+#include "app/models/repairflow.h"
 
 namespace vl::test {
 
@@ -37,6 +38,13 @@ public:
     QString chooseOne(const QString &, const QString &, const QStringList &texts) override
     {
         return texts.value(choice);
+    }
+    app::DamageAnswer damageAnswer = app::DamageAnswer::Close;
+    QList<app::DamagedProject> damaged; ///< what was told
+    app::DamageAnswer askDamaged(const app::DamagedProject &project) override
+    {
+        damaged.append(project);
+        return damageAnswer;
     }
     void showError(const QString &, const QString &message) override { errors.append(message); }
 };

@@ -1,0 +1,94 @@
+#include "app/models/repairflow.h"
+
+#include "app/models/backupkeeper.h"
+#include "app/models/prompts.h"
+#include "app/storage/autobackups.h"
+
+#include <QtCore/QFileInfo>
+
+namespace vl::app {
+
+namespace {
+
+QString nameOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isDir() ? info.fileName() : info.completeBaseName();
+}
+
+} // namespace
+
+bool RepairFlow::offer(const QString &path, const QString &message)
+{
+    if (!QFileInfo::exists(path))
+        return report(message);
+    const Result<ProjectRepair> repair = ProjectRepair::examine(path, m_locations);
+    DamagedProject damaged;
+    damaged.path = path;
+    damaged.message = message;
+    if (repair) {
+        damaged.leftOut = repair->leftOut();
+        damaged.conflicts = repair->conflicts();
+        damaged.fromWorkingCopy = repair->fromWorkingCopy();
+        damaged.isRepairable = !damaged.leftOut.empty() || !damaged.fromWorkingCopy.isEmpty();
+    }
+    QString backupPath;
+    const AutoBackups backups(path, m_locations, &summarizeBackup);
+    for (const BackupInfo &backup : backups.list()) {
+        if (!loadBackup(backup.path))
+            continue;
+        damaged.hasBackup = true;
+        damaged.newestBackup = backup.time;
+        backupPath = backup.path;
+        break;
+    }
+    if (!damaged.isRepairable && !damaged.hasBackup)
+        return report(message);
+    switch (m_prompts.askDamaged(damaged)) {
+    case DamageAnswer::OpenBackup:
+        return !backupPath.isEmpty() && openBackup(path, backupPath);
+    case DamageAnswer::RepairedCopy:
+        return repair && openRepairedCopy(*repair);
+    case DamageAnswer::SetAside:
+        return repair && setAside(*repair);
+    case DamageAnswer::Close:
+        break;
+    }
+    return false;
+}
+
+bool RepairFlow::openBackup(const QString &path, const QString &backupPath)
+{
+    const QString target = m_prompts.chooseBundleToSave(tr("%1 (backup)").arg(nameOf(path)));
+    if (target.isEmpty())
+        return false;
+    if (const Result<> copied = copyBackup(backupPath, target); !copied)
+        return report(copied.message());
+    return m_open(target);
+}
+
+bool RepairFlow::openRepairedCopy(const ProjectRepair &repair)
+{
+    const QString target =
+        m_prompts.chooseBundleToSave(tr("%1 (repaired)").arg(nameOf(repair.path())));
+    if (target.isEmpty())
+        return false;
+    if (const Result<> written = repair.writeCopy(target); !written)
+        return report(written.message());
+    return m_open(target);
+}
+
+bool RepairFlow::setAside(const ProjectRepair &repair)
+{
+    if (const Result<> moved = repair.setConflictsAside(m_locations); !moved)
+        return report(moved.message());
+    return m_open(repair.path());
+}
+
+bool RepairFlow::report(const QString &message)
+{
+    m_prompts.showError(tr("Open Project"), message);
+    return false;
+}
+
+} // namespace vl::app

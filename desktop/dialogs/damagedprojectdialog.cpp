@@ -1,0 +1,134 @@
+#include "desktop/dialogs/damagedprojectdialog.h"
+
+#include "app/models/readablefile.h"
+#include "desktop/dialogs/differenceview.h"
+#include "desktop/widgets/grid.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLocale>
+#include <QtWidgets/QCommandLinkButton>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+namespace vl::desktop {
+
+DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget *parent)
+    : QDialog(parent)
+    , m_project(std::move(project))
+{
+    setWindowTitle(tr("Open Project"));
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(grid(6), grid(6), grid(6), grid(6));
+    layout->setSpacing(grid(4));
+    auto *what = new QLabel(tr("The project does not load. Nothing in it was changed."), this);
+    QFont bold = what->font();
+    bold.setBold(true);
+    what->setFont(bold);
+    auto *why = new QLabel(m_project.message, this);
+    why->setTextFormat(Qt::PlainText);
+    why->setWordWrap(true);
+    why->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(what);
+    layout->addWidget(why);
+    if (!m_project.leftOut.empty())
+        addFiles(layout);
+    addAnswers(layout);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    layout->addWidget(buttons);
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
+    resize(grid(180), grid(m_project.leftOut.empty() ? 60 : 140));
+}
+
+void DamagedProjectDialog::addFiles(QLayout *layout)
+{
+    const auto count = int(m_project.leftOut.size());
+    auto *caption = new QLabel(tr("A repaired copy leaves out %n file(s):", nullptr, count), this);
+    layout->addWidget(caption);
+    auto *split = new QSplitter(Qt::Vertical, this);
+    split->setChildrenCollapsible(false);
+    m_files = new QListWidget(split);
+    m_files->setAccessibleName(tr("Files that a repaired copy leaves out"));
+    m_files->setUniformItemSizes(true);
+    for (const app::LeftOutFile &file : m_project.leftOut) {
+        const app::ConflictingCopy *conflict = conflictOf(file.path);
+        const QString text =
+            conflict ? tr("%1 (a conflicting copy of “%2”)")
+                           .arg(file.path,
+                                app::readableName(conflict->original, conflict->originalBytes))
+                     : file.path;
+        auto *item = new QListWidgetItem(text, m_files);
+        item->setToolTip(file.reason);
+    }
+    m_details = new DifferenceView(split);
+    split->setStretchFactor(0, 2);
+    split->setStretchFactor(1, 3);
+    layout->addWidget(split);
+    connect(m_files, &QListWidget::currentRowChanged, this, &DamagedProjectDialog::showFile);
+    m_files->setCurrentRow(0);
+}
+
+const app::ConflictingCopy *DamagedProjectDialog::conflictOf(const QString &path) const
+{
+    const auto found =
+        std::find_if(m_project.conflicts.begin(), m_project.conflicts.end(),
+                     [&](const app::ConflictingCopy &copy) { return copy.path == path; });
+    return found == m_project.conflicts.end() ? nullptr : &*found;
+}
+
+void DamagedProjectDialog::showFile(int row)
+{
+    if (row < 0)
+        return;
+    const app::LeftOutFile &file = m_project.leftOut[std::size_t(row)];
+    if (const app::ConflictingCopy *conflict = conflictOf(file.path))
+        m_details->show(app::readableFile(conflict->originalBytes),
+                        app::readableFile(conflict->bytes));
+    else
+        m_details->showPlain(file.reason);
+}
+
+void DamagedProjectDialog::addAnswers(QLayout *layout)
+{
+    if (m_project.hasBackup) {
+        const QString date =
+            m_project.newestBackup.isValid()
+                ? QLocale().toString(m_project.newestBackup.toLocalTime(), QLocale::ShortFormat)
+                : tr("unknown");
+        addAnswer(layout, app::DamageAnswer::OpenBackup, tr("Open newest &backup"),
+                  tr("As a copy in a place that you choose. It was made: %1").arg(date));
+    }
+    if (m_project.isRepairable) {
+        QString explanation = tr("In a place that you choose; this project stays as it is.");
+        if (!m_project.fromWorkingCopy.isEmpty())
+            explanation += u' '
+                           + tr("%n damaged file(s) can be taken from the working copy.", nullptr,
+                                int(m_project.fromWorkingCopy.size()));
+        addAnswer(layout, app::DamageAnswer::RepairedCopy,
+                  tr("Make a &repaired copy without the damaged files"), explanation);
+    }
+    if (!m_project.conflicts.empty() && m_project.conflicts.size() == m_project.leftOut.size())
+        addAnswer(
+            layout, app::DamageAnswer::SetAside, tr("&Set the conflicting copies aside"),
+            tr("They go into the folder “conflicting copies” of the project, then it opens."));
+}
+
+void DamagedProjectDialog::addAnswer(QLayout *layout, app::DamageAnswer answer, const QString &text,
+                                     const QString &explanation)
+{
+    auto *button = new QCommandLinkButton(text, explanation, this);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, answer] {
+        m_answer = answer;
+        accept();
+    });
+    layout->addWidget(button);
+}
+
+} // namespace vl::desktop

@@ -1,0 +1,331 @@
+#include "app/base/settings.h"
+#include "app/models/backupkeeper.h"
+#include "app/models/projectflows.h"
+#include "app/models/readablefile.h"
+#include "app/models/workspace.h"
+#include "app/storage/archivesalvage.h"
+#include "app/storage/bundlestore.h"
+#include "app/storage/projectreader.h"
+#include "app/storage/projectwriter.h"
+#include "app/storage/repair.h"
+#include "core/content/document.h"
+#include "tests/support/fakeprompts.h"
+#include "tests/support/folders.h"
+#include "tests/support/projectbuilder.h"
+
+#include <QtTest/QtTest>
+
+using namespace vl;
+using namespace vl::app;
+using namespace vl::test;
+
+namespace {
+
+QString objectFile(quint32 number)
+{
+    return QStringLiteral("objects/%1.json").arg(numberedId(number).toString());
+}
+
+QByteArray documentBytes(quint32 number, const QString &body)
+{
+    core::Document document(numberedId(number), core::DocumentKind::Prose,
+                            QStringLiteral("Scene %1").arg(number));
+    document.setBody(body);
+    return serializeObject(document);
+}
+
+FileMap wholeProject()
+{
+    return {{objectFile(1), documentBytes(1, QStringLiteral("one"))},
+            {objectFile(2), documentBytes(2, QStringLiteral("two"))},
+            {QStringLiteral("assets/map.png"), QByteArray("picture PK\3\4 with a mark", 25)},
+            {QStringLiteral("project.json"), "{\n}\n"}};
+}
+
+QByteArray packed(const FileMap &files)
+{
+    QTemporaryDir folder;
+    putFiles(folder.path(), files);
+    return *packFolder(folder.path());
+}
+
+} // namespace
+
+class TestRepair : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void leavesOutWhatIsDamaged_data();
+    void leavesOutWhatIsDamaged();
+    void salvagesArchives_data();
+    void salvagesArchives();
+    void takesFromTheWorkingCopy();
+    void neverWritesOverAnything();
+    void setsConflictsAside_data();
+    void setsConflictsAside();
+    void flow_data();
+    void flow();
+    void readableFiles_data();
+    void readableFiles();
+
+private:
+    QString at(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    StorageLocations m_locations;
+};
+
+void TestRepair::init()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
+                                               + QStringLiteral("/répair of a test-XXXXXX"));
+    QVERIFY(m_folder->isValid());
+    m_locations.root = at(QStringLiteral("data"));
+}
+
+void TestRepair::leavesOutWhatIsDamaged_data()
+{
+    QTest::addColumn<FileMap>("damage"); // files put over a whole project
+    QTest::addColumn<QString>("leftOut");
+    QTest::addColumn<int>("conflicts");
+
+    const QString copy =
+        QStringLiteral("objects/%1 (conflicted copy).json").arg(numberedId(1).toString());
+    const QString earlier = QStringLiteral("objects/%1 (conflict).json").arg(QStringLiteral("0"));
+    const QString category = QStringLiteral("taxonomy/%1.json").arg(numberedId(3).toString());
+    QTest::newRow("nothing") << FileMap() << "" << 0;
+    QTest::newRow("cut off") << FileMap{{objectFile(2), "{\"id\": \""}} << objectFile(2) << 0;
+    QTest::newRow("empty") << FileMap{{objectFile(2), ""}} << objectFile(2) << 0;
+    QTest::newRow("unknown kind") << FileMap{{objectFile(2),
+                                              "{\"id\": \"" + numberedId(2).toString().toLatin1()
+                                                  + "\", \"type\": \"Document\"}"}}
+                                  << objectFile(2) << 0;
+    QTest::newRow("a sync client's copy")
+        << FileMap{{copy, documentBytes(1, QStringLiteral("one, elsewhere"))}} << copy << 1;
+    QTest::newRow("a copy that comes first by name")
+        << FileMap{{earlier, documentBytes(1, QStringLiteral("one, elsewhere"))}} << earlier << 1;
+    QTest::newRow("records") << FileMap{{QStringLiteral("project.json"), "{"}}
+                             << QStringLiteral("project.json") << 0;
+    QTest::newRow("category") << FileMap{{category, "{\"name\": \"no id\"}"}} << category << 0;
+    QTest::newRow("two things") << FileMap{{objectFile(2), "no"}, {category, "no"}}
+                                << objectFile(2) + u'|' + category << 0;
+}
+
+void TestRepair::leavesOutWhatIsDamaged()
+{
+    QFETCH(FileMap, damage);
+    QFETCH(QString, leftOut);
+    QFETCH(int, conflicts);
+    const QString folder = at(QStringLiteral("novel"));
+    putFiles(folder, wholeProject());
+    putFiles(folder, damage);
+    const FileMap before = filesUnder(folder);
+    QCOMPARE(bool(loadProject(folder)), leftOut.isEmpty());
+    const QString bundle = at(QStringLiteral("novel.vellum"));
+    putFile(bundle, packed(before));
+
+    for (const QString &source : {folder, bundle}) {
+        const Result<ProjectRepair> repair = ProjectRepair::examine(source, m_locations);
+        QVERIFY(repair);
+        QStringList paths;
+        for (const LeftOutFile &file : repair->leftOut()) {
+            paths.append(file.path);
+            QVERIFY(!file.reason.isEmpty());
+        }
+        QCOMPARE(paths.join(u'|'), leftOut);
+        QCOMPARE(int(repair->conflicts().size()), conflicts);
+        for (const QString &target :
+             {source + QStringLiteral("-copy"), source + QStringLiteral("-copy.vellum")}) {
+            const Result<> written = repair->writeCopy(target);
+            QVERIFY2(written, qPrintable(written ? QString() : written.message()));
+            const QString unpacked = target + QStringLiteral("-unpacked");
+            if (QFileInfo(target).isFile())
+                QVERIFY(extractBundle(target, unpacked));
+            FileMap expected = before;
+            for (const QString &path : std::as_const(paths))
+                expected.remove(path);
+            if (!expected.contains(QStringLiteral("project.json")))
+                expected.insert(QStringLiteral("project.json"), "{\n}\n");
+            QCOMPARE(filesUnder(QFileInfo(target).isDir() ? target : unpacked), expected);
+        }
+    }
+    QCOMPARE(filesUnder(folder), before);
+}
+
+void TestRepair::salvagesArchives_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QStringList>("whole");
+    QTest::addColumn<QStringList>("damaged");
+
+    const QByteArray archive = packed(wholeProject());
+    const QStringList all = wholeProject().keys(); // in the order of the archive
+    const QStringList none;
+    QTest::newRow("whole") << archive << all << none;
+    // The directory takes 46 bytes and the name for each, then 22.
+    qint64 directory = 22;
+    for (const QString &name : all)
+        directory += 46 + name.size();
+    QTest::newRow("without its end") << archive.chopped(22) << all << none;
+    QTest::newRow("without its directory") << archive.chopped(directory) << all << none;
+    QTest::newRow("cut in the last file")
+        << archive.chopped(directory + 2) << all.first(3) << QStringList{all.at(3)};
+    QByteArray flipped = archive;
+    flipped[archive.indexOf("picture")] = 'P';
+    QTest::newRow("a wrong byte") << flipped << all.mid(1) << QStringList{all.first()};
+    QTest::newRow("a wrong byte and no directory")
+        << flipped.chopped(directory) << all.mid(1) << QStringList{all.first()};
+    QTest::newRow("bytes in front")
+        << QByteArray("PK\3\4junk") + archive.chopped(22) << all << none;
+    QTest::newRow("nothing at all") << QByteArray("PK") << none << none;
+    QTest::newRow("no archive") << QByteArray(100, 'x') << none << none;
+    // Names that lead out of the folder are no files.
+    QByteArray outside = archive.chopped(22);
+    outside.replace("assets/map.png", "../../map1.png");
+    QTest::newRow("outside") << outside << all.mid(1) << none;
+}
+
+void TestRepair::salvagesArchives()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QStringList, whole);
+    QFETCH(QStringList, damaged);
+    const SalvagedArchive salvaged = salvageArchive(bytes);
+    QStringList names;
+    for (const ProjectFile &file : salvaged.files) {
+        names.append(file.path);
+        QCOMPARE(file.bytes, wholeProject().value(file.path));
+    }
+    QCOMPARE(names, whole);
+    QCOMPARE(salvaged.damaged, damaged);
+}
+
+void TestRepair::takesFromTheWorkingCopy()
+{
+    const QString bundle = at(QStringLiteral("novel.vellum"));
+    const QByteArray good = packed(wholeProject());
+    putFile(bundle, good);
+    QVERIFY(openBundle(bundle, m_locations));
+    putFile(bundle, good.first(good.size() / 2)); // what a full disk leaves of a copied file
+    const Result<ProjectRepair> repair = ProjectRepair::examine(bundle, m_locations);
+    QVERIFY(repair);
+    QVERIFY(repair->leftOut().empty());
+    QVERIFY(!repair->fromWorkingCopy().isEmpty());
+    QVERIFY(repair->writeCopy(at(QStringLiteral("copy"))));
+    QCOMPARE(filesUnder(at(QStringLiteral("copy"))), wholeProject());
+    QCOMPARE(fileBytes(bundle), good.first(good.size() / 2));
+}
+
+void TestRepair::neverWritesOverAnything()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    putFiles(folder, wholeProject());
+    const Result<ProjectRepair> repair = ProjectRepair::examine(folder, m_locations);
+    putFile(at(QStringLiteral("there.vellum")), "mine");
+    QVERIFY(!repair->writeCopy(at(QStringLiteral("there.vellum"))));
+    QVERIFY(!repair->writeCopy(folder));
+    QCOMPARE(fileBytes(at(QStringLiteral("there.vellum"))), QByteArray("mine"));
+    QVERIFY(!ProjectRepair::examine(at(QStringLiteral("nowhere.vellum")), m_locations));
+    QVERIFY(!ProjectRepair::examine(at(QStringLiteral("there.vellum")), m_locations));
+}
+
+void TestRepair::setsConflictsAside_data()
+{
+    QTest::addColumn<bool>("asBundle");
+    QTest::newRow("folder") << false;
+    QTest::newRow("bundle") << true;
+}
+
+void TestRepair::setsConflictsAside()
+{
+    QFETCH(bool, asBundle);
+    FileMap files = wholeProject();
+    const QString name = QStringLiteral("Scene (conflicted copy).json");
+    files.insert(QStringLiteral("objects/") + name, documentBytes(1, QStringLiteral("elsewhere")));
+    files.insert(QStringLiteral("conflicting copies/") + name, "an earlier one");
+    QString path = at(QStringLiteral("novel"));
+    putFiles(path, files);
+    if (asBundle) {
+        path += QStringLiteral(".vellum");
+        putFile(path, packed(files));
+    }
+    const Result<ProjectRepair> repair = ProjectRepair::examine(path, m_locations);
+    QVERIFY(repair && repair->hasConflictsOnly());
+    QVERIFY(repair->setConflictsAside(m_locations));
+    files.insert(QStringLiteral("conflicting copies/Scene (conflicted copy)-2.json"),
+                 files.take(QStringLiteral("objects/") + name));
+    QString folder = path;
+    if (asBundle) {
+        folder = at(QStringLiteral("unpacked"));
+        QVERIFY(extractBundle(path, folder));
+        QCOMPARE(m_locations.backups().list(QStringLiteral("novel")).size(), 1);
+    }
+    QCOMPARE(filesUnder(folder), files);
+    QVERIFY(loadProject(folder));
+}
+
+void TestRepair::flow_data()
+{
+    QTest::addColumn<DamageAnswer>("answer");
+    QTest::addColumn<QString>("opened"); // the file that is open in the end
+    QTest::newRow("close") << DamageAnswer::Close << "";
+    QTest::newRow("backup") << DamageAnswer::OpenBackup << "chosen.vellum";
+    QTest::newRow("repaired copy") << DamageAnswer::RepairedCopy << "chosen.vellum";
+    QTest::newRow("set aside") << DamageAnswer::SetAside << "novel";
+}
+
+void TestRepair::flow()
+{
+    QFETCH(DamageAnswer, answer);
+    QFETCH(QString, opened);
+    Settings settings(at(QStringLiteral("settings.ini")));
+    FakePrompts prompts;
+    Workspace workspace;
+    ProjectFlows flows(workspace, prompts, settings);
+    const QString folder = at(QStringLiteral("novel"));
+    putFiles(folder, wholeProject());
+    const AutoBackups backups(folder, StorageLocations::standard(), &summarizeBackup);
+    QVERIFY(backups.add({folder, {}}, BackupReason::Opened));
+    putFile(folder + QStringLiteral("/objects/copy.json"), documentBytes(1, QString()));
+    prompts.damageAnswer = answer;
+    prompts.path = at(QStringLiteral("chosen.vellum"));
+    QCOMPARE(flows.open(folder), !opened.isEmpty());
+    QCOMPARE(prompts.damaged.size(), 1);
+    QVERIFY(prompts.damaged.first().hasBackup);
+    QCOMPARE(prompts.damaged.first().conflicts.size(), 1U);
+    QCOMPARE(QFileInfo(workspace.current().path()).fileName(), opened);
+    if (!opened.isEmpty())
+        QCOMPARE(workspace.project().size(), 2);
+    // One that is not there is an error as before.
+    QVERIFY(!flows.open(at(QStringLiteral("nowhere"))));
+    QCOMPARE(prompts.errors.size(), 1);
+    QDir(backups.folder()).removeRecursively();
+}
+
+void TestRepair::readableFiles_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no JSON") << QByteArray("half {") << "half {";
+    QTest::newRow("fields") << QByteArray("{\"a\": \"x\", \"b\": 9007199254740993, \"c\": true}")
+                            << "a: x\nb: 9007199254740993\nc: true\n";
+    QTest::newRow("text of several lines")
+        << QByteArray("{\"body\": \"one\\ntwo\"}") << "body: \none\ntwo\n";
+    QTest::newRow("lists") << QByteArray("{\"tags\": [\"x\", \"y\"], \"none\": []}")
+                           << "tags: \n  x\n  y\n";
+    QTest::newRow("lists of objects")
+        << QByteArray("{\"notes\": [{\"id\": \"1\"}]}") << "notes: \n  •: \n    id: 1\n";
+}
+
+void TestRepair::readableFiles()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    QCOMPARE(readableFile(bytes), text);
+}
+
+QTEST_GUILESS_MAIN(TestRepair)
+#include "tst_repair.moc"
