@@ -4,13 +4,27 @@
 #include "app/models/prompts.h"
 #include "app/models/repairflow.h"
 #include "app/models/workspace.h"
+#include "app/storage/lock.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 namespace vl::app {
+
+ProjectFlows::ProjectFlows(Workspace &workspace, Prompts &prompts, Settings &settings)
+    : m_workspace(workspace)
+    , m_prompts(prompts)
+    , m_settings(settings)
+{
+}
+
+ProjectFlows::~ProjectFlows() = default;
 
 bool ProjectFlows::newProject()
 {
     if (!mayClose())
         return false;
+    m_lock.reset();
     m_workspace.replaceProject(std::make_unique<OpenProject>());
     return true;
 }
@@ -32,16 +46,90 @@ bool ProjectFlows::openHere(const QString &path)
     return mayClose() && open(path);
 }
 
-bool ProjectFlows::open(const QString &path)
+bool ProjectFlows::open(const QString &givenPath)
 {
-    Result<std::unique_ptr<OpenProject>> opened = OpenProject::open(path);
-    if (!opened)
+    std::optional<Access> access = askAccess(givenPath);
+    if (!access)
+        return false;
+    const QString path = access->path;
+    Result<std::unique_ptr<OpenProject>> opened =
+        access->isReadOnly ? OpenProject::openReadOnly(path) : OpenProject::open(path);
+    if (!opened) {
+        // What is still open keeps its lock, any other is free again.
+        if (access->lock && access->lock->isFor(m_workspace.current().path()))
+            m_lock = std::move(access->lock);
+        access->lock.reset();
         return RepairFlow(m_prompts, StorageLocations::standard(),
                           [this](const QString &other) { return open(other); })
             .offer(path, opened.message());
+    }
     m_workspace.replaceProject(*std::move(opened));
+    m_lock = std::move(access->lock);
     m_settings.addRecentProject(path);
     return true;
+}
+
+std::optional<ProjectFlows::Access> ProjectFlows::askAccess(const QString &path)
+{
+    Access access;
+    access.path = path;
+    if (!QFileInfo::exists(path)) // opening tells that
+        return access;
+    if (m_lock && m_lock->isFor(path)) {
+        // The open project is read again; while it is, nobody else gets in between.
+        access.lock = std::move(m_lock);
+        return access;
+    }
+    const LockHolder self = LockHolder::current();
+    LockAttempt attempt = ProjectLock::take(path, self);
+    access.lock = std::move(attempt.lock);
+    if (!attempt.holder)
+        return access;
+    switch (m_prompts.askLocked(QFileInfo(path).completeBaseName(), *attempt.holder,
+                                attempt.holderState)) {
+    case Prompts::Locked::OpenCopy:
+        access.path = copyElsewhere(path);
+        if (access.path.isEmpty())
+            return std::nullopt;
+        return askAccess(access.path);
+    case Prompts::Locked::ReadOnly:
+        access.isReadOnly = true;
+        return access;
+    case Prompts::Locked::OpenAnyway:
+        access.lock = ProjectLock::takeOver(path, self).lock;
+        return access;
+    case Prompts::Locked::Cancel:
+        break;
+    }
+    return std::nullopt;
+}
+
+QString ProjectFlows::copyElsewhere(const QString &path)
+{
+    const QString target =
+        m_prompts.chooseBundleToSave(tr("%1 (copy)").arg(QFileInfo(path).completeBaseName()));
+    if (target.isEmpty())
+        return {};
+    const Result<ProjectRepair> source = ProjectRepair::examine(path, StorageLocations::standard());
+    const Result<> copied = source ? source->writeCopy(target) : Result<>(source.asFailure());
+    if (!copied) {
+        report(tr("Open Project"), copied.message());
+        return {};
+    }
+    return target;
+}
+
+bool ProjectFlows::lockToSave(const QString &path, std::unique_ptr<ProjectLock> &lock)
+{
+    if (m_lock && m_lock->isFor(path))
+        return true;
+    LockAttempt attempt = ProjectLock::take(path, LockHolder::current());
+    lock = std::move(attempt.lock);
+    if (!attempt.holder || attempt.holderState == HolderState::Unknown)
+        return true; // the user chose to replace what stands there
+    return report(
+        tr("Save Project"),
+        tr("This project is open in another window: %1").arg(QDir::toNativeSeparators(path)));
 }
 
 bool ProjectFlows::save()
@@ -83,9 +171,14 @@ bool ProjectFlows::saveAs()
     const QString path = m_prompts.chooseBundleToSave(m_workspace.current().name());
     if (path.isEmpty())
         return false;
+    std::unique_ptr<ProjectLock> lock;
+    if (!lockToSave(path, lock))
+        return false;
     const Result<> saved = m_workspace.current().saveAsBundle(path);
     if (!saved)
         return report(tr("Save Project"), saved.message());
+    if (lock || !m_lock || !m_lock->isFor(path))
+        m_lock = std::move(lock);
     m_settings.addRecentProject(path);
     return true;
 }
@@ -95,9 +188,15 @@ bool ProjectFlows::saveAsFolder()
     const QString folder = m_prompts.chooseFolderToSave(m_workspace.current().name());
     if (folder.isEmpty())
         return false;
+    std::unique_ptr<ProjectLock> lock;
+    // A folder to be saved to is empty: it can be locked only afterwards, unless it is locked now.
+    if (QFileInfo::exists(ProjectLock::filePath(folder)) && !lockToSave(folder, lock))
+        return false;
     const Result<> saved = m_workspace.current().saveAsFolder(folder);
     if (!saved)
         return report(tr("Save Project"), saved.message());
+    if (lock || !m_lock || !m_lock->isFor(folder))
+        m_lock = lock ? std::move(lock) : ProjectLock::take(folder, LockHolder::current()).lock;
     m_settings.addRecentProject(folder);
     return true;
 }

@@ -5,10 +5,12 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
+#include <memory>
 #include <optional>
 
 namespace vl::app {
 
+class ProjectLock;
 class Prompts;
 class Settings;
 class Workspace;
@@ -19,12 +21,9 @@ class ProjectFlows
     Q_DECLARE_TR_FUNCTIONS(vl::app::ProjectFlows)
 
 public:
-    ProjectFlows(Workspace &workspace, Prompts &prompts, Settings &settings)
-        : m_workspace(workspace)
-        , m_prompts(prompts)
-        , m_settings(settings)
-    {
-    }
+    ProjectFlows(Workspace &workspace, Prompts &prompts, Settings &settings);
+    ~ProjectFlows();
+    Q_DISABLE_COPY_MOVE(ProjectFlows)
 
     /// Each gives false when the user called it off or it failed, which the user was told.
     bool newProject();
@@ -47,11 +46,23 @@ public:
 private:
     /// What to do with what others changed; nothing when the user calls the save off.
     std::optional<OutsideChanges> askOutsideChanges();
+    /// The lock that opening needs, or how to do without; nothing when the user calls it off.
+    struct Access
+    {
+        std::unique_ptr<ProjectLock> lock;
+        bool isReadOnly = false;
+        QString path; ///< of what is to be opened
+    };
+    std::optional<Access> askAccess(const QString &path);
+    QString copyElsewhere(const QString &path);
+    /// Locks a place that is about to be saved to; false when somebody else has it open.
+    bool lockToSave(const QString &path, std::unique_ptr<ProjectLock> &lock);
     bool report(const QString &title, const QString &message);
 
     Workspace &m_workspace;
     Prompts &m_prompts;
     Settings &m_settings;
+    std::unique_ptr<ProjectLock> m_lock; ///< of the open project; null where none can be had
 };
 
 } // namespace vl::app

@@ -6,7 +6,9 @@
 namespace vl::app {
 
 struct DamagedProject;
+struct LockHolder;
 enum class DamageAnswer;
+enum class HolderState;
 
 /// What a flow asks of the user. The program answers with dialogs, a test with what it likes.
 class Prompts
@@ -17,6 +19,15 @@ public:
         Save,
         Discard,
         Cancel
+    };
+
+    /// What becomes of a project that somebody else has open.
+    enum class Locked
+    {
+        Cancel,
+        OpenCopy,
+        ReadOnly,
+        OpenAnyway
     };
 
     virtual ~Prompts() = default;
@@ -38,6 +49,10 @@ public:
     virtual void showError(const QString &title, const QString &message) = 0;
     /// Tells why a project does not load, and asks what to do about it.
     virtual DamageAnswer askDamaged(const DamagedProject &project) = 0;
+    /// Tells who has the project open. Opening it anyway is offered where nobody knows whether that
+    /// program still runs.
+    virtual Locked askLocked(const QString &projectName, const LockHolder &holder,
+                             HolderState state) = 0;
 
 protected:
     Prompts() = default;

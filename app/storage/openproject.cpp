@@ -1,6 +1,7 @@
 #include "app/storage/openproject.h"
 
 #include "app/storage/projectstore.h"
+#include "app/storage/readonlyplace.h"
 
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
@@ -65,6 +66,16 @@ Result<std::unique_ptr<OpenProject>> OpenProject::open(const QString &path)
         new OpenProject(std::move(opened->project), std::move(opened->store)));
 }
 
+Result<std::unique_ptr<OpenProject>> OpenProject::openReadOnly(const QString &path)
+{
+    Result<ReadOnlyProject> read = readReadOnly(path);
+    if (!read)
+        return read.asFailure();
+    std::unique_ptr<OpenProject> opened(new OpenProject(std::move(read->project), nullptr));
+    opened->m_readOnly = std::move(read->place);
+    return opened;
+}
+
 QString OpenProject::path() const
 {
     return m_store ? m_store->path() : QString();
@@ -77,16 +88,22 @@ bool OpenProject::isBundle() const
 
 QString OpenProject::folder() const
 {
+    if (m_readOnly)
+        return m_readOnly->folder;
     return m_store ? m_store->folder() : QString();
 }
 
 QString OpenProject::carriedFolder() const
 {
+    if (m_readOnly)
+        return m_readOnly->folder;
     return m_store ? m_store->carriedFolder() : QString();
 }
 
 QString OpenProject::name() const
 {
+    if (m_readOnly)
+        return tr("%1 (read-only)").arg(QFileInfo(m_readOnly->path).completeBaseName());
     if (!m_store)
         return tr("Untitled");
     const QFileInfo info(m_store->path());
@@ -192,6 +209,7 @@ Result<> OpenProject::saveInto(std::unique_ptr<ProjectStore> store)
     const Result<> result = save->pending->commit(OutsideChanges::Overwrite);
     if (result) {
         store->finished(*save->pending, true);
+        m_readOnly.reset();
         std::swap(m_store, store); // the old one goes at the end of this call
         m_history.setClean();
         Q_EMIT saved();

@@ -12,6 +12,7 @@
 namespace vl::app {
 
 class ProjectStore;
+struct ReadOnlyPlace;
 
 /// The project that is open: its model, its history, and the place where it is saved.
 class OpenProject final : public QObject
@@ -25,6 +26,10 @@ public:
 
     /// Opens a ".vellum" file or a project folder.
     static Result<std::unique_ptr<OpenProject>> open(const QString &path);
+    /// Opens it to be read, writing nothing there: the project has no place until it is saved
+    /// elsewhere.
+    static Result<std::unique_ptr<OpenProject>> openReadOnly(const QString &path);
+    bool isReadOnly() const { return m_readOnly != nullptr; }
 
     core::Project &project() { return *m_project; }
     const core::Project &project() const { return *m_project; }
@@ -86,6 +91,8 @@ private:
     std::unique_ptr<core::Project> m_project;
     core::CommandStack m_history; ///< goes before the project that its commands refer to
     std::unique_ptr<ProjectStore> m_store;
+    std::unique_ptr<ReadOnlyPlace>
+        m_readOnly;            ///< where it was read from, when it was opened for that
     core::ChangeSet m_unsaved; ///< what changed since the files were last read or written
     std::unique_ptr<RunningSave> m_running; ///< the save that another thread carries out
     bool m_savesAgain = false;              ///< another save was asked for meanwhile

@@ -1,6 +1,7 @@
 #include "app/storage/projectfolder.h"
 
 #include "app/storage/archive.h"
+#include "app/storage/lock.h"
 #include "app/storage/projectpaths.h"
 #include "core/id.h"
 
@@ -102,6 +103,8 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
         if (type == fs::file_type::directory)
             continue;
         const qsizetype slash = path.lastIndexOf('/');
+        if (isLockPath(path))
+            continue;
         if (isUnfinishedFileName(QString::fromUtf8(QByteArrayView(path).sliced(slash + 1))))
             continue;
         if (type != fs::file_type::regular || !isSafeEntryName(path))

@@ -20,7 +20,8 @@ bool isReadPath(QByteArrayView path);
 
 /// The paths of all files under the folder, hidden ones too, relative to it, in ascending order of
 /// their bytes. Fails for what cannot be packed: links, devices, unreadable folders and names that
-/// no other system could unpack. What unfinished writes left behind is passed over.
+/// no other system could unpack. What unfinished writes left behind is passed over, and
+/// so is the lock.
 Result<std::vector<QByteArray>> listProjectFolder(const QString &folder);
 
 /// Removes what unfinished writes of the program's own files left in a project folder. Others, such

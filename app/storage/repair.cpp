@@ -3,6 +3,7 @@
 #include "app/base/files.h"
 #include "app/storage/archivesalvage.h"
 #include "app/storage/bundle.h"
+#include "app/storage/lock.h"
 #include "app/storage/projectfolder.h"
 #include "app/storage/projectkey.h"
 #include "app/storage/projectpaths.h"
@@ -52,6 +53,8 @@ QStringList everythingUnder(const QString &folder)
     while (entries.hasNext()) {
         entries.next();
         const QFileInfo info = entries.fileInfo();
+        if (isLockPath(entries.filePath().mid(folder.size() + 1).toUtf8()))
+            continue;
         if ((!info.isDir() || info.isSymLink()) && !isUnfinishedFileName(info.fileName()))
             paths.append(entries.filePath().mid(folder.size() + 1));
     }

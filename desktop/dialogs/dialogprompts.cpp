@@ -1,9 +1,11 @@
 #include "desktop/dialogs/dialogprompts.h"
 
+#include "app/storage/lock.h"
 #include "desktop/dialogs/damagedprojectdialog.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QMessageBox>
@@ -107,6 +109,38 @@ app::DamageAnswer DialogPrompts::askDamaged(const app::DamagedProject &project)
     DamagedProjectDialog dialog(project, m_window);
     dialog.exec();
     return dialog.answer();
+}
+
+app::Prompts::Locked DialogPrompts::askLocked(const QString &projectName,
+                                              const app::LockHolder &holder, app::HolderState state)
+{
+    QMessageBox box(QMessageBox::Information, tr("Open Project"),
+                    tr("“%1” is open already.").arg(projectName), QMessageBox::NoButton, m_window);
+    box.setTextFormat(Qt::PlainText);
+    const QString since = QLocale().toString(holder.since.toLocalTime(), QLocale::ShortFormat);
+    QString who = holder.token.isEmpty()
+                      ? tr("Nobody knows who has it open: its lock cannot be read.")
+                      : tr("%1 has it open on “%2” (process %3) since %4.")
+                            .arg(holder.user, holder.host, QString::number(holder.process), since);
+    if (state == app::HolderState::Unknown)
+        who += QLatin1String("\n\n")
+               + tr("If no program has it open any more, a crash or a broken connection left the "
+                    "lock behind; then open it anyway.");
+    box.setInformativeText(who);
+    const auto *copy = box.addButton(tr("Open a &Copy…"), QMessageBox::AcceptRole);
+    QPushButton *readOnly = box.addButton(tr("Open &Read-Only"), QMessageBox::AcceptRole);
+    const auto *anyway = state == app::HolderState::Unknown
+                             ? box.addButton(tr("Open &Anyway"), QMessageBox::DestructiveRole)
+                             : nullptr;
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(readOnly);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == copy)
+        return Locked::OpenCopy;
+    if (box.clickedButton() == readOnly)
+        return Locked::ReadOnly;
+    return anyway && box.clickedButton() == anyway ? Locked::OpenAnyway : Locked::Cancel;
 }
 
 } // namespace vl::desktop

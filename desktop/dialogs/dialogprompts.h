@@ -30,6 +30,8 @@ public:
                       const QStringList &texts) override;
     void showError(const QString &title, const QString &message) override;
     app::DamageAnswer askDamaged(const app::DamagedProject &project) override;
+    Locked askLocked(const QString &projectName, const app::LockHolder &holder,
+                     app::HolderState state) override;
 
 private:
     QWidget *m_window;

@@ -2,6 +2,7 @@
 
 #include "app/models/prompts.h"
 #include "app/models/repairflow.h"
+#include "app/storage/lock.h"
 
 namespace vl::test {
 
@@ -45,6 +46,13 @@ public:
     {
         damaged.append(project);
         return damageAnswer;
+    }
+    Locked lockedAnswer = Locked::Cancel;
+    QList<app::LockHolder> holders; ///< who was said to have the project open
+    Locked askLocked(const QString &, const app::LockHolder &holder, app::HolderState) override
+    {
+        holders.append(holder);
+        return lockedAnswer;
     }
     void showError(const QString &, const QString &message) override { errors.append(message); }
 };
