@@ -103,6 +103,23 @@ void ActionRegistry::fill(QMenu *menu, Menu which) const
     }
 }
 
+QString ActionRegistry::title(const QString &id)
+{
+    const auto rows = actionCatalogue();
+    const auto row = std::find_if(rows.begin(), rows.end(),
+                                  [&](const ActionRow &r) { return id == QLatin1String(r.id); });
+    if (row == rows.end())
+        return {};
+    const QString text = QCoreApplication::translate("Actions", row->text);
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i) == u'&' && ++i == text.size())
+            break;
+        plain += text.at(i);
+    }
+    return plain.endsWith(u'…') ? plain.chopped(1) : plain;
+}
+
 QString ActionRegistry::describe(const QAction &action)
 {
     QString text = action.toolTip();

@@ -44,7 +44,10 @@ public:
     /// Adds the actions of a menu in the order of the catalogue.
     void fill(QMenu *menu, Menu which) const;
 
-    /// The text of the action without its mnemonic, and its first key behind it.
+    /// The name of the action outside a menu: no mnemonic, no dots, and nothing of what it would
+    /// be done to now. Empty for an unknown id.
+    static QString title(const QString &id);
+    /// What the tool tip of the action says, and its first key behind it.
     static QString describe(const QAction &action);
 
     /// The keys that an action has without the user's doing.

@@ -96,6 +96,7 @@ void DocumentsPanel::buildTree(QLayout *layout)
 {
     m_tree = new QTreeView(this);
     m_tree->setObjectName(QStringLiteral("documentsTree"));
+    setFocusProxy(m_tree);
     m_tree->setAccessibleName(tr("Documents"));
     m_tree->setToolTip(tr("The manuscript: documents and notes. Drag to reorder or drop onto "
                           "another to nest; right-click for actions; Ins adds, F2 renames, Del "

@@ -2,6 +2,7 @@
 
 #include "app/base/settingskeys.h"
 #include "desktop/dialogs/palettehost.h"
+#include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
 #include "desktop/shell/maintoolbar.h"
@@ -69,7 +70,7 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     updateTitle();
     updateSteps();
     restoreWindow();
-    m_panels->focusNext();
+    m_panels->focusFirst();
 }
 
 MainWindow::~MainWindow()
@@ -113,6 +114,9 @@ void MainWindow::bindActions()
     m_actions.bind("view.nextPanel", m_panels, &PanelHost::focusNext);
     m_actions.bind("view.previousPanel", m_panels, &PanelHost::focusPrevious);
     m_actions.bind("file.clearRecent", this, [this] { m_settings.clearRecentProjects(); });
+    m_actions.bind("edit.preferences", this, [this] {
+        PreferencesDialog::open({m_settings, m_actions, m_prompts}, this);
+    });
     m_layouts->bind(m_actions);
     m_actions.bind("help.about", this, &MainWindow::showAbout);
 }

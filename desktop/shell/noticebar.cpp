@@ -16,8 +16,6 @@ namespace vl::desktop {
 
 namespace {
 
-constexpr double tint = 0.16; ///< how much of the highlight colour the ground of a row has
-
 /// One question; a quiet tint and a line of the highlight colour set it off from the panels.
 class NoticeRow final : public QWidget
 {
@@ -29,7 +27,7 @@ protected:
     {
         QPainter painter(this);
         const QColor highlight = palette().color(QPalette::Highlight);
-        painter.fillRect(rect(), mix(highlight, palette().color(QPalette::Window), tint));
+        painter.fillRect(rect(), mix(highlight, palette().color(QPalette::Window), noticeTint));
         painter.fillRect(QRect(0, height() - 1, width(), 1), highlight);
     }
 };

@@ -10,6 +10,9 @@ class QVBoxLayout;
 
 namespace vl::desktop {
 
+/// How much of the highlight colour the ground of a notice has.
+inline constexpr double noticeTint = 0.16;
+
 /// What the user may do about a notice.
 struct NoticeAction
 {

@@ -1,6 +1,8 @@
 #include "desktop/shell/panelhost.h"
 
 #include "app/models/workspace.h"
+#include "desktop/shell/dockstyle.h"
+#include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
 
 #include <DockAreaTitleBar.h>
@@ -10,6 +12,7 @@
 #include <DockWidget.h>
 #include <DockWidgetTab.h>
 #include <FloatingDockContainer.h>
+#include <IconProvider.h>
 
 #include <QtCore/QCryptographicHash>
 #include <QtGui/QGuiApplication>
@@ -45,6 +48,12 @@ ads::DockWidgetArea areaOf(DockSide side)
     return ads::CenterDockWidgetArea;
 }
 
+void focusInto(QWidget *panel)
+{
+    if (QWidget *first = panel->focusProxy() ? panel->focusProxy() : panel->nextInFocusChain())
+        first->setFocus(Qt::TabFocusReason);
+}
+
 void nameButtons(ads::CDockWidget *dock)
 {
     const auto buttons = dock->tabWidget()->findChildren<QAbstractButton *>();
@@ -73,13 +82,12 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasUndockButton, false);
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasCloseButton, false);
     ads::CDockManager::setConfigFlag(ads::CDockManager::DockAreaHasTabsMenuButton, false);
+    ads::CDockManager::iconProvider().registerCustomIcon(ads::TabCloseIcon,
+                                                         icon(QStringLiteral("close")));
     m_manager = new ads::CDockManager(parent);
     parent->layout()->addWidget(m_manager);
-    m_manager->setStyleSheet(
-        m_manager->styleSheet()
-        + QStringLiteral("\nads--CDockWidgetTab QLabel { color: palette(text); }\n"
-                         "ads--CDockWidgetTab[focused=\"true\"] QLabel "
-                         "{ color: palette(highlighted-text); }\n"));
+    m_manager->ensurePolished(); // or the library's own sheet stays with what it drew already
+    m_manager->setStyleSheet(dockStyleSheet());
 
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
 
@@ -211,6 +219,17 @@ void PanelHost::showPanel(const QString &objectName)
     }
 }
 
+void PanelHost::focusFirst()
+{
+    for (const PanelRow &row : panelCatalogue()) {
+        ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+        if (dock && !dock->isClosed()) {
+            focusInto(dock->widget());
+            return;
+        }
+    }
+}
+
 void PanelHost::moveFocus(int step)
 {
     const QWidget *focused = QApplication::focusWidget();
@@ -229,9 +248,7 @@ void PanelHost::moveFocus(int step)
     const auto count = qsizetype(open.size());
     const qsizetype next =
         current < 0 ? (step > 0 ? 0 : count - 1) : (current + step + count) % count;
-    QWidget *panel = open[size_t(next)]->widget();
-    if (QWidget *first = panel->focusProxy() ? panel->focusProxy() : panel->nextInFocusChain())
-        first->setFocus(Qt::TabFocusReason);
+    focusInto(open[size_t(next)]->widget());
 }
 
 QRect reachableFrame(const QRect &frame, const QList<QRect> &screens)

@@ -38,6 +38,8 @@ public:
     /// Shows the first layout, and gives false, when the state is damaged or of another version.
     bool restoreLayout(const QByteArray &state);
     void showPanel(const QString &objectName);
+    /// Gives the focus to the first open panel, also before the window is shown.
+    void focusFirst();
     /// Moves the focus to the next or previous open panel.
     void focusNext() { moveFocus(1); }
     void focusPrevious() { moveFocus(-1); }

@@ -5,10 +5,14 @@
 #include <QtWidgets/QStyleFactory>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vl::desktop {
 
 namespace {
+
+constexpr double legibleContrast = 4.6; ///< a little over what is asked of text
+constexpr double visibleContrast = 3.1; ///< and of what is to be made out
 
 constexpr Theme table[] = {
     {QT_TRANSLATE_NOOP("Themes", "Light"), false, 0xfff0f0f0, 0xff1a1a1a, 0xffffffff, 0xff1a1a1a,
@@ -78,18 +82,62 @@ QPalette paletteOf(const Theme &theme)
     const QColor ink = theme.isDark ? QColor(Qt::white) : QColor(Qt::black);
     palette.setColor(QPalette::Light, mix(Qt::white, button, theme.isDark ? 0.12 : 0.6));
     palette.setColor(QPalette::Midlight, mix(Qt::white, button, theme.isDark ? 0.08 : 0.3));
-    palette.setColor(QPalette::Mid, mix(ink, button, 0.25));
-    palette.setColor(QPalette::Dark, mix(ink, button, 0.4));
-    palette.setColor(QPalette::Shadow, mix(ink, button, 0.6));
+    // Where all grounds are one colour, only lines part them.
+    const double more = window == button ? 0.3 : 0.0;
+    palette.setColor(QPalette::Mid, mix(ink, button, 0.25 + more));
+    palette.setColor(QPalette::Dark, mix(ink, button, 0.4 + more));
+    palette.setColor(QPalette::Shadow, mix(ink, button, 0.6 + more));
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, mix(palette.color(role), window, 0.5));
     return palette;
 }
 
+double contrast(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double c) {
+            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+               + 0.0722 * linear(color.blueF());
+    };
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor focusColour(const QPalette &palette)
+{
+    const QColor highlight = palette.color(QPalette::Highlight);
+    const QColor ground = palette.color(QPalette::Window);
+    QColor ring = highlight;
+    for (double amount = 0; contrast(ring, ground) < visibleContrast && amount <= 1; amount += 0.02)
+        ring = mix(palette.color(QPalette::WindowText), highlight, amount);
+    return ring;
+}
+
+QPalette textPaletteOf(const Theme &theme)
+{
+    QPalette palette = paletteOf(theme);
+    const QColor text(theme.highlightedText);
+    const QColor away = text.lightnessF() > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    QColor ground(theme.highlight);
+    for (double amount = 0; contrast(text, ground) < legibleContrast; amount += 0.02)
+        ground = mix(away, QColor(theme.highlight), amount);
+    palette.setColor(QPalette::Highlight, ground);
+    return palette;
+}
+
 void applyTheme(const Theme &theme)
 {
     QApplication::setPalette(paletteOf(theme));
+    const QPalette texts = textPaletteOf(theme);
+    if (texts.color(QPalette::Highlight) == QColor(theme.highlight))
+        return;
+    for (const char *shower : {"QAbstractItemView", "QMenu", "QMenuBar", "QLineEdit",
+                               "QPlainTextEdit", "QTextEdit", "QLabel", "QProgressBar"})
+        QApplication::setPalette(texts, shower);
 }
 
 } // namespace vl::desktop

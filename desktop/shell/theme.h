@@ -28,12 +28,21 @@ std::span<const Theme> themes();
 /// The theme of this name, "Light" when there is none.
 const Theme &themeNamed(const QString &name);
 QPalette paletteOf(const Theme &theme);
+/// The same for whatever shows selected text: the highlight is so strong that the text reads on it.
+QPalette textPaletteOf(const Theme &theme);
 /// Shows the whole program in the theme.
 void applyTheme(const Theme &theme);
 
 /// How much of the text's colour secondary text has over its ground; it keeps a contrast of 4.5:1
 /// in every theme.
 inline constexpr double quietAmount = 0.72;
+
+/// How well text of the one colour reads on the other: from 1 to 21, as the accessibility
+/// guidelines reckon it.
+double contrast(const QColor &a, const QColor &b);
+
+/// The colour of the ring round what has the focus: the highlight, made strong enough to be seen.
+QColor focusColour(const QPalette &palette);
 
 /// A colour between the two: all of `over` at 1, all of `under` at 0.
 QColor mix(const QColor &over, const QColor &under, double amount);

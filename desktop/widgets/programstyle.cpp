@@ -1,5 +1,6 @@
 #include "desktop/widgets/programstyle.h"
 
+#include "desktop/shell/theme.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QPainter>
@@ -53,6 +54,8 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                             QStyleHintReturn *data) const
 {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
     if (hint != SH_FocusFrame_Mask || !option)
         return QProxyStyle::styleHint(hint, option, widget, data);
     if (auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(data)) {
@@ -67,7 +70,7 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
                                QPainter *painter, const QWidget *widget) const
 {
     if (element == CE_FocusFrame)
-        painter->fillRect(option->rect, option->palette.highlight());
+        painter->fillRect(option->rect, focusColour(option->palette));
     else
         QProxyStyle::drawControl(element, option, painter, widget);
 }

@@ -4,15 +4,11 @@
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/notices.h"
-#include "desktop/shell/theme.h"
 #include "tests/support/fakeprompts.h"
 
-#include <QtGui/QAccessible>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStatusBar>
@@ -50,20 +46,6 @@ struct Window
     }
 };
 
-double contrast(const QColor &a, const QColor &b)
-{
-    const auto luminance = [](const QColor &color) {
-        const auto linear = [](double c) {
-            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-               + 0.0722 * linear(color.blueF());
-    };
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 } // namespace
 
 class TestMainWindow : public QObject
@@ -71,7 +53,6 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyControlHasAName();
     void everyActionIsUniqueAndBoundOrOff();
     void typingBecomesStepsOfTheHistory();
     void nothingTypedIsLost();
@@ -80,33 +61,7 @@ private Q_SLOTS:
     void closingAsks();
     void theLayoutComesBack();
     void noticesOfferAndAsk();
-    void secondaryTextIsLegible_data();
-    void secondaryTextIsLegible();
 };
-
-void TestMainWindow::everyControlHasAName()
-{
-    const Window desk;
-    int seen = 0;
-    const auto widgets = desk.window.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const bool isControl =
-            qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
-            || qobject_cast<QAbstractItemView *>(widget) || qobject_cast<QComboBox *>(widget)
-            || qobject_cast<QPlainTextEdit *>(widget);
-        const QString className = QLatin1String(widget->metaObject()->className());
-        if (!isControl || className.startsWith(QLatin1String("ads::"))
-            || widget->objectName().startsWith(QLatin1String("qt_")))
-            continue;
-        ++seen;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY(accessible);
-        QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(),
-                 qPrintable(className + u' ' + widget->objectName() + u' '
-                            + (widget->parent() ? widget->parent()->objectName() : QString())));
-    }
-    QVERIFY(seen > 6);
-}
 
 void TestMainWindow::everyActionIsUniqueAndBoundOrOff()
 {
@@ -317,33 +272,6 @@ void TestMainWindow::noticesOfferAndAsk()
     ask(QStringLiteral("A file was changed."));
     notices->withdraw(QStringLiteral("outside"));
     QVERIFY(!shownButton(QStringLiteral("Keep Mine")));
-}
-
-void TestMainWindow::secondaryTextIsLegible_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<double>("least");
-    for (const desktop::Theme &theme : desktop::themes()) {
-        const QString name = QLatin1String(theme.name);
-        QTest::newRow(theme.name) << name << (name == u"High Contrast" ? 7.0 : 4.5);
-    }
-}
-
-void TestMainWindow::secondaryTextIsLegible()
-{
-    QFETCH(QString, name);
-    QFETCH(double, least);
-    const QPalette palette = desktop::paletteOf(desktop::themeNamed(name));
-    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
-    for (const auto &[text, ground] :
-         {Pair{QPalette::WindowText, QPalette::Window}, Pair{QPalette::Text, QPalette::Base},
-          Pair{QPalette::Text, QPalette::AlternateBase},
-          Pair{QPalette::ButtonText, QPalette::Button},
-          Pair{QPalette::PlaceholderText, QPalette::Base}, Pair{QPalette::Link, QPalette::Base},
-          Pair{QPalette::ToolTipText, QPalette::ToolTipBase}}) {
-        const double found = contrast(palette.color(text), palette.color(ground));
-        QVERIFY2(found >= least, qPrintable(QStringLiteral("role %1: %2").arg(text).arg(found)));
-    }
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -1,0 +1,96 @@
+#include "desktop/preferences/plainpages.h"
+
+#include "app/base/settingskeys.h"
+#include "desktop/actions/actionregistry.h"
+#include "desktop/shell/appearance.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QLocale>
+#include <QtGui/QFontDatabase>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+namespace vl::desktop {
+
+namespace {
+
+constexpr int widestComboCharacters = 24;
+
+} // namespace
+
+GeneralPage::GeneralPage(const PreferencesContext &context, QWidget *parent)
+    : PreferencesPage(context, parent)
+{
+    addFlag(addGroup(tr("Start")), tr("&Reopen the last project"), app::settings::reopenLast);
+
+    QFormLayout *group = addGroup(tr("Language"));
+    QList<Choice> choices{{QString(), tr("As the system")}};
+    for (const InterfaceLanguage &language : interfaceLanguages())
+        choices.append({QLatin1String(language.code), QString::fromUtf8(language.name)});
+    QComboBox *box = addChoice(group, tr("&Interface language:"), app::settings::language, choices);
+    auto *notice = new QLabel(this);
+    notice->setWordWrap(true);
+    notice->hide();
+    group->addRow(notice);
+    connect(box, &QComboBox::activated, notice, [this, notice] {
+        const QString present = presentLanguage(settings());
+        for (const InterfaceLanguage &language : interfaceLanguages())
+            if (QLatin1String(language.code) == present)
+                notice->setText(languageNotice(language));
+        notice->show();
+    });
+}
+
+EditorPage::EditorPage(const PreferencesContext &context, QWidget *parent)
+    : PreferencesPage(context, parent)
+{
+    QFormLayout *text = addGroup(tr("Text"));
+    QList<Choice> families{{QString(), tr("Best installed reading font")}};
+    for (const QString &family : QFontDatabase::families())
+        if (!QFontDatabase::isPrivateFamily(family) && QFontDatabase::isSmoothlyScalable(family))
+            families.append({family, family});
+    addChoice(text, tr("&Font:"), app::settings::editorFontFamily, families)
+        ->setMinimumContentsLength(widestComboCharacters);
+    addNumber(text, tr("&Size:"), app::settings::editorFontSize, 6, 72, tr(" pt"));
+    addNumber(text, tr("Line &width:"), app::settings::editorLineWidth, 40, 120, tr(" characters"));
+    addNumber(text, tr("Line s&pacing:"), app::settings::editorLineSpacing, 100, 300, tr(" %"))
+        ->setSingleStep(10);
+
+    QFormLayout *typing = addGroup(tr("Typing"));
+    addFlag(typing, tr("Turn straight &quotes and dashes into typographic ones"),
+            app::settings::editorSmartQuotes);
+    addFlag(typing, tr("&Typewriter scrolling: keep the line being written at the same height"),
+            app::settings::editorTypewriter);
+}
+
+UpdatesPage::UpdatesPage(const PreferencesContext &context, QWidget *parent)
+    : PreferencesPage(context, parent)
+{
+    QFormLayout *group = addGroup(tr("New versions"));
+    addFlag(group, tr("&Look for a new version once a day"), app::settings::autoUpdateCheck);
+    auto *last = new QLabel(this);
+    group->addRow(last);
+    const auto show = [this, last] {
+        const QDateTime time = QDateTime::fromString(
+            settings().text(QStringLiteral("general/lastUpdateCheck")), Qt::ISODate);
+        last->setText(
+            time.isValid()
+                ? tr("Last looked for on %1.").arg(QLocale().toString(time, QLocale::ShortFormat))
+                : tr("Not looked for automatically yet."));
+    };
+    connect(&settings().changes(), &app::SettingsChanges::changed, last, show);
+    show();
+
+    auto *now = new QPushButton(tr("&Check Now"), this);
+    QAction *check = this->context().actions["help.checkUpdates"];
+    const auto enable = [now, check] { now->setEnabled(check->isEnabled()); };
+    connect(check, &QAction::changed, now, enable);
+    connect(now, &QPushButton::clicked, check, &QAction::trigger);
+    enable();
+    now->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    group->addRow(now);
+}
+
+} // namespace vl::desktop
