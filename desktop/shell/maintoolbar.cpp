@@ -65,9 +65,7 @@ void MainToolBar::fill()
         isGroupStarted = false;
         QAction *action = m_actions[row.id];
         addAction(action);
-        QWidget *button = widgetForAction(action);
-        button->setFocusPolicy(Qt::TabFocus);
-        button->installEventFilter(this);
+        widgetForAction(action)->installEventFilter(this);
     }
 }
 

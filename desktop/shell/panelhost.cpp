@@ -21,6 +21,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QSplitter>
 
 #include <algorithm>
 
@@ -107,6 +108,7 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     connect(&context.workspace, &app::Workspace::inspectRequested, this,
             [this] { showPanel(QStringLiteral("inspector")); });
     m_firstLayout = saveLayout();
+    stretchCentre();
     sizeAreas();
 }
 
@@ -147,6 +149,7 @@ void PanelHost::placeStrays()
         if (dock && !dock->dockAreaWidget())
             place(dock, row);
     }
+    stretchCentre();
 }
 
 void PanelHost::sizeAreas()
@@ -167,6 +170,17 @@ void PanelHost::sizeAreas()
         m_manager->setSplitterSizes(m_areas[DockSide::Center], sizes);
     if (isShown(DockSide::LeftBelow))
         m_manager->setSplitterSizes(m_areas[DockSide::LeftBelow], {3 * left, 2 * left});
+}
+
+void PanelHost::stretchCentre()
+{
+    // When the window grows, the text gains the room and the sides keep theirs.
+    QWidget *child = m_areas[DockSide::Center];
+    for (QWidget *parent = child ? child->parentWidget() : nullptr; parent;
+         child = parent, parent = parent->parentWidget())
+        if (auto *splitter = qobject_cast<QSplitter *>(parent))
+            for (int i = 0; i < splitter->count(); ++i)
+                splitter->setStretchFactor(i, splitter->widget(i) == child ? 1 : 0);
 }
 
 void PanelHost::fetchFloating()
@@ -221,13 +235,14 @@ void PanelHost::showPanel(const QString &objectName)
 
 void PanelHost::focusFirst()
 {
-    for (const PanelRow &row : panelCatalogue()) {
-        ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
-        if (dock && !dock->isClosed()) {
-            focusInto(dock->widget());
-            return;
+    for (const DockSide side : {DockSide::Left, DockSide::Center})
+        for (const PanelRow &row : panelCatalogue()) {
+            ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+            if (row.side == side && dock && !dock->isClosed()) {
+                focusInto(dock->widget());
+                return;
+            }
         }
-    }
 }
 
 void PanelHost::moveFocus(int step)

@@ -38,7 +38,7 @@ public:
     /// Shows the first layout, and gives false, when the state is damaged or of another version.
     bool restoreLayout(const QByteArray &state);
     void showPanel(const QString &objectName);
-    /// Gives the focus to the first open panel, also before the window is shown.
+    /// Gives the focus to the first open panel of the manuscript, also before the window is shown.
     void focusFirst();
     /// Moves the focus to the next or previous open panel.
     void focusNext() { moveFocus(1); }
@@ -50,6 +50,7 @@ private:
     void placeStrays();
     void sizeAreas();
     void fetchFloating();
+    void stretchCentre();
 
     ads::CDockManager *m_manager;
     std::map<DockSide, QPointer<ads::CDockAreaWidget>> m_areas; ///< where new panels go

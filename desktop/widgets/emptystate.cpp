@@ -9,11 +9,12 @@
 namespace vl::desktop {
 
 EmptyState::EmptyState(const QString &sentence, const QString &buttonText, QWidget *parent)
-    : QWidget(parent)
-    , m_sentence(new QLabel(this))
-    , m_button(new QPushButton(this))
+    : QScrollArea(parent)
+    , m_sentence(new QLabel)
+    , m_button(new QPushButton)
 {
-    auto *layout = new QVBoxLayout(this);
+    auto *content = new QWidget;
+    auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(grid(4), grid(4), grid(4), grid(4));
     layout->setSpacing(grid(4));
     m_sentence->setTextFormat(Qt::PlainText);
@@ -23,6 +24,12 @@ EmptyState::EmptyState(const QString &sentence, const QString &buttonText, QWidg
     layout->addWidget(m_sentence);
     layout->addWidget(m_button, 0, Qt::AlignHCenter);
     layout->addStretch(3);
+    setWidget(content);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
     setSentence(sentence);
     setButtonText(buttonText);
     setFocusProxy(m_button);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QScrollArea>
 
 class QLabel;
 class QPushButton;
@@ -8,8 +8,8 @@ class QPushButton;
 namespace vl::desktop {
 
 /// What a panel shows while it has nothing to show: what it is for, in one sentence, and the first
-/// useful step as a button.
-class EmptyState final : public QWidget
+/// useful step as a button. Where there is too little room it scrolls.
+class EmptyState final : public QScrollArea
 {
     Q_OBJECT
 
