@@ -771,6 +771,33 @@
     </message>
 </context>
 <context>
+    <name>Preferences</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Shortcuts</translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Tool Bars</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+</context>
+<context>
     <name>Themes</name>
     <message>
         <source>Light</source>
@@ -975,7 +1002,10 @@
     </message>
     <message numerus="yes">
         <source>%1, category, %n entity(ies)</source>
-        <translation><numerusform>%1, category, %n entity</numerusform><numerusform>%1, category, %n entities</numerusform></translation>
+        <translation>
+            <numerusform>%1, category, %n entity</numerusform>
+            <numerusform>%1, category, %n entities</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, pinned</source>
@@ -983,7 +1013,10 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+        <translation>
+            <numerusform>%n entity</numerusform>
+            <numerusform>%n entities</numerusform>
+        </translation>
     </message>
     <message>
         <source>Also: %1</source>
@@ -1034,11 +1067,17 @@
     </message>
     <message numerus="yes">
         <source>%n category(ies)</source>
-        <translation><numerusform>%n category</numerusform><numerusform>%n categories</numerusform></translation>
+        <translation>
+            <numerusform>%n category</numerusform>
+            <numerusform>%n categories</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+        <translation>
+            <numerusform>%n entity</numerusform>
+            <numerusform>%n entities</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete %1 and %2?</source>
@@ -1054,27 +1093,45 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies) move up.</source>
-        <translation><numerusform>%n entity move up.</numerusform><numerusform>%n entities move up.</numerusform></translation>
+        <translation>
+            <numerusform>%n entity move up.</numerusform>
+            <numerusform>%n entities move up.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Row(s)</source>
-        <translation><numerusform>Delete %n Row</numerusform><numerusform>Delete %n Rows</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n Row</numerusform>
+            <numerusform>Delete %n Rows</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Category(ies)</source>
-        <translation><numerusform>Delete %n Category</numerusform><numerusform>Delete %n Categories</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n Category</numerusform>
+            <numerusform>Delete %n Categories</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Entity(ies)</source>
-        <translation><numerusform>Delete %n Entity</numerusform><numerusform>Delete %n Entities</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n Entity</numerusform>
+            <numerusform>Delete %n Entities</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n entity(ies)</source>
-        <translation><numerusform>Delete %n entity</numerusform><numerusform>Delete %n entities</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n entity</numerusform>
+            <numerusform>Delete %n entities</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n category(ies)</source>
-        <translation><numerusform>Delete %n category</numerusform><numerusform>Delete %n categories</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n category</numerusform>
+            <numerusform>Delete %n categories</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete from the codex</source>
@@ -1086,15 +1143,24 @@
     </message>
     <message numerus="yes">
         <source>Duplicate %n entity(ies)</source>
-        <translation><numerusform>Duplicate %n entity</numerusform><numerusform>Duplicate %n entities</numerusform></translation>
+        <translation>
+            <numerusform>Duplicate %n entity</numerusform>
+            <numerusform>Duplicate %n entities</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n codex row(s)</source>
-        <translation><numerusform>Move %n codex row</numerusform><numerusform>Move %n codex rows</numerusform></translation>
+        <translation>
+            <numerusform>Move %n codex row</numerusform>
+            <numerusform>Move %n codex rows</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n entity(ies)</source>
-        <translation><numerusform>Paste %n entity</numerusform><numerusform>Paste %n entities</numerusform></translation>
+        <translation>
+            <numerusform>Paste %n entity</numerusform>
+            <numerusform>Paste %n entities</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1702,6 +1768,10 @@
         <source>This project has no save location yet; use saveAs().</source>
         <translation>This project has no save location yet; use saveAs().</translation>
     </message>
+    <message>
+        <source>%1 (read-only)</source>
+        <translation>%1 (read-only)</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::Opening</name>
@@ -1755,6 +1825,14 @@
         <source>Save Project</source>
         <translation>Save Project</translation>
     </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copy)</translation>
+    </message>
+    <message>
+        <source>This project is open in another window: %1</source>
+        <translation>This project is open in another window: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -1807,6 +1885,41 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ProjectRepair</name>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>Could not read a project file: %1</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>Could not open the project file: %1</translation>
+    </message>
+    <message>
+        <source>Its bytes in the project file are damaged or missing.</source>
+        <translation>Its bytes in the project file are damaged or missing.</translation>
+    </message>
+    <message>
+        <source>Nothing in this file can be read: %1</source>
+        <translation>Nothing in this file can be read: %1</translation>
+    </message>
+    <message>
+        <source>Duplicate object id %1 in %2</source>
+        <translation>Duplicate object id %1 in %2</translation>
+    </message>
+    <message>
+        <source>Something stands there already: %1</source>
+        <translation>Something stands there already: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>Could not write a project file: %1</translation>
+    </message>
+    <message>
+        <source>Could not move the file: %1</source>
+        <translation>Could not move the file: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ProjectStore</name>
     <message>
         <source>The folder is not empty: %1</source>
@@ -1845,7 +1958,10 @@
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+        <translation>
+            <numerusform>%n object</numerusform>
+            <numerusform>%n objects</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 – also “%2”</source>
@@ -1868,6 +1984,21 @@
     <message>
         <source>the merged file '%1' would not be valid</source>
         <translation>the merged file '%1' would not be valid</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::RepairFlow</name>
+    <message>
+        <source>%1 (backup)</source>
+        <translation>%1 (backup)</translation>
+    </message>
+    <message>
+        <source>%1 (repaired)</source>
+        <translation>%1 (repaired)</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Open Project</translation>
     </message>
 </context>
 <context>
@@ -2073,6 +2204,10 @@
         <source>Unpacking…</source>
         <translation>Unpacking…</translation>
     </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Reading the backups…</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -2230,6 +2365,14 @@
     <message>
         <source>Make a project from a “markdown” or “text” source, or add to one</source>
         <translation>Make a project from a “markdown” or “text” source, or add to one</translation>
+    </message>
+    <message>
+        <source>Write a copy that loads, and name each file that it leaves out</source>
+        <translation>Write a copy that loads, and name each file that it leaves out</translation>
+    </message>
+    <message>
+        <source>List the backups of a project, newest first: file, date, size in bytes, documents, words</source>
+        <translation>List the backups of a project, newest first: file, date, size in bytes, documents, words</translation>
     </message>
 </context>
 <context>
@@ -2665,6 +2808,25 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::AppearancePage</name>
+    <message>
+        <source>Theme</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>Texts of the interface</source>
+        <translation>Texts of the interface</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Font &amp;scale:</source>
+        <translation>Font &amp;scale:</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::BackupsDialog</name>
     <message>
         <source>Open a &amp;Copy…</source>
@@ -2915,6 +3077,61 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::DamagedProjectDialog</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Open Project</translation>
+    </message>
+    <message>
+        <source>The project does not load. Nothing in it was changed.</source>
+        <translation>The project does not load. Nothing in it was changed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A repaired copy leaves out %n file(s):</source>
+        <translation><numerusform>A repaired copy leaves out %n file:</numerusform><numerusform>A repaired copy leaves out %n files:</numerusform></translation>
+    </message>
+    <message>
+        <source>Files that a repaired copy leaves out</source>
+        <translation>Files that a repaired copy leaves out</translation>
+    </message>
+    <message>
+        <source>%1 (a conflicting copy of “%2”)</source>
+        <translation>%1 (a conflicting copy of “%2”)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>Open newest &amp;backup</source>
+        <translation>Open newest &amp;backup</translation>
+    </message>
+    <message>
+        <source>As a copy in a place that you choose. It was made: %1</source>
+        <translation>As a copy in a place that you choose. It was made: %1</translation>
+    </message>
+    <message>
+        <source>In a place that you choose; this project stays as it is.</source>
+        <translation>In a place that you choose; this project stays as it is.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged file(s) can be taken from the working copy.</source>
+        <translation><numerusform>%n damaged file can be taken from the working copy.</numerusform><numerusform>%n damaged files can be taken from the working copy.</numerusform></translation>
+    </message>
+    <message>
+        <source>Make a &amp;repaired copy without the damaged files</source>
+        <translation>Make a &amp;repaired copy without the damaged files</translation>
+    </message>
+    <message>
+        <source>&amp;Set the conflicting copies aside</source>
+        <translation>&amp;Set the conflicting copies aside</translation>
+    </message>
+    <message>
+        <source>They go into the folder “conflicting copies” of the project, then it opens.</source>
+        <translation>They go into the folder “conflicting copies” of the project, then it opens.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2967,6 +3184,34 @@
     <message>
         <source>Save Project as Folder</source>
         <translation>Save Project as Folder</translation>
+    </message>
+    <message>
+        <source>“%1” is open already.</source>
+        <translation>“%1” is open already.</translation>
+    </message>
+    <message>
+        <source>Nobody knows who has it open: its lock cannot be read.</source>
+        <translation>Nobody knows who has it open: its lock cannot be read.</translation>
+    </message>
+    <message>
+        <source>%1 has it open on “%2” (process %3) since %4.</source>
+        <translation>%1 has it open on “%2” (process %3) since %4.</translation>
+    </message>
+    <message>
+        <source>If no program has it open any more, a crash or a broken connection left the lock behind; then open it anyway.</source>
+        <translation>If no program has it open any more, a crash or a broken connection left the lock behind; then open it anyway.</translation>
+    </message>
+    <message>
+        <source>Open a &amp;Copy…</source>
+        <translation>Open a &amp;Copy…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Read-Only</source>
+        <translation>Open &amp;Read-Only</translation>
+    </message>
+    <message>
+        <source>Open &amp;Anyway</source>
+        <translation>Open &amp;Anyway</translation>
     </message>
 </context>
 <context>
@@ -3060,6 +3305,57 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::EditorPage</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Best installed reading font</source>
+        <translation>Best installed reading font</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Font:</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Size:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Line &amp;width:</source>
+        <translation>Line &amp;width:</translation>
+    </message>
+    <message>
+        <source> characters</source>
+        <translation> characters</translation>
+    </message>
+    <message>
+        <source>Line s&amp;pacing:</source>
+        <translation>Line s&amp;pacing:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Typing</translation>
+    </message>
+    <message>
+        <source>Turn straight &amp;quotes and dashes into typographic ones</source>
+        <translation>Turn straight &amp;quotes and dashes into typographic ones</translation>
+    </message>
+    <message>
+        <source>&amp;Typewriter scrolling: keep the line being written at the same height</source>
+        <translation>&amp;Typewriter scrolling: keep the line being written at the same height</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::EditorPanel</name>
     <message>
         <source>Text of the document</source>
@@ -3139,6 +3435,29 @@
     <message>
         <source>Change Field</source>
         <translation>Change Field</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::GeneralPage</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>&amp;Reopen the last project</source>
+        <translation>&amp;Reopen the last project</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>As the system</translation>
+    </message>
+    <message>
+        <source>&amp;Interface language:</source>
+        <translation>&amp;Interface language:</translation>
     </message>
 </context>
 <context>
@@ -3318,6 +3637,29 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::PreferencesDialog</name>
+    <message>
+        <source>No page has these words.</source>
+        <translation>No page has these words.</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message>
+        <source>Search preferences</source>
+        <translation>Search preferences</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Page</source>
+        <translation>&amp;Reset Page</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::ProjectCare</name>
     <message>
         <source>The project is backed up.</source>
@@ -3408,6 +3750,119 @@
     <message>
         <source>There are no documents in this backup.</source>
         <translation>There are no documents in this backup.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ShortcutsPage</name>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>AI</source>
+        <translation>AI</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>In panels</source>
+        <translation>In panels</translation>
+    </message>
+    <message>
+        <source>&amp;No Shortcut</source>
+        <translation>&amp;No Shortcut</translation>
+    </message>
+    <message>
+        <source>&amp;Built-in Shortcut</source>
+        <translation>&amp;Built-in Shortcut</translation>
+    </message>
+    <message>
+        <source>&amp;Use It Here</source>
+        <translation>&amp;Use It Here</translation>
+    </message>
+    <message>
+        <source>Find an action or keys</source>
+        <translation>Find an action or keys</translation>
+    </message>
+    <message>
+        <source>Actions and their shortcuts</source>
+        <translation>Actions and their shortcuts</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Shortcut</translation>
+    </message>
+    <message>
+        <source>New shortcut</source>
+        <translation>New shortcut</translation>
+    </message>
+    <message>
+        <source>Select an action to change its shortcut.</source>
+        <translation>Select an action to change its shortcut.</translation>
+    </message>
+    <message>
+        <source>Press the new shortcut for “%1”:</source>
+        <translation>Press the new shortcut for “%1”:</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” now.</source>
+        <translation>“%1” belongs to “%2” now.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ToolBarsPage</name>
+    <message>
+        <source>&amp;Entries of the tool bar “Main”:</source>
+        <translation>&amp;Entries of the tool bar “Main”:</translation>
+    </message>
+    <message>
+        <source>Entries of the tool bar “Main”</source>
+        <translation>Entries of the tool bar “Main”</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdatesPage</name>
+    <message>
+        <source>New versions</source>
+        <translation>New versions</translation>
+    </message>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Look for a new version once a day</translation>
+    </message>
+    <message>
+        <source>Last looked for on %1.</source>
+        <translation>Last looked for on %1.</translation>
+    </message>
+    <message>
+        <source>Not looked for automatically yet.</source>
+        <translation>Not looked for automatically yet.</translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
+        <translation>&amp;Check Now</translation>
     </message>
 </context>
 <context>

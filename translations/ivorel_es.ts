@@ -771,6 +771,33 @@
     </message>
 </context>
 <context>
+    <name>Preferences</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Atajos</translation>
+    </message>
+    <message>
+        <source>Tool Bars</source>
+        <translation>Barras de herramientas</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Actualizaciones</translation>
+    </message>
+</context>
+<context>
     <name>Themes</name>
     <message>
         <source>Light</source>
@@ -975,7 +1002,10 @@
     </message>
     <message numerus="yes">
         <source>%1, category, %n entity(ies)</source>
-        <translation><numerusform>%1, categoría, %n entidad</numerusform><numerusform>%1, categoría, %n entidades</numerusform></translation>
+        <translation>
+            <numerusform>%1, categoría, %n entidad</numerusform>
+            <numerusform>%1, categoría, %n entidades</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, pinned</source>
@@ -983,7 +1013,10 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+        <translation>
+            <numerusform>%n entidad</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
     </message>
     <message>
         <source>Also: %1</source>
@@ -1034,11 +1067,17 @@
     </message>
     <message numerus="yes">
         <source>%n category(ies)</source>
-        <translation><numerusform>%n categoría</numerusform><numerusform>%n categorías</numerusform></translation>
+        <translation>
+            <numerusform>%n categoría</numerusform>
+            <numerusform>%n categorías</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+        <translation>
+            <numerusform>%n entidad</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete %1 and %2?</source>
@@ -1054,27 +1093,45 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies) move up.</source>
-        <translation><numerusform>%n entidad sube de nivel.</numerusform><numerusform>%n entidades suben de nivel.</numerusform></translation>
+        <translation>
+            <numerusform>%n entidad sube de nivel.</numerusform>
+            <numerusform>%n entidades suben de nivel.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Row(s)</source>
-        <translation><numerusform>Eliminar %n fila</numerusform><numerusform>Eliminar %n filas</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n fila</numerusform>
+            <numerusform>Eliminar %n filas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Category(ies)</source>
-        <translation><numerusform>Eliminar %n categoría</numerusform><numerusform>Eliminar %n categorías</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n categoría</numerusform>
+            <numerusform>Eliminar %n categorías</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n Entity(ies)</source>
-        <translation><numerusform>Eliminar %n entidad</numerusform><numerusform>Eliminar %n entidades</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n entidad</numerusform>
+            <numerusform>Eliminar %n entidades</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n entity(ies)</source>
-        <translation><numerusform>Eliminar %n entidad</numerusform><numerusform>Eliminar %n entidades</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n entidad</numerusform>
+            <numerusform>Eliminar %n entidades</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Delete %n category(ies)</source>
-        <translation><numerusform>Eliminar %n categoría</numerusform><numerusform>Eliminar %n categorías</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n categoría</numerusform>
+            <numerusform>Eliminar %n categorías</numerusform>
+        </translation>
     </message>
     <message>
         <source>Delete from the codex</source>
@@ -1086,15 +1143,24 @@
     </message>
     <message numerus="yes">
         <source>Duplicate %n entity(ies)</source>
-        <translation><numerusform>Duplicar %n entidad</numerusform><numerusform>Duplicar %n entidades</numerusform></translation>
+        <translation>
+            <numerusform>Duplicar %n entidad</numerusform>
+            <numerusform>Duplicar %n entidades</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Move %n codex row(s)</source>
-        <translation><numerusform>Mover %n fila del códice</numerusform><numerusform>Mover %n filas del códice</numerusform></translation>
+        <translation>
+            <numerusform>Mover %n fila del códice</numerusform>
+            <numerusform>Mover %n filas del códice</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Paste %n entity(ies)</source>
-        <translation><numerusform>Pegar %n entidad</numerusform><numerusform>Pegar %n entidades</numerusform></translation>
+        <translation>
+            <numerusform>Pegar %n entidad</numerusform>
+            <numerusform>Pegar %n entidades</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1702,6 +1768,10 @@
         <source>This project has no save location yet; use saveAs().</source>
         <translation>Este proyecto aún no tiene dónde guardarse; use saveAs().</translation>
     </message>
+    <message>
+        <source>%1 (read-only)</source>
+        <translation>%1 (solo lectura)</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::Opening</name>
@@ -1755,6 +1825,14 @@
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
     </message>
+    <message>
+        <source>%1 (copy)</source>
+        <translation>%1 (copia)</translation>
+    </message>
+    <message>
+        <source>This project is open in another window: %1</source>
+        <translation>Este proyecto está abierto en otra ventana: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -1807,6 +1885,41 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ProjectRepair</name>
+    <message>
+        <source>Could not read a project file: %1</source>
+        <translation>No se pudo leer un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Its bytes in the project file are damaged or missing.</source>
+        <translation>Sus datos en el archivo del proyecto están dañados o faltan.</translation>
+    </message>
+    <message>
+        <source>Nothing in this file can be read: %1</source>
+        <translation>Nada de este archivo se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>Duplicate object id %1 in %2</source>
+        <translation>Identificador de objeto %1 duplicado en %2</translation>
+    </message>
+    <message>
+        <source>Something stands there already: %1</source>
+        <translation>Ya hay algo ahí: %1</translation>
+    </message>
+    <message>
+        <source>Could not write a project file: %1</source>
+        <translation>No se pudo escribir un archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Could not move the file: %1</source>
+        <translation>No se pudo mover el archivo: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ProjectStore</name>
     <message>
         <source>The folder is not empty: %1</source>
@@ -1845,7 +1958,10 @@
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+        <translation>
+            <numerusform>%n objeto</numerusform>
+            <numerusform>%n objetos</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 – also “%2”</source>
@@ -1868,6 +1984,21 @@
     <message>
         <source>the merged file '%1' would not be valid</source>
         <translation>el archivo fusionado «%1» no sería válido</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::RepairFlow</name>
+    <message>
+        <source>%1 (backup)</source>
+        <translation>%1 (copia de seguridad)</translation>
+    </message>
+    <message>
+        <source>%1 (repaired)</source>
+        <translation>%1 (reparado)</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
     </message>
 </context>
 <context>
@@ -2073,6 +2204,10 @@
         <source>Unpacking…</source>
         <translation>Desempaquetando…</translation>
     </message>
+    <message>
+        <source>Reading the backups…</source>
+        <translation>Leyendo las copias de seguridad…</translation>
+    </message>
 </context>
 <context>
     <name>vl::cli::Batch</name>
@@ -2230,6 +2365,14 @@
     <message>
         <source>Make a project from a “markdown” or “text” source, or add to one</source>
         <translation>Crea un proyecto a partir de un origen «markdown» o «text», o añade a uno</translation>
+    </message>
+    <message>
+        <source>Write a copy that loads, and name each file that it leaves out</source>
+        <translation>Escribe una copia que se puede abrir y nombra cada archivo omitido</translation>
+    </message>
+    <message>
+        <source>List the backups of a project, newest first: file, date, size in bytes, documents, words</source>
+        <translation>Enumera las copias de seguridad de un proyecto, la más reciente primero: archivo, fecha, tamaño en bytes, documentos, palabras</translation>
     </message>
 </context>
 <context>
@@ -2665,6 +2808,25 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::AppearancePage</name>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>Texts of the interface</source>
+        <translation>Textos de la interfaz</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Font &amp;scale:</source>
+        <translation>E&amp;scala de la letra:</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::BackupsDialog</name>
     <message>
         <source>Open a &amp;Copy…</source>
@@ -2915,6 +3077,61 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::DamagedProjectDialog</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>The project does not load. Nothing in it was changed.</source>
+        <translation>El proyecto no se puede abrir. No se ha cambiado nada en él.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A repaired copy leaves out %n file(s):</source>
+        <translation><numerusform>Una copia reparada omite %n archivo:</numerusform><numerusform>Una copia reparada omite %n archivos:</numerusform></translation>
+    </message>
+    <message>
+        <source>Files that a repaired copy leaves out</source>
+        <translation>Archivos que omite una copia reparada</translation>
+    </message>
+    <message>
+        <source>%1 (a conflicting copy of “%2”)</source>
+        <translation>%1 (una copia en conflicto de «%2»)</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Open newest &amp;backup</source>
+        <translation>Abrir la &amp;copia de seguridad más reciente</translation>
+    </message>
+    <message>
+        <source>As a copy in a place that you choose. It was made: %1</source>
+        <translation>Como copia en el lugar que elija. Se hizo: %1</translation>
+    </message>
+    <message>
+        <source>In a place that you choose; this project stays as it is.</source>
+        <translation>En el lugar que elija; este proyecto se queda como está.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged file(s) can be taken from the working copy.</source>
+        <translation><numerusform>%n archivo dañado se puede tomar de la copia de trabajo.</numerusform><numerusform>%n archivos dañados se pueden tomar de la copia de trabajo.</numerusform></translation>
+    </message>
+    <message>
+        <source>Make a &amp;repaired copy without the damaged files</source>
+        <translation>Hacer una copia &amp;reparada sin los archivos dañados</translation>
+    </message>
+    <message>
+        <source>&amp;Set the conflicting copies aside</source>
+        <translation>&amp;Apartar las copias en conflicto</translation>
+    </message>
+    <message>
+        <source>They go into the folder “conflicting copies” of the project, then it opens.</source>
+        <translation>Pasan a la carpeta «conflicting copies» del proyecto y después este se abre.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DialogPrompts</name>
     <message>
         <source>Unsaved Changes</source>
@@ -2967,6 +3184,34 @@
     <message>
         <source>Save Project as Folder</source>
         <translation>Guardar el proyecto como carpeta</translation>
+    </message>
+    <message>
+        <source>“%1” is open already.</source>
+        <translation>«%1» ya está abierto.</translation>
+    </message>
+    <message>
+        <source>Nobody knows who has it open: its lock cannot be read.</source>
+        <translation>No se sabe quién lo tiene abierto: su bloqueo no se puede leer.</translation>
+    </message>
+    <message>
+        <source>%1 has it open on “%2” (process %3) since %4.</source>
+        <translation>%1 lo tiene abierto en «%2» (proceso %3) desde %4.</translation>
+    </message>
+    <message>
+        <source>If no program has it open any more, a crash or a broken connection left the lock behind; then open it anyway.</source>
+        <translation>Si ningún programa lo tiene ya abierto, el bloqueo quedó de un fallo o de una conexión rota; entonces ábralo de todos modos.</translation>
+    </message>
+    <message>
+        <source>Open a &amp;Copy…</source>
+        <translation>Abrir una &amp;copia…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Read-Only</source>
+        <translation>Abrir en &amp;solo lectura</translation>
+    </message>
+    <message>
+        <source>Open &amp;Anyway</source>
+        <translation>Abrir de &amp;todos modos</translation>
     </message>
 </context>
 <context>
@@ -3060,6 +3305,57 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::EditorPage</name>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Best installed reading font</source>
+        <translation>La mejor letra de lectura instalada</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Letra:</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Tamaño:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Line &amp;width:</source>
+        <translation>A&amp;ncho de línea:</translation>
+    </message>
+    <message>
+        <source> characters</source>
+        <translation> caracteres</translation>
+    </message>
+    <message>
+        <source>Line s&amp;pacing:</source>
+        <translation>&amp;Interlineado:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Escritura</translation>
+    </message>
+    <message>
+        <source>Turn straight &amp;quotes and dashes into typographic ones</source>
+        <translation>Convertir las comillas y los guiones rectos en tipo&amp;gráficos</translation>
+    </message>
+    <message>
+        <source>&amp;Typewriter scrolling: keep the line being written at the same height</source>
+        <translation>Desplazamiento de &amp;máquina de escribir: mantener la línea que se escribe a la misma altura</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::EditorPanel</name>
     <message>
         <source>Text of the document</source>
@@ -3139,6 +3435,29 @@
     <message>
         <source>Change Field</source>
         <translation>Cambiar campo</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::GeneralPage</name>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>&amp;Reopen the last project</source>
+        <translation>&amp;Volver a abrir el último proyecto</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>As the system</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>&amp;Interface language:</source>
+        <translation>&amp;Idioma de la interfaz:</translation>
     </message>
 </context>
 <context>
@@ -3318,6 +3637,29 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::PreferencesDialog</name>
+    <message>
+        <source>No page has these words.</source>
+        <translation>Ninguna página contiene estas palabras.</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Search preferences</source>
+        <translation>Buscar en las preferencias</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Page</source>
+        <translation>&amp;Restablecer página</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::ProjectCare</name>
     <message>
         <source>The project is backed up.</source>
@@ -3408,6 +3750,119 @@
     <message>
         <source>There are no documents in this backup.</source>
         <translation>No hay documentos en esta copia.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ShortcutsPage</name>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edición</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>AI</source>
+        <translation>IA</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>In panels</source>
+        <translation>En los paneles</translation>
+    </message>
+    <message>
+        <source>&amp;No Shortcut</source>
+        <translation>Si&amp;n atajo</translation>
+    </message>
+    <message>
+        <source>&amp;Built-in Shortcut</source>
+        <translation>A&amp;tajo original</translation>
+    </message>
+    <message>
+        <source>&amp;Use It Here</source>
+        <translation>&amp;Usarlo aquí</translation>
+    </message>
+    <message>
+        <source>Find an action or keys</source>
+        <translation>Buscar una acción o unas teclas</translation>
+    </message>
+    <message>
+        <source>Actions and their shortcuts</source>
+        <translation>Acciones y sus atajos</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Acción</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atajo</translation>
+    </message>
+    <message>
+        <source>New shortcut</source>
+        <translation>Atajo nuevo</translation>
+    </message>
+    <message>
+        <source>Select an action to change its shortcut.</source>
+        <translation>Seleccione una acción para cambiar su atajo.</translation>
+    </message>
+    <message>
+        <source>Press the new shortcut for “%1”:</source>
+        <translation>Pulse el atajo nuevo para «%1»:</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to “%2” now.</source>
+        <translation>«%1» pertenece ahora a «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ToolBarsPage</name>
+    <message>
+        <source>&amp;Entries of the tool bar “Main”:</source>
+        <translation>&amp;Entradas de la barra «Principal»:</translation>
+    </message>
+    <message>
+        <source>Entries of the tool bar “Main”</source>
+        <translation>Entradas de la barra «Principal»</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdatesPage</name>
+    <message>
+        <source>New versions</source>
+        <translation>Versiones nuevas</translation>
+    </message>
+    <message>
+        <source>&amp;Look for a new version once a day</source>
+        <translation>&amp;Buscar una versión nueva una vez al día</translation>
+    </message>
+    <message>
+        <source>Last looked for on %1.</source>
+        <translation>Se buscó por última vez el %1.</translation>
+    </message>
+    <message>
+        <source>Not looked for automatically yet.</source>
+        <translation>Aún no se ha buscado automáticamente.</translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
+        <translation>&amp;Comprobar ahora</translation>
     </message>
 </context>
 <context>
