@@ -1,7 +1,7 @@
 #include "desktop/shell/mainwindow.h"
 
 #include "app/base/settingskeys.h"
-#include "desktop/dialogs/palettehost.h"
+#include "desktop/dialogs/projecttools.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
@@ -45,7 +45,7 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     , m_actions(settings)
 {
     buildCentre();
-    m_palette = std::make_unique<PaletteHost>(
+    m_tools = std::make_unique<ProjectTools>(
         PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, *m_panels, this);
     bindActions();
     buildMenus();

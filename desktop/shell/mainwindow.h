@@ -14,9 +14,9 @@ class Appearance;
 class ElidedLabel;
 class Layouts;
 class Notices;
-class PaletteHost;
 class PanelHost;
 class ProjectCare;
+class ProjectTools;
 class SafeKeeping;
 
 /// The window: puts the project, the panels, the menus and the flows together.
@@ -58,7 +58,7 @@ private:
     Appearance *m_appearance = nullptr;
     PanelHost *m_panels = nullptr;
     Layouts *m_layouts = nullptr;
-    std::unique_ptr<PaletteHost> m_palette;
+    std::unique_ptr<ProjectTools> m_tools;
     std::unique_ptr<SafeKeeping> m_safeKeeping;
     std::unique_ptr<ProjectCare> m_care;
     ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
