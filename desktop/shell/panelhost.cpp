@@ -155,8 +155,8 @@ void PanelHost::placeStrays()
 void PanelHost::sizeAreas()
 {
     const int width = m_manager->window()->width();
-    const int left = std::clamp(width / 5, grid(56), grid(84));
-    const int right = std::clamp(width / 5, grid(60), grid(88));
+    const int left = std::clamp(width * 23 / 100, grid(60), grid(84));
+    const int right = std::clamp(width * 22 / 100, grid(60), grid(88));
     QList<int> sizes;
     const auto isShown = [this](DockSide side) {
         return m_areas[side] && !m_areas[side]->isHidden();

@@ -133,8 +133,6 @@ void applyTheme(const Theme &theme)
 {
     QApplication::setPalette(paletteOf(theme));
     const QPalette texts = textPaletteOf(theme);
-    if (texts.color(QPalette::Highlight) == QColor(theme.highlight))
-        return;
     for (const char *shower : {"QAbstractItemView", "QMenu", "QMenuBar", "QLineEdit",
                                "QPlainTextEdit", "QTextEdit", "QLabel", "QProgressBar"})
         QApplication::setPalette(texts, shower);

@@ -14,12 +14,33 @@ namespace vl::desktop {
 namespace {
 
 constexpr int ringPixels = 2;
+constexpr int darkLightness = 128; // of 255
 
 /// Views and texts fill their panel: there the ring lies on their own edge.
 bool isInside(const QWidget *frame)
 {
     const auto *ring = qobject_cast<const QFocusFrame *>(frame);
     return ring && qobject_cast<const QAbstractScrollArea *>(ring->widget());
+}
+
+/// The style draws its edges darker than the window, which a dark window swallows.
+bool needsOutlines(const QStyleOption *option)
+{
+    return option->palette.color(QPalette::Window).lightness() < darkLightness;
+}
+
+void drawOutline(QPainter *painter, const QRect &rect, const QStyleOption *option)
+{
+    const bool isEnabled = option->state.testFlag(QStyle::State_Enabled);
+    // Where windows and buttons are of one colour, nothing else tells them apart.
+    const bool isStrong =
+        isEnabled
+        && option->palette.color(QPalette::Window) == option->palette.color(QPalette::Button);
+    painter->save();
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(option->palette.color(isStrong ? QPalette::Dark : QPalette::Mid));
+    painter->drawRect(rect.adjusted(0, 0, -1, -1));
+    painter->restore();
 }
 
 } // namespace
@@ -56,6 +77,8 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    if (hint == SH_FocusFrame_AboveWidget)
+        return 1;
     if (hint != SH_FocusFrame_Mask || !option)
         return QProxyStyle::styleHint(hint, option, widget, data);
     if (auto *mask = qstyleoption_cast<QStyleHintReturnMask *>(data)) {
@@ -73,6 +96,44 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
         painter->fillRect(option->rect, focusColour(option->palette));
     else
         QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                 QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (!needsOutlines(option))
+        return;
+    switch (element) {
+    case PE_PanelButtonTool:
+        if (option->state.testFlag(State_AutoRaise) && !option->state.testFlag(State_MouseOver)
+            && !option->state.testFlag(State_On))
+            break;
+        [[fallthrough]];
+    case PE_PanelButtonCommand:
+    case PE_FrameLineEdit:
+    case PE_Frame:
+    case PE_FrameMenu:
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        drawOutline(painter, option->rect, option);
+        break;
+    default:
+        break;
+    }
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                      QPainter *painter, const QWidget *widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (!needsOutlines(option))
+        return;
+    if (control == CC_ComboBox || control == CC_SpinBox)
+        drawOutline(painter, option->rect, option);
+    else if (control == CC_ScrollBar)
+        drawOutline(painter, subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget),
+                    option);
 }
 
 } // namespace vl::desktop

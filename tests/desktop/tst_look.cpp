@@ -82,6 +82,7 @@ private Q_SLOTS:
     void nothingIsClipped();
     void textIsLegible_data();
     void textIsLegible();
+    void aThemeLeavesNothingOfTheOneBefore();
     void preferencesAreFoundAndReset();
     void shortcutsAreRecordedWithTheirConflicts();
 };
@@ -199,6 +200,21 @@ void TestLook::textIsLegible()
     // What is no text but has to be made out.
     const double ring = desktop::contrast(desktop::focusColour(palette), window);
     QVERIFY2(ring >= 3.0, qPrintable(QString::number(ring)));
+}
+
+void TestLook::aThemeLeavesNothingOfTheOneBefore()
+{
+    QPlainTextEdit text;
+    text.show();
+    for (const char *name : {"Sepia", "Light", "High Contrast", "Dark"}) {
+        const desktop::Theme &theme = desktop::themeNamed(QLatin1String(name));
+        desktop::applyTheme(theme);
+        QCOMPARE(text.palette().color(QPalette::Highlight),
+                 desktop::textPaletteOf(theme).color(QPalette::Highlight));
+        QCOMPARE(text.palette().color(QPalette::Base), QColor(theme.base));
+        QCOMPARE(QApplication::palette().color(QPalette::Highlight), QColor(theme.highlight));
+    }
+    desktop::applyTheme(desktop::themeNamed(QStringLiteral("Light")));
 }
 
 void TestLook::preferencesAreFoundAndReset()
