@@ -10,6 +10,8 @@ inline constexpr SettingKey recentProjects{"recentProjects", ""};
 inline constexpr SettingKey fontScale{"a11y/uiFontScale", "1.0"};
 inline constexpr SettingKey reopenLast{"general/reopenLast", "true"};
 inline constexpr SettingKey autoUpdateCheck{"general/autoUpdateCheck", "true"};
+inline constexpr SettingKey lastUpdateCheck{"general/lastUpdateCheck", ""};
+inline constexpr SettingKey welcomed{"onboarding/welcomed", ""};
 
 // The editor: an empty family is the best reading font that is installed, sizes are points, the
 // line's width is in characters, its spacing in percent of a line.

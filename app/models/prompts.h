@@ -46,6 +46,10 @@ public:
     /// One of the texts; nothing when called off.
     virtual QString chooseOne(const QString &title, const QString &label,
                               const QStringList &texts) = 0;
+    /// Which of the answers is chosen, the first being the one at hand; -1 when it is called off.
+    virtual int choose(const QString &title, const QString &question,
+                       const QStringList &answers) = 0;
+    virtual void showInformation(const QString &title, const QString &message) = 0;
     virtual void showError(const QString &title, const QString &message) = 0;
     /// Tells why a project does not load, and asks what to do about it.
     virtual DamageAnswer askDamaged(const DamagedProject &project) = 0;

@@ -97,6 +97,29 @@ QString DialogPrompts::chooseOne(const QString &title, const QString &label,
     return isChosen ? text : QString();
 }
 
+int DialogPrompts::choose(const QString &title, const QString &question, const QStringList &answers)
+{
+    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::NoButton, m_window);
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton *> buttons;
+    for (const QString &answer : answers)
+        buttons.append(box.addButton(answer, buttons.isEmpty() ? QMessageBox::AcceptRole
+                                                               : QMessageBox::ActionRole));
+    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
+    if (!buttons.isEmpty())
+        box.setDefaultButton(qobject_cast<QPushButton *>(buttons.constFirst()));
+    box.setEscapeButton(cancel);
+    box.exec();
+    return int(buttons.indexOf(box.clickedButton()));
+}
+
+void DialogPrompts::showInformation(const QString &title, const QString &message)
+{
+    QMessageBox box(QMessageBox::Information, title, message, QMessageBox::Ok, m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 void DialogPrompts::showError(const QString &title, const QString &message)
 {
     QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok, m_window);

@@ -28,6 +28,8 @@ public:
     QString askText(const QString &title, const QString &label, const QString &text) override;
     QString chooseOne(const QString &title, const QString &label,
                       const QStringList &texts) override;
+    int choose(const QString &title, const QString &question, const QStringList &answers) override;
+    void showInformation(const QString &title, const QString &message) override;
     void showError(const QString &title, const QString &message) override;
     app::DamageAnswer askDamaged(const app::DamagedProject &project) override;
     Locked askLocked(const QString &projectName, const app::LockHolder &holder,

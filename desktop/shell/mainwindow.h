@@ -32,6 +32,9 @@ public:
     /// Opens a project, telling the user when it does not load.
     bool openProject(const QString &path);
     app::Workspace &workspace() { return m_workspace; }
+    app::ProjectFlows &flows() { return m_flows; }
+    app::Prompts &prompts() { return m_prompts; }
+    ActionRegistry &actions() { return m_actions; }
     const ActionRegistry &actions() const { return m_actions; }
 
 protected:

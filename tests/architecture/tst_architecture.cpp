@@ -24,7 +24,7 @@ void TestArchitecture::includesFollowTheLayers_data()
     QTest::newRow("base") << "app/base"
                           << QStringList{QStringLiteral("core/"), QStringLiteral("app/base/")}
                           << services;
-    for (const char *room : {"storage", "time", "text", "story"}) {
+    for (const char *room : {"storage", "time", "text", "story", "update"}) {
         const QString folder = QStringLiteral("app/%1").arg(QLatin1String(room));
         QTest::newRow(room) << folder
                             << QStringList{QStringLiteral("core/"), QStringLiteral("app/base/"),

@@ -12,11 +12,12 @@ class FakePrompts final : public app::Prompts
 public:
     Unsaved unsaved = Unsaved::Cancel;
     bool confirms = false;
-    int choice = 0; ///< which of several texts is chosen
+    int choice = 0; ///< which of several texts or answers is chosen
     QString path;   ///< what every choice of a place gives
     QString text;   ///< what is typed; null leaves what is suggested
     QStringList questions;
     QStringList errors;
+    QStringList notices;
 
     Unsaved askUnsaved(const QString &projectName) override
     {
@@ -53,6 +54,15 @@ public:
     {
         holders.append(holder);
         return lockedAnswer;
+    }
+    int choose(const QString &, const QString &question, const QStringList &) override
+    {
+        questions.append(question);
+        return choice;
+    }
+    void showInformation(const QString &, const QString &message) override
+    {
+        notices.append(message);
     }
     void showError(const QString &, const QString &message) override { errors.append(message); }
 };

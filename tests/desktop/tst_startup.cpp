@@ -1,0 +1,617 @@
+#include "app/base/settingskeys.h"
+#include "app/storage/openproject.h"
+#include "desktop/shell/mainwindow.h"
+#include "desktop/startup/handover.h"
+#include "desktop/startup/startup.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtNetwork/QLocalServer>
+#include <QtNetwork/QLocalSocket>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
+using namespace vl;
+using namespace vl::desktop;
+
+namespace {
+
+constexpr uint nobody = 65534; // a user that is not root
+
+/// A name that nothing else on the machine uses.
+QString freshName()
+{
+    static int count = 0;
+    return QStringLiteral("IvorelTest-%1-%2").arg(QCoreApplication::applicationPid()).arg(++count);
+}
+
+/// This program again, in one of the roles of main().
+struct Child : QProcess
+{
+    explicit Child(const QStringList &arguments)
+    {
+        setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        setProgram(QCoreApplication::applicationFilePath());
+        setArguments(arguments);
+    }
+    ~Child() override
+    {
+        kill();
+        waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(Child)
+    bool begin()
+    {
+        start();
+        return waitForStarted();
+    }
+    QByteArray line()
+    {
+        while (!canReadLine() && waitForReadyRead()) {
+        }
+        return readLine().trimmed();
+    }
+};
+
+/// Whether somebody takes the message in the end.
+bool arrives(const QString &name, const QString &message)
+{
+    return QTest::qWaitFor([&] { return sendToRunningInstance(name, message); });
+}
+
+/// The roles of the child: what it does with the name, printed in a word.
+int runChild(const QStringList &arguments)
+{
+    const QString &role = arguments.at(1);
+    const QString &name = arguments.at(2);
+    const auto say = [](const char *word) {
+        std::puts(word);
+        std::fflush(stdout);
+    };
+    if (role == QLatin1String("send")) {
+        say(sendToRunningInstance(name, arguments.at(3)) ? "sent" : "nobody");
+        return 0;
+    }
+    const auto server =
+        handOverOrListen(name, QStringLiteral("/hello"), role == QLatin1String("takeOver"));
+    say(server && server->isListening() ? "listens" : "sent");
+    QSocketNotifier end(STDIN_FILENO, QSocketNotifier::Read); // ends with its parent's patience
+    QObject::connect(&end, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
+    return server ? QCoreApplication::exec() : 0;
+}
+
+} // namespace
+
+class TestStartUp : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commandLine_data();
+    void commandLine();
+    void optionValues();
+    void serverNames_data();
+    void serverNames();
+
+    void messages_data();
+    void messages();
+    void unfinishedMessages_data();
+    void unfinishedMessages();
+    void onlyThisUserMayConnect();
+    void staleName();
+    void launchesAtOneInstant();
+    void nameComesBack_data();
+    void nameComesBack();
+    void orphanedNameIsTakenBack();
+
+    void handOver_data();
+    void handOver();
+    void handOverWaitsForDialog();
+    void handOverDialogAsWorded();
+
+    void opensWhatWasAskedFor_data();
+    void opensWhatWasAskedFor();
+    void capture();
+    void damagedSettings_data();
+    void damagedSettings();
+    void language_data();
+    void language();
+};
+
+void TestStartUp::commandLine_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("newInstance");
+    QTest::newRow("none") << ""
+                          << "" << false;
+    QTest::newRow("project") << "a.vellum"
+                             << "a.vellum" << false;
+    QTest::newRow("two projects") << "a.vellum b.vellum"
+                                  << "a.vellum" << false;
+    QTest::newRow("unknown options") << "--x a.vellum --y"
+                                     << "a.vellum" << false;
+    QTest::newRow("values are no projects") << "--lang es --capture f.png a"
+                                            << "a" << false;
+    QTest::newRow("option at the end") << "a --lang"
+                                       << "a" << false;
+    QTest::newRow("new instance") << "--new-instance a"
+                                  << "a" << true;
+    QTest::newRow("an option as a value") << "--capture --new-instance a"
+                                          << "a" << false;
+    QTest::newRow("one dash") << "-a"
+                              << "-a" << false;
+}
+
+void TestStartUp::commandLine()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, path);
+    QFETCH(bool, newInstance);
+    const QStringList list =
+        QStringList{QStringLiteral("ivorel")} + arguments.split(u' ', Qt::SkipEmptyParts);
+    QCOMPARE(parseCommandLine(list), (CommandLineOptions{path, newInstance}));
+    const Launch launch = Launch::from(list);
+    QCOMPARE(launch.options.projectPath, path.isEmpty() ? path : QDir::current().filePath(path));
+}
+
+void TestStartUp::optionValues()
+{
+    const QStringList list{QStringLiteral("--lang"), QStringLiteral("--capture"),
+                           QStringLiteral("a.png"), QStringLiteral("--lang")};
+    QCOMPARE(optionValue(list, QStringLiteral("--capture")), QStringLiteral("a.png"));
+    QVERIFY(!optionValue(list, QStringLiteral("--lang"))); // the first argument is the program
+}
+
+void TestStartUp::serverNames_data()
+{
+    QTest::addColumn<QString>("user");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << "ana-maria_2"
+                           << "Ivorel-ana-maria_2";
+    QTest::newRow("letters of any script")
+        << QString::fromUtf8("Ángel") << QString::fromUtf8("Ivorel-Ángel");
+    QTest::newRow("punctuation") << "../!"
+                                 << "Ivorel-____";
+    QTest::newRow("empty") << ""
+                           << "Ivorel-default";
+}
+
+void TestStartUp::serverNames()
+{
+    QFETCH(QString, user);
+    QTEST(singleInstanceServerName(user), "name");
+}
+
+void TestStartUp::messages_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("path") << QByteArray("/a/b.vellum\n") << "/a/b.vellum";
+    QTest::newRow("empty") << QByteArray("\n") << "";
+    QTest::newRow("carriage return") << QByteArray("/a\r\n") << "/a";
+    QTest::newRow("only the first line") << QByteArray("/a\n/b\n") << "/a";
+    QTest::newRow("UTF-8") << QByteArray("/\xc3\xa9\n") << QString::fromUtf8("/é");
+    QTest::newRow("longest") << QByteArray(SingleInstanceServer::maxMessageBytes - 1, 'a') + '\n'
+                             << QString(SingleInstanceServer::maxMessageBytes - 1, u'a');
+}
+
+void TestStartUp::messages()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, message);
+    const QString name = freshName();
+    const SingleInstanceServer server(name);
+    QSignalSpy received(&server, &SingleInstanceServer::messageReceived);
+    for (const qsizetype piece : {bytes.size(), qsizetype(1 + bytes.size() / 3)}) {
+        QLocalSocket socket;
+        socket.connectToServer(name);
+        QVERIFY(socket.waitForConnected());
+        for (qsizetype at = 0; at < bytes.size(); at += piece) {
+            socket.write(bytes.mid(at, piece));
+            socket.flush();
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(received.size(), 1);
+        QCOMPARE(received.takeFirst().constFirst().toString(), message);
+        QTRY_COMPARE(socket.state(), QLocalSocket::UnconnectedState);
+    }
+    QVERIFY(sendToRunningInstance(name, QStringLiteral("/sent")));
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(received.constFirst().constFirst().toString(), QStringLiteral("/sent"));
+    // A path that the format cannot carry is not cut in two.
+    QVERIFY(!sendToRunningInstance(name, QStringLiteral("/a\nb")));
+}
+
+void TestStartUp::unfinishedMessages_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::newRow("nothing") << qint64(0);
+    QTest::newRow("no line feed") << qint64(10);
+    QTest::newRow("one too many") << qint64(SingleInstanceServer::maxMessageBytes);
+    QTest::newRow("100 MB") << qint64(100'000'000);
+}
+
+void TestStartUp::unfinishedMessages()
+{
+    QFETCH(qint64, bytes);
+    const QString name = freshName();
+    SingleInstanceServer server(name);
+    server.setLineTimeout(300);
+    const QSignalSpy received(&server, &SingleInstanceServer::messageReceived);
+    QLocalSocket socket;
+    socket.connectToServer(name);
+    QVERIFY(socket.waitForConnected());
+    socket.write(QByteArray(bytes, 'a'));
+    QTRY_COMPARE(socket.state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(received.size(), 0);
+    // And those who come after are heard.
+    QVERIFY(sendToRunningInstance(name, {}));
+    QTRY_COMPARE(received.size(), 1);
+}
+
+void TestStartUp::onlyThisUserMayConnect()
+{
+#ifdef Q_OS_UNIX
+    const QString name = freshName();
+    const SingleInstanceServer server(name);
+    const QSignalSpy received(&server, &SingleInstanceServer::messageReceived);
+    const QString path = QDir(QDir::tempPath()).filePath(name);
+    const auto others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ReadOther
+                        | QFileDevice::WriteOther;
+    QVERIFY(!(QFile::permissions(path) & others));
+    if (geteuid() != 0)
+        QSKIP("only root can become another user");
+    // Even where the way to the socket is open.
+    QVERIFY(QFile::setPermissions(path, QFile::permissions(path) | others));
+    Child other({QStringLiteral("send"), name, QStringLiteral("/x")});
+    other.setChildProcessModifier([] { [[maybe_unused]] const int failed = ::setuid(nobody); });
+    QVERIFY(other.begin());
+    QTRY_VERIFY(other.canReadLine());
+    QCOMPARE(other.line(), QByteArray("nobody"));
+    QLocalSocket probe; // takes its turn after the other's connection
+    probe.connectToServer(name);
+    probe.write("/mine\n");
+    QTRY_COMPARE(received.size(), 1);
+#endif
+}
+
+void TestStartUp::staleName()
+{
+    const QString name = freshName();
+    Child gone({QStringLiteral("listen"), name});
+    QVERIFY(gone.begin());
+    QCOMPARE(gone.line(), QByteArray("listens"));
+    gone.kill();
+    gone.waitForFinished();
+    QVERIFY(QFile::exists(QDir(QDir::tempPath()).filePath(name)));
+    const auto server = handOverOrListen(name, QStringLiteral("/a"), false);
+    QVERIFY(server && server->isListening());
+}
+
+void TestStartUp::launchesAtOneInstant()
+{
+    const QString name = freshName();
+    std::vector<std::unique_ptr<Child>> launches;
+    for (int i = 0; i < 6; ++i) {
+        launches.push_back(std::make_unique<Child>(QStringList{QStringLiteral("listen"), name}));
+        launches.back()->start();
+    }
+    int windows = 0;
+    for (const auto &launch : launches)
+        windows += launch->line() == "listens" ? 1 : 0;
+    QCOMPARE(windows, 1);
+}
+
+void TestStartUp::nameComesBack_data()
+{
+    QTest::addColumn<bool>("crashes");
+    QTest::newRow("newcomer ends") << false;
+    QTest::newRow("newcomer crashes") << true;
+}
+
+void TestStartUp::nameComesBack()
+{
+    QFETCH(bool, crashes);
+    const QString name = freshName();
+    // Two that were there before, so that they meet when both want the name back.
+    SingleInstanceServer first(name);
+    SingleInstanceServer second(name);
+    QSignalSpy atFirst(&first, &SingleInstanceServer::messageReceived);
+    QSignalSpy atSecond(&second, &SingleInstanceServer::messageReceived);
+    const auto here = [&] { return atFirst.size() + atSecond.size(); };
+    Child newcomer({QStringLiteral("takeOver"), name});
+    QVERIFY(newcomer.begin());
+    QCOMPARE(newcomer.line(), QByteArray("listens"));
+    QTest::qWait(50); // let those before notice
+    QVERIFY(sendToRunningInstance(name, QStringLiteral("/a")));
+    QTest::qWait(50);
+    QCOMPARE(here(), 0);
+
+    if (crashes)
+        newcomer.kill();
+    else
+        newcomer.closeWriteChannel();
+    newcomer.waitForFinished();
+    QVERIFY(arrives(name, QStringLiteral("/b")));
+    QTRY_COMPARE(here(), 1);
+    QTest::qWait(50);
+    QVERIFY(sendToRunningInstance(name, QStringLiteral("/c")));
+    QTRY_COMPARE(here(), 2);
+}
+
+void TestStartUp::orphanedNameIsTakenBack()
+{
+    const QString name = freshName();
+    auto before = std::make_unique<SingleInstanceServer>(name);
+    const SingleInstanceServer newcomer(name);
+    QSignalSpy received(&newcomer, &SingleInstanceServer::messageReceived);
+    QTest::qWait(50);
+    before.reset(); // which removes the name it had once
+    QVERIFY(arrives(name, QStringLiteral("/a")));
+    QTRY_COMPARE(received.size(), 1);
+}
+
+void TestStartUp::handOver_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("choice");
+    QTest::addColumn<QStringList>("said");
+    QTest::newRow("empty") << "" << 0 << QStringList();
+    QTest::newRow("blank") << "  " << 0 << QStringList();
+    QTest::newRow("missing") << "/no/such.vellum" << 0
+                             << QStringList{QStringLiteral("error The project could not be found: "
+                                                           "/no/such.vellum")};
+    const QString question =
+        QString::fromUtf8("question Ivorel is already open. Where should “My.Novel” open?");
+    QTest::newRow("here") << "My.Novel.vellum" << 0
+                          << QStringList{question, QStringLiteral("here")};
+    QTest::newRow("new window") << "My.Novel.vellum" << 1
+                                << QStringList{
+                                       question, QStringLiteral("elsewhere"),
+                                       QStringLiteral("error A new window could not be opened.")};
+    QTest::newRow("cancel") << "My.Novel.vellum" << -1 << QStringList{question};
+}
+
+void TestStartUp::handOver()
+{
+    QFETCH(QString, path);
+    QFETCH(int, choice);
+    QTemporaryDir dir;
+    if (path.startsWith(u'M')) {
+        path = dir.filePath(path);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    QWidget window;
+    window.showMinimized();
+    test::FakePrompts prompts;
+    prompts.choice = choice;
+    QStringList done;
+    HandOver handler(
+        &window, prompts,
+        [&](const QString &opened) {
+            QCOMPARE(opened, path);
+            done.append(QStringLiteral("here"));
+        },
+        [&](const QString &) {
+            done.append(QStringLiteral("elsewhere"));
+            return false;
+        });
+    handler.receive(path);
+    QVERIFY(window.isVisible() && !window.isMinimized());
+    QStringList said;
+    for (const QString &question : std::as_const(prompts.questions))
+        said.append(QStringLiteral("question ") + question);
+    said += done;
+    for (const QString &error : std::as_const(prompts.errors))
+        said.append(QStringLiteral("error ") + error);
+    QTEST(said, "said");
+}
+
+void TestStartUp::handOverWaitsForDialog()
+{
+    QTemporaryDir dir;
+    QWidget window;
+    window.show();
+    test::FakePrompts prompts;
+    HandOver handler(
+        &window, prompts, [](const QString &) {}, [](const QString &) { return true; });
+    QMessageBox box(&window);
+    box.addButton(QMessageBox::Ok);
+    QTimer::singleShot(0, &box, [&] {
+        handler.receive(dir.path());
+        handler.receive(dir.path());
+        QTest::qWait(300); // longer than the handler's patience
+        QCOMPARE(prompts.questions.size(), 0);
+        box.accept();
+    });
+    box.exec();
+    QTRY_COMPARE(prompts.questions.size(), 1);
+    QTest::qWait(300);
+    QCOMPARE(prompts.questions.size(), 1); // the same project twice is one question
+}
+
+void TestStartUp::handOverDialogAsWorded()
+{
+    QTemporaryDir dir;
+    QWidget window;
+    window.show();
+    DialogPrompts prompts(&window);
+    QString opened;
+    HandOver handler(
+        &window, prompts, [&](const QString &path) { opened = path; },
+        [](const QString &) { return true; });
+    QTimer::singleShot(0, &window, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        QCOMPARE(box->windowTitle(), QStringLiteral("Open Project"));
+        QCOMPARE(box->defaultButton()->text(), QStringLiteral("This Window"));
+        QVERIFY(box->button(QMessageBox::Cancel) == box->escapeButton());
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    handler.receive(dir.path());
+    QCOMPARE(opened, dir.path());
+}
+
+namespace {
+
+/// A start in a fresh home: settings of its own and a saved project.
+struct Start
+{
+    QTemporaryDir dir{QDir::tempPath() + QString::fromUtf8("/ivorel é XXXXXX")};
+    QString settingsFile = dir.filePath(QStringLiteral("settings.ini"));
+    QString project = dir.filePath(QStringLiteral("My Novel.vellum"));
+    test::FakePrompts prompts;
+
+    Start()
+    {
+        app::OpenProject saved;
+        if (!saved.saveAsBundle(project))
+            qFatal("the project cannot be saved");
+        app::Settings settings(settingsFile);
+        settings.set(app::settings::autoUpdateCheck, false);
+        settings.set(app::settings::welcomed, true);
+    }
+    /// The title of the window once everything is open.
+    QString titleAfter(const QStringList &arguments)
+    {
+        app::Settings settings(settingsFile);
+        StartUp startUp(Launch::from(QStringList{QStringLiteral("ivorel")} + arguments), settings,
+                        &prompts);
+        const QSignalSpy done(&startUp, &StartUp::done);
+        if (startUp.handOver(freshName()))
+            return QStringLiteral("handed over");
+        startUp.showWindow();
+        return QTest::qWaitFor([&] { return !done.isEmpty(); })
+                   ? startUp.window().windowTitle().section(u'[', 0, 0)
+                   : QStringLiteral("not done");
+    }
+};
+
+} // namespace
+
+void TestStartUp::opensWhatWasAskedFor_data()
+{
+    QTest::addColumn<QString>("argument");
+    QTest::addColumn<bool>("isRecent");
+    QTest::addColumn<bool>("reopens");
+    QTest::addColumn<bool>("opens");
+    QTest::addColumn<int>("errors");
+    QTest::newRow("given") << "project" << false << false << true << 0;
+    QTest::newRow("the last one") << "" << true << true << true << 0;
+    QTest::newRow("not the last one") << "" << true << false << false << 0;
+    QTest::newRow("nothing") << "" << false << true << false << 0;
+    QTest::newRow("given and missing") << "/no/such.vellum" << true << true << true << 1;
+}
+
+void TestStartUp::opensWhatWasAskedFor()
+{
+    QFETCH(QString, argument);
+    QFETCH(bool, isRecent);
+    QFETCH(bool, reopens);
+    QFETCH(bool, opens);
+    QFETCH(int, errors);
+    Start start;
+    {
+        app::Settings settings(start.settingsFile);
+        settings.set(app::settings::reopenLast, reopens);
+        if (isRecent)
+            settings.addRecentProject(start.project);
+    }
+    if (argument == QLatin1String("project"))
+        argument = start.project;
+    const QString title =
+        start.titleAfter(argument.isEmpty() ? QStringList() : QStringList{argument});
+    QCOMPARE(title == QLatin1String("My Novel"), opens);
+    QCOMPARE(start.prompts.errors.size(), errors);
+}
+
+void TestStartUp::capture()
+{
+    Start start;
+    const QString picture = start.dir.filePath(QStringLiteral("shot.png"));
+    app::Settings settings(start.settingsFile);
+    StartUp startUp(Launch::from({QStringLiteral("ivorel"), QStringLiteral("--capture"), picture,
+                                  start.project}),
+                    settings, &start.prompts);
+    const QString name = freshName();
+    const SingleInstanceServer running(name);
+    QVERIFY(!startUp.handOver(name)); // though somebody listens
+    startUp.showWindow();
+    QCOMPARE(QCoreApplication::exec(), 0);
+    const QImage image(picture);
+    QCOMPARE(image.size(), startUp.window().size());
+}
+
+void TestStartUp::damagedSettings_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("noise") << QByteArray("\x00\xff[\x01\x02]]\n==\n%general]\nx", 20);
+    QTest::newRow("cut off") << QByteArray("[General]\nrecentProjects=\"/a\\nb");
+    QTest::newRow("wrong values") << QByteArray(
+        "[general]\nlayout=@ByteArray(\\x1\\x2garbage)\ngeometry=@Variant(\\0)\n"
+        "[appearance]\ntheme=Mauve\nlanguage=!!\n[a11y]\nuiFontScale=nan\n");
+    QTest::newRow("no file can be there") << QByteArray();
+}
+
+void TestStartUp::damagedSettings()
+{
+    QFETCH(QByteArray, bytes);
+    Start start;
+    QVERIFY(QFile::remove(start.settingsFile));
+    if (bytes.isNull()) {
+        QVERIFY(QDir().mkpath(start.settingsFile + QStringLiteral("/x")));
+    } else {
+        QFile file(start.settingsFile);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QCOMPARE(start.titleAfter({start.project}), QStringLiteral("My Novel"));
+    QVERIFY(start.prompts.errors.isEmpty());
+}
+
+void TestStartUp::language_data()
+{
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("asked for") << "es"
+                               << "en"
+                               << "es_ES";
+    QTest::newRow("chosen") << ""
+                            << "es_MX"
+                            << "es_MX";
+    QTest::newRow("neither") << ""
+                             << "" << QLocale::system().name();
+}
+
+void TestStartUp::language()
+{
+    QFETCH(QString, asked);
+    QFETCH(QString, chosen);
+    QTemporaryDir dir;
+    app::Settings settings(dir.filePath(QStringLiteral("settings.ini")));
+    settings.set(app::settings::language, chosen);
+    QTEST(interfaceLocale(asked, settings).name(), "language");
+}
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    if (argc > 2 && QByteArray(argv[2]).startsWith("IvorelTest-"))
+        return runChild(QCoreApplication::arguments());
+    QStandardPaths::setTestModeEnabled(true);
+    const QTemporaryDir sockets;
+    qputenv("TMPDIR", QFile::encodeName(sockets.path()));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    TestStartUp test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_startup.moc"
