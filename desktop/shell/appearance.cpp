@@ -17,6 +17,14 @@ namespace {
 
 const InterfaceLanguage languages[] = {{"en", "English"}, {"es", "Español"}};
 
+/// What is no number is taken for the scale of the system.
+double scaleOf(const app::Settings &settings)
+{
+    bool isNumber = false;
+    const double scale = settings.text(app::settings::fontScale).toDouble(&isNumber);
+    return isNumber ? scale : 1.0;
+}
+
 } // namespace
 
 Appearance::Appearance(app::Settings &settings, QObject *parent)
@@ -27,14 +35,14 @@ Appearance::Appearance(app::Settings &settings, QObject *parent)
         if (key == QLatin1String(app::settings::theme.name))
             applyTheme(themeNamed(m_settings.text(app::settings::theme)));
         else if (key == QLatin1String(app::settings::fontScale.name))
-            applyFontScale(m_settings.text(app::settings::fontScale).toDouble());
+            applyFontScale(scaleOf(m_settings));
     });
 }
 
 void Appearance::apply(const app::Settings &settings)
 {
     applyTheme(themeNamed(settings.text(app::settings::theme)));
-    applyFontScale(settings.text(app::settings::fontScale).toDouble());
+    applyFontScale(scaleOf(settings));
 }
 
 void Appearance::addThemes(QMenu *menu)
