@@ -27,6 +27,8 @@ constexpr qsizetype gatherSize = 256 * 1024;
 /// Up to here each file of a batch is synced by itself; beyond, one sync of the file system is
 /// cheaper.
 constexpr int singleSyncs = 8;
+/// Some systems refuse to move 2 GiB or more in one call.
+constexpr qint64 largestTransfer = qint64(1) << 30;
 
 int openFile(const QByteArray &path, int flags, mode_t mode = 0)
 {
@@ -58,7 +60,8 @@ bool syncHandle(int handle, bool dataOnly)
 bool writeAll(int handle, QByteArrayView bytes)
 {
     while (!bytes.isEmpty()) {
-        const ssize_t written = ::write(handle, bytes.data(), size_t(bytes.size()));
+        const ssize_t written =
+            ::write(handle, bytes.data(), size_t(qMin<qint64>(bytes.size(), largestTransfer)));
         if (written < 0 && errno == EINTR)
             continue;
         if (written <= 0)
@@ -88,7 +91,8 @@ qint64 readUpTo(int handle, char *data, qint64 size)
 {
     qint64 done = 0;
     while (done < size) {
-        const ssize_t count = ::read(handle, data + done, size_t(size - done));
+        const ssize_t count =
+            ::read(handle, data + done, size_t(qMin(size - done, largestTransfer)));
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
