@@ -1,5 +1,6 @@
 #include "app/base/files.h"
 
+#include "app/base/atomicfilehandle.h"
 #include "app/base/unfinishedname.h"
 
 #include <QtCore/QDir>
@@ -43,6 +44,12 @@ QString withPath(const QString &message, const QString &path)
     return message.isEmpty() ? QString() : message.arg(QDir::toNativeSeparators(path));
 }
 
+bool isThere(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
 bool isUnfinishedFileName(const QString &fileName)
 {
     return fileName.size()
@@ -79,6 +86,18 @@ void removeUnfinishedFilesOf(const QString &path)
     const QFileInfo target(info.isSymLink() ? info.symLinkTarget() : path);
     const QByteArray name = QFile::encodeName(target.fileName());
     removeUnfinished(target.absoluteDir(), QString::fromLatin1(unfinishedNameStart(name)));
+}
+
+AtomicFile::AtomicFile(QString path, WriteMessages messages)
+    : m_path(std::move(path))
+    , m_messages(std::move(messages))
+    , m_handle(std::make_unique<Handle>())
+{
+}
+
+AtomicFile::~AtomicFile()
+{
+    discard();
 }
 
 Result<> AtomicFile::openFailure() const

@@ -49,6 +49,9 @@ bool fileHolds(const QString &path, QByteArrayView bytes);
 /// The message with the path, in native separators, in place of "%1"; an empty one stays empty.
 QString withPath(const QString &message, const QString &path);
 
+/// Whether anything stands there, be it only a link that leads nowhere.
+bool isThere(const QString &path);
+
 /// Makes a folder and its parents; true when it exists afterwards.
 bool makeFolder(const QString &path, Durability durability = Durability::Synced);
 

@@ -1,12 +1,12 @@
 // What files.h promises, with what the toolkit offers everywhere.
 
+#include "app/base/atomicfilehandle.h"
 #include "app/base/files.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 
 namespace vl::app {
 
@@ -88,23 +88,6 @@ bool areSameFile(const QString &a, const QString &b)
 {
     const QString first = QFileInfo(a).canonicalFilePath();
     return !first.isEmpty() && first == QFileInfo(b).canonicalFilePath();
-}
-
-struct AtomicFile::Handle
-{
-    std::unique_ptr<QSaveFile> file;
-};
-
-AtomicFile::AtomicFile(QString path, WriteMessages messages)
-    : m_path(std::move(path))
-    , m_messages(std::move(messages))
-    , m_handle(std::make_unique<Handle>())
-{
-}
-
-AtomicFile::~AtomicFile()
-{
-    discard();
 }
 
 Result<> AtomicFile::open()

@@ -1,5 +1,6 @@
 // What files.h promises, on systems with the calls of Unix.
 
+#include "app/base/atomicfilehandle.h"
 #include "app/base/files.h"
 #include "app/base/unfinishedname.h"
 
@@ -287,26 +288,6 @@ bool areSameFile(const QString &a, const QString &b)
     const FileIdentity second = FileIdentity::of(b);
     return first.isFile() && second.isFile() && first.device == second.device
            && first.node == second.node;
-}
-
-struct AtomicFile::Handle
-{
-    QByteArray target;
-    QByteArray temporary; ///< empty when there is none (any more)
-    QByteArray gathered;
-    int file = -1;
-};
-
-AtomicFile::AtomicFile(QString path, WriteMessages messages)
-    : m_path(std::move(path))
-    , m_messages(std::move(messages))
-    , m_handle(std::make_unique<Handle>())
-{
-}
-
-AtomicFile::~AtomicFile()
-{
-    discard();
 }
 
 Result<> AtomicFile::open()

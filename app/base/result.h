@@ -25,15 +25,17 @@ template<typename T = void>
 class [[nodiscard]] Result
 {
     static constexpr bool hasValue = !std::is_void_v<T>;
+    template<typename U>
+    static constexpr bool isValue = hasValue && std::is_constructible_v<T, U>
+                                    && !std::is_same_v<std::remove_cvref_t<U>, Result>
+                                    && !std::is_same_v<std::remove_cvref_t<U>, Failure>;
 
 public:
     Result()
         requires std::is_void_v<T>
     = default;
-    template<typename U = T>
-        requires(hasValue && std::is_constructible_v<T, U &&>
-                 && !std::is_same_v<std::remove_cvref_t<U>, Result>
-                 && !std::is_same_v<std::remove_cvref_t<U>, Failure>)
+    // In this form, which the linter takes for what it is: a condition that leaves copying alone.
+    template<typename U = T, typename = std::enable_if_t<isValue<U>>>
     Result(U &&value) // NOLINT(google-explicit-constructor): `return value;` is the point
         : m_expected(std::forward<U>(value))
     {

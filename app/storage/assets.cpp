@@ -59,10 +59,8 @@ Result<QString> importAsset(const QString &sourcePath, const QString &projectFol
         return failure(
             withPath(Assets::tr("Cannot create project folder: %1"), folder + assetsFolder()));
     const QString path =
-        newAssetPath(QFileInfo(sourcePath).fileName(), [&folder](const QString &taken) {
-            const QFileInfo info(folder + taken);
-            return info.exists() || info.isSymLink();
-        });
+        newAssetPath(QFileInfo(sourcePath).fileName(),
+                     [&folder](const QString &taken) { return isThere(folder + taken); });
     const Result<> written =
         writeFile(folder + path, *bytes,
                   {Assets::tr("Cannot write file: %1"), Assets::tr("Failed to write file: %1")});

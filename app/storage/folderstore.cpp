@@ -48,12 +48,6 @@ enum class Standing
     Foreign, ///< someone else changed it
 };
 
-bool isThere(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink();
-}
-
 Standing standing(const QString &folder, const FolderSave::Target &target)
 {
     const QString path = folder + u'/' + target.path;

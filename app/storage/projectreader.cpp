@@ -178,8 +178,8 @@ Result<Source> ProjectReader::listFolder(const QString &folder)
     if (!categories)
         return categories.asFailure();
     source.categories = *std::move(categories);
-    const QFileInfo records(source.folder + u'/' + recordsPath());
-    if (records.exists() || records.isSymLink()) // a link to nowhere is a file that cannot be read
+    // A link to nowhere is a file that cannot be read.
+    if (isThere(source.folder + u'/' + recordsPath()))
         source.records.push_back({recordsPath(), nullptr});
     return source;
 }

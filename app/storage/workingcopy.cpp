@@ -41,12 +41,6 @@ QString discardedPath(const QString &folder)
     return folder + QStringLiteral(".discarded");
 }
 
-bool isThere(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink();
-}
-
 bool removeTree(const QString &path)
 {
     if (!isThere(path))
