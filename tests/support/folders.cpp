@@ -1,5 +1,7 @@
 #include "tests/support/folders.h"
 
+#include "app/storage/projectwriter.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
@@ -38,6 +40,15 @@ FileMap filesUnder(const QString &folder)
         const QString path = it.next();
         files.insert(path.mid(folder.size() + 1), fileBytes(path));
     }
+    return files;
+}
+
+FileMap filesOf(const core::Project &project)
+{
+    FileMap files;
+    app::serializeProject(project, [&files](const QString &path, const QByteArray &bytes) {
+        files.insert(path, bytes);
+    });
     return files;
 }
 

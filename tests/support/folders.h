@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/project.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QMap>
 #include <QtCore/QString>
@@ -17,6 +19,8 @@ void putFile(const QString &path, const QByteArray &bytes);
 QByteArray fileBytes(const QString &path);
 /// All files under the folder, hidden ones too.
 FileMap filesUnder(const QString &folder);
+/// The files that a project is saved as.
+FileMap filesOf(const core::Project &project);
 /// The names of everything directly in the folder, hidden or not, in order.
 QStringList namesIn(const QString &folder);
 
