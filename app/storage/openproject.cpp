@@ -184,7 +184,9 @@ void OpenProject::finishSaving()
 
 bool OpenProject::meetsOutsideChanges()
 {
-    return m_store && m_store->prepare(*m_project, &m_unsaved)->meetsOutsideChanges();
+    // While a save runs, what stands there may be its own; it looks for itself, and so does the
+    // next.
+    return m_store && !m_running && m_store->prepare(*m_project, &m_unsaved)->meetsOutsideChanges();
 }
 
 Result<> OpenProject::saveAsBundle(const QString &path)

@@ -59,7 +59,7 @@ public:
     bool isSaving() const { return m_running != nullptr; }
     /// Waits for a save that runs in the background, and for the one that waits behind it.
     void finishSaving();
-    /// Whether others changed what a save would write over now.
+    /// Whether others changed what a save would write over now; false while one runs.
     bool meetsOutsideChanges();
     /// Saves as a ".vellum" file, or as a folder, which becomes the project's place. The files
     /// under "assets/" and others that the project carries come along.

@@ -1,5 +1,6 @@
 #include "app/storage/bundle.h"
 #include "app/storage/openproject.h"
+#include "core/commands/documentcommands.h"
 #include "core/content/document.h"
 #include "tests/support/folders.h"
 
@@ -8,6 +9,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThreadPool>
 #include <QtTest/QtTest>
 
 using namespace vl::app;
@@ -15,7 +17,7 @@ using namespace vl::test;
 using vl::core::ContentId;
 using vl::core::Document;
 using vl::core::DocumentKind;
-using vl::core::Project;
+using vl::core::SetDocumentTitleCommand;
 
 namespace {
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesElsewhereWhenItsPlaceIsGone_data();
     void savesElsewhereWhenItsPlaceIsGone();
+    void ownSavesAreNoOutsideChanges_data();
+    void ownSavesAreNoOutsideChanges();
     void namesTheBackupOfWhatDoesNotLoad();
 };
 
@@ -91,6 +95,37 @@ void TestOpenProject::savesElsewhereWhenItsPlaceIsGone()
     QVERIFY(again);
     QCOMPARE((*again)->project().size(), 1);
     QCOMPARE(QFile::exists((*again)->folder() + QStringLiteral("/assets/map.png")), keepsAssets);
+}
+
+void TestOpenProject::ownSavesAreNoOutsideChanges_data()
+{
+    QTest::addColumn<bool>("isBundle");
+    QTest::newRow("folder") << false;
+    QTest::newRow("bundle") << true;
+}
+
+void TestOpenProject::ownSavesAreNoOutsideChanges()
+{
+    QFETCH(bool, isBundle);
+    QTemporaryDir dir;
+    OpenProject open;
+    auto made = std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, QString());
+    Document &document = *made;
+    open.project().add(std::move(made));
+    QVERIFY(isBundle ? open.saveAsBundle(dir.filePath(QStringLiteral("book.vellum")))
+                     : open.saveAsFolder(dir.filePath(QStringLiteral("book"))));
+    const auto rename = [&](const char *title) {
+        open.push(std::make_unique<SetDocumentTitleCommand>(document, QLatin1String(title)));
+    };
+    rename("first");
+    open.saveInBackground();
+    QThreadPool::globalInstance()->waitForDone(); // written, but the project does not know yet
+    rename("second");
+    QVERIFY(open.isSaving());
+    QVERIFY(!open.meetsOutsideChanges());
+    QVERIFY(open.save());
+    QVERIFY(!open.isDirty());
+    QVERIFY(!open.meetsOutsideChanges());
 }
 
 // Changes that were never saved come from a copy that a crash may have cut short.
