@@ -209,6 +209,7 @@ void TestLook::aThemeLeavesNothingOfTheOneBefore()
     for (const char *name : {"Sepia", "Light", "High Contrast", "Dark"}) {
         const desktop::Theme &theme = desktop::themeNamed(QLatin1String(name));
         desktop::applyTheme(theme);
+        QCoreApplication::processEvents(); // the widgets are told from the event loop
         QCOMPARE(text.palette().color(QPalette::Highlight),
                  desktop::textPaletteOf(theme).color(QPalette::Highlight));
         QCOMPARE(text.palette().color(QPalette::Base), QColor(theme.base));
