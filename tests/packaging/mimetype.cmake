@@ -1,0 +1,8 @@
+file(REMOVE_RECURSE "${work}")
+file(MAKE_DIRECTORY "${work}/packages")
+file(COPY "${type}" DESTINATION "${work}/packages")
+execute_process(COMMAND "${update}" "${work}" RESULT_VARIABLE status ERROR_VARIABLE errors)
+file(READ "${work}/globs2" globs)
+if(NOT status EQUAL 0 OR NOT globs MATCHES "application/x-ivorel-vellum:\\*\\.vellum")
+    message(FATAL_ERROR "The type is not known to the database: ${errors}${globs}")
+endif()
