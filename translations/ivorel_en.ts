@@ -1920,6 +1920,125 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ProjectSearchModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Footnote</source>
+        <translation>Footnote</translation>
+    </message>
+    <message>
+        <source>Variant</source>
+        <translation>Variant</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Point of view</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Caption</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Cell</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entry</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detail</translation>
+    </message>
+    <message>
+        <source>The search was stopped.</source>
+        <translation>The search was stopped.</translation>
+    </message>
+    <message>
+        <source>Comment on “%1”</source>
+        <translation>Comment on “%1”</translation>
+    </message>
+    <message>
+        <source>Eras</source>
+        <translation>Eras</translation>
+    </message>
+    <message>
+        <source>Markers</source>
+        <translation>Markers</translation>
+    </message>
+    <message>
+        <source>Plot threads</source>
+        <translation>Plot threads</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>The expression takes too many steps; the search stopped at “%1”.</source>
+        <translation>The expression takes too many steps; the search stopped at “%1”.</translation>
+    </message>
+    <message>
+        <source>Replace in project</source>
+        <translation>Replace in project</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s)</source>
+        <translation><numerusform>%1: %n place</numerusform><numerusform>%1: %n places</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 “%2”</translation>
+    </message>
+    <message>
+        <source>%1, becomes “%2”</source>
+        <translation>%1, becomes “%2”</translation>
+    </message>
+    <message>
+        <source>This text is not changed from here.</source>
+        <translation>This text is not changed from here.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ProjectStore</name>
     <message>
         <source>The folder is not empty: %1</source>
@@ -2010,6 +2129,21 @@
     <message>
         <source>Could not open the project file: %1</source>
         <translation>Could not open the project file: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::SearchPattern</name>
+    <message>
+        <source>What is searched for is too long.</source>
+        <translation>What is searched for is too long.</translation>
+    </message>
+    <message>
+        <source>There is nothing to search for.</source>
+        <translation>There is nothing to search for.</translation>
+    </message>
+    <message>
+        <source>The expression is not complete at character %1: %2.</source>
+        <translation>The expression is not complete at character %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -3088,7 +3222,10 @@
     </message>
     <message numerus="yes">
         <source>A repaired copy leaves out %n file(s):</source>
-        <translation><numerusform>A repaired copy leaves out %n file:</numerusform><numerusform>A repaired copy leaves out %n files:</numerusform></translation>
+        <translation>
+            <numerusform>A repaired copy leaves out %n file:</numerusform>
+            <numerusform>A repaired copy leaves out %n files:</numerusform>
+        </translation>
     </message>
     <message>
         <source>Files that a repaired copy leaves out</source>
@@ -3116,7 +3253,10 @@
     </message>
     <message numerus="yes">
         <source>%n damaged file(s) can be taken from the working copy.</source>
-        <translation><numerusform>%n damaged file can be taken from the working copy.</numerusform><numerusform>%n damaged files can be taken from the working copy.</numerusform></translation>
+        <translation>
+            <numerusform>%n damaged file can be taken from the working copy.</numerusform>
+            <numerusform>%n damaged files can be taken from the working copy.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Make a &amp;repaired copy without the damaged files</source>
@@ -3305,6 +3445,29 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::Download</name>
+    <message>
+        <source>The server took too long to answer.</source>
+        <translation>The server took too long to answer.</translation>
+    </message>
+    <message>
+        <source>The address is not a secure one.</source>
+        <translation>The address is not a secure one.</translation>
+    </message>
+    <message>
+        <source>The server sent more than was expected.</source>
+        <translation>The server sent more than was expected.</translation>
+    </message>
+    <message>
+        <source>The server sent the program elsewhere.</source>
+        <translation>The server sent the program elsewhere.</translation>
+    </message>
+    <message>
+        <source>The server sent the program round in circles.</source>
+        <translation>The server sent the program round in circles.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::EditorPage</name>
     <message>
         <source>Text</source>
@@ -3438,6 +3601,153 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FindInProject</name>
+    <message>
+        <source>Manuscript</source>
+        <translation>Manuscript</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Synopses and Planning</source>
+        <translation>Synopses and Planning</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Codex</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comments</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Timeline</translation>
+    </message>
+    <message>
+        <source>Everything Else</source>
+        <translation>Everything Else</translation>
+    </message>
+    <message>
+        <source>&amp;Replace with:</source>
+        <translation>&amp;Replace with:</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Stop</translation>
+    </message>
+    <message>
+        <source>Find in Project</source>
+        <translation>Find in Project</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Find:</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Text to find</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Match case</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Whole words</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regular expression</translation>
+    </message>
+    <message>
+        <source>Text to replace it with</source>
+        <translation>Text to replace it with</translation>
+    </message>
+    <message>
+        <source>Keep the case of what is replaced</source>
+        <translation>Keep the case of what is replaced</translation>
+    </message>
+    <message>
+        <source>&amp;In:</source>
+        <translation>&amp;In:</translation>
+    </message>
+    <message>
+        <source>How far the search is</source>
+        <translation>How far the search is</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Everywhere</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Places found</translation>
+    </message>
+    <message>
+        <source>How much was found</source>
+        <translation>How much was found</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Nowhere</source>
+        <translation>Nowhere</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation><numerusform>%1 and %n more</numerusform><numerusform>%1 and %n more</numerusform></translation>
+    </message>
+    <message>
+        <source>Where to search: %1</source>
+        <translation>Where to search: %1</translation>
+    </message>
+    <message>
+        <source>The first %1 places are listed.</source>
+        <translation>The first %1 places are listed.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) in %1</source>
+        <translation><numerusform>%n place in %1</numerusform><numerusform>%n places in %1</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+    </message>
+    <message>
+        <source>Find a word in the manuscript, the notes, the codex, the comments and all other texts of the project.</source>
+        <translation>Find a word in the manuscript, the notes, the codex, the comments and all other texts of the project.</translation>
+    </message>
+    <message>
+        <source>“%1” is nowhere to be found.</source>
+        <translation>“%1” is nowhere to be found.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n &amp;Place(s)</source>
+        <translation><numerusform>Replace %n &amp;Place</numerusform><numerusform>Replace %n &amp;Places</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Replaced %n place(s) in %1.</source>
+        <translation><numerusform>Replaced %n place in %1.</numerusform><numerusform>Replaced %n places in %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) had changed since the search and stayed as they are.</source>
+        <translation><numerusform>%n place had changed since the search and stayed as they are.</numerusform><numerusform>%n places had changed since the search and stayed as they are.</numerusform></translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::GeneralPage</name>
     <message>
         <source>Start</source>
@@ -3458,6 +3768,33 @@
     <message>
         <source>&amp;Interface language:</source>
         <translation>&amp;Interface language:</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::HandOver</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Open Project</translation>
+    </message>
+    <message>
+        <source>The project could not be found: %1</source>
+        <translation>The project could not be found: %1</translation>
+    </message>
+    <message>
+        <source>Ivorel is already open. Where should “%1” open?</source>
+        <translation>Ivorel is already open. Where should “%1” open?</translation>
+    </message>
+    <message>
+        <source>This Window</source>
+        <translation>This Window</translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation>New Window</translation>
+    </message>
+    <message>
+        <source>A new window could not be opened.</source>
+        <translation>A new window could not be opened.</translation>
     </message>
 </context>
 <context>
@@ -3840,6 +4177,68 @@
     <message>
         <source>Entries of the tool bar “Main”</source>
         <translation>Entries of the tool bar “Main”</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdateCheck</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Check for Updates</translation>
+    </message>
+    <message>
+        <source>Could not reach the update service: %1</source>
+        <translation>Could not reach the update service: %1</translation>
+    </message>
+    <message>
+        <source>The update information could not be read.</source>
+        <translation>The update information could not be read.</translation>
+    </message>
+    <message>
+        <source>You're up to date — Ivorel %1 is the newest version.</source>
+        <translation>You're up to date — Ivorel %1 is the newest version.</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>The download failed: %1</source>
+        <translation>The download failed: %1</translation>
+    </message>
+    <message>
+        <source>The downloaded installer failed its integrity check and was discarded. Nothing was installed.</source>
+        <translation>The downloaded installer failed its integrity check and was discarded. Nothing was installed.</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to disk.</source>
+        <translation>The installer could not be saved to disk.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>The installer could not be started.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdateStatus</name>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Progress of the download</translation>
+    </message>
+    <message>
+        <source>Cancel the download</source>
+        <translation>Cancel the download</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Checking for updates…</translation>
+    </message>
+    <message>
+        <source>Downloading Ivorel %1…</source>
+        <translation>Downloading Ivorel %1…</translation>
+    </message>
+    <message>
+        <source>Update available: %1 — Install…</source>
+        <translation>Update available: %1 — Install…</translation>
     </message>
 </context>
 <context>

@@ -1920,6 +1920,125 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ProjectSearchModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Footnote</source>
+        <translation>Nota al pie</translation>
+    </message>
+    <message>
+        <source>Variant</source>
+        <translation>Variante</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Sinopsis</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Punto de vista</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Pie</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Celda</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detalle</translation>
+    </message>
+    <message>
+        <source>The search was stopped.</source>
+        <translation>La búsqueda se detuvo.</translation>
+    </message>
+    <message>
+        <source>Comment on “%1”</source>
+        <translation>Comentario sobre «%1»</translation>
+    </message>
+    <message>
+        <source>Eras</source>
+        <translation>Eras</translation>
+    </message>
+    <message>
+        <source>Markers</source>
+        <translation>Marcadores</translation>
+    </message>
+    <message>
+        <source>Plot threads</source>
+        <translation>Tramas</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>The expression takes too many steps; the search stopped at “%1”.</source>
+        <translation>La expresión requiere demasiados pasos; la búsqueda se detuvo en «%1».</translation>
+    </message>
+    <message>
+        <source>Replace in project</source>
+        <translation>Reemplazar en el proyecto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n place(s)</source>
+        <translation><numerusform>%1: %n lugar</numerusform><numerusform>%1: %n lugares</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 «%2»</translation>
+    </message>
+    <message>
+        <source>%1, becomes “%2”</source>
+        <translation>%1, pasa a ser «%2»</translation>
+    </message>
+    <message>
+        <source>This text is not changed from here.</source>
+        <translation>Este texto no se cambia desde aquí.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ProjectStore</name>
     <message>
         <source>The folder is not empty: %1</source>
@@ -2010,6 +2129,21 @@
     <message>
         <source>Could not open the project file: %1</source>
         <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::SearchPattern</name>
+    <message>
+        <source>What is searched for is too long.</source>
+        <translation>Lo que se busca es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>There is nothing to search for.</source>
+        <translation>No hay nada que buscar.</translation>
+    </message>
+    <message>
+        <source>The expression is not complete at character %1: %2.</source>
+        <translation>La expresión no está completa en el carácter %1: %2.</translation>
     </message>
 </context>
 <context>
@@ -3088,7 +3222,10 @@
     </message>
     <message numerus="yes">
         <source>A repaired copy leaves out %n file(s):</source>
-        <translation><numerusform>Una copia reparada omite %n archivo:</numerusform><numerusform>Una copia reparada omite %n archivos:</numerusform></translation>
+        <translation>
+            <numerusform>Una copia reparada omite %n archivo:</numerusform>
+            <numerusform>Una copia reparada omite %n archivos:</numerusform>
+        </translation>
     </message>
     <message>
         <source>Files that a repaired copy leaves out</source>
@@ -3116,7 +3253,10 @@
     </message>
     <message numerus="yes">
         <source>%n damaged file(s) can be taken from the working copy.</source>
-        <translation><numerusform>%n archivo dañado se puede tomar de la copia de trabajo.</numerusform><numerusform>%n archivos dañados se pueden tomar de la copia de trabajo.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo dañado se puede tomar de la copia de trabajo.</numerusform>
+            <numerusform>%n archivos dañados se pueden tomar de la copia de trabajo.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Make a &amp;repaired copy without the damaged files</source>
@@ -3305,6 +3445,29 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::Download</name>
+    <message>
+        <source>The server took too long to answer.</source>
+        <translation>El servidor tardó demasiado en responder.</translation>
+    </message>
+    <message>
+        <source>The address is not a secure one.</source>
+        <translation>La dirección no es segura.</translation>
+    </message>
+    <message>
+        <source>The server sent more than was expected.</source>
+        <translation>El servidor envió más de lo esperado.</translation>
+    </message>
+    <message>
+        <source>The server sent the program elsewhere.</source>
+        <translation>El servidor envió el programa a otro sitio.</translation>
+    </message>
+    <message>
+        <source>The server sent the program round in circles.</source>
+        <translation>El servidor hizo dar vueltas al programa.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::EditorPage</name>
     <message>
         <source>Text</source>
@@ -3438,6 +3601,153 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FindInProject</name>
+    <message>
+        <source>Manuscript</source>
+        <translation>Manuscrito</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Synopses and Planning</source>
+        <translation>Sinopsis y planificación</translation>
+    </message>
+    <message>
+        <source>Codex</source>
+        <translation>Códice</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comentarios</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Everything Else</source>
+        <translation>Todo lo demás</translation>
+    </message>
+    <message>
+        <source>&amp;Replace with:</source>
+        <translation>&amp;Reemplazar con:</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <source>Find in Project</source>
+        <translation>Buscar en el proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texto que buscar</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Palabras completas</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Expresión regular</translation>
+    </message>
+    <message>
+        <source>Text to replace it with</source>
+        <translation>Texto que lo reemplaza</translation>
+    </message>
+    <message>
+        <source>Keep the case of what is replaced</source>
+        <translation>Conservar las mayúsculas de lo reemplazado</translation>
+    </message>
+    <message>
+        <source>&amp;In:</source>
+        <translation>&amp;En:</translation>
+    </message>
+    <message>
+        <source>How far the search is</source>
+        <translation>Avance de la búsqueda</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>En todas partes</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>Lugares encontrados</translation>
+    </message>
+    <message>
+        <source>How much was found</source>
+        <translation>Cuánto se encontró</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Nowhere</source>
+        <translation>En ninguna parte</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation><numerusform>%1 y %n más</numerusform><numerusform>%1 y %n más</numerusform></translation>
+    </message>
+    <message>
+        <source>Where to search: %1</source>
+        <translation>Dónde buscar: %1</translation>
+    </message>
+    <message>
+        <source>The first %1 places are listed.</source>
+        <translation>Se muestran los primeros %1 lugares.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) in %1</source>
+        <translation><numerusform>%n lugar en %1</numerusform><numerusform>%n lugares en %1</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+    </message>
+    <message>
+        <source>Find a word in the manuscript, the notes, the codex, the comments and all other texts of the project.</source>
+        <translation>Busque una palabra en el manuscrito, las notas, el códice, los comentarios y todos los demás textos del proyecto.</translation>
+    </message>
+    <message>
+        <source>“%1” is nowhere to be found.</source>
+        <translation>«%1» no aparece en ninguna parte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n &amp;Place(s)</source>
+        <translation><numerusform>Reemplazar %n &amp;lugar</numerusform><numerusform>Reemplazar %n &amp;lugares</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>Replaced %n place(s) in %1.</source>
+        <translation><numerusform>Se reemplazó %n lugar en %1.</numerusform><numerusform>Se reemplazaron %n lugares en %1.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) had changed since the search and stayed as they are.</source>
+        <translation><numerusform>%n lugar había cambiado desde la búsqueda y se quedó como está.</numerusform><numerusform>%n lugares habían cambiado desde la búsqueda y se quedaron como están.</numerusform></translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::GeneralPage</name>
     <message>
         <source>Start</source>
@@ -3458,6 +3768,33 @@
     <message>
         <source>&amp;Interface language:</source>
         <translation>&amp;Idioma de la interfaz:</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::HandOver</name>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>The project could not be found: %1</source>
+        <translation>No se encontró el proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Ivorel is already open. Where should “%1” open?</source>
+        <translation>Ivorel ya está abierto. ¿Dónde quiere abrir «%1»?</translation>
+    </message>
+    <message>
+        <source>This Window</source>
+        <translation>Esta ventana</translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation>Ventana nueva</translation>
+    </message>
+    <message>
+        <source>A new window could not be opened.</source>
+        <translation>No se pudo abrir una ventana nueva.</translation>
     </message>
 </context>
 <context>
@@ -3840,6 +4177,68 @@
     <message>
         <source>Entries of the tool bar “Main”</source>
         <translation>Entradas de la barra «Principal»</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdateCheck</name>
+    <message>
+        <source>Check for Updates</source>
+        <translation>Buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Could not reach the update service: %1</source>
+        <translation>No se pudo contactar con el servicio de actualizaciones: %1</translation>
+    </message>
+    <message>
+        <source>The update information could not be read.</source>
+        <translation>No se pudo leer la información de la actualización.</translation>
+    </message>
+    <message>
+        <source>You're up to date — Ivorel %1 is the newest version.</source>
+        <translation>Está al día: Ivorel %1 es la versión más reciente.</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>The download failed: %1</source>
+        <translation>La descarga falló: %1</translation>
+    </message>
+    <message>
+        <source>The downloaded installer failed its integrity check and was discarded. Nothing was installed.</source>
+        <translation>El instalador descargado no superó la comprobación de integridad y se descartó. No se instaló nada.</translation>
+    </message>
+    <message>
+        <source>The installer could not be saved to disk.</source>
+        <translation>No se pudo guardar el instalador en el disco.</translation>
+    </message>
+    <message>
+        <source>The installer could not be started.</source>
+        <translation>No se pudo iniciar el instalador.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UpdateStatus</name>
+    <message>
+        <source>Progress of the download</source>
+        <translation>Avance de la descarga</translation>
+    </message>
+    <message>
+        <source>Cancel the download</source>
+        <translation>Cancelar la descarga</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Buscando actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Downloading Ivorel %1…</source>
+        <translation>Descargando Ivorel %1…</translation>
+    </message>
+    <message>
+        <source>Update available: %1 — Install…</source>
+        <translation>Actualización disponible: %1 — Instalar…</translation>
     </message>
 </context>
 <context>
