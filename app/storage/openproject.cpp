@@ -154,7 +154,8 @@ void OpenProject::saveInBackground(OutsideChanges outside)
         return;
     }
     if (m_running) {
-        m_savesAgain = true;
+        if (m_next != OutsideChanges::Overwrite)
+            m_next = outside;
         return;
     }
     m_running = beginSave(*m_store, false);
@@ -170,8 +171,10 @@ void OpenProject::backgroundSaveEnded()
         return; // it was waited for
     const std::unique_ptr<RunningSave> ended = std::move(m_running);
     const Result<> result = endSave(*ended, ended->watcher.result());
-    if (std::exchange(m_savesAgain, false) && result && isDirty())
-        saveInBackground();
+    const std::optional<OutsideChanges> next = std::exchange(m_next, {});
+    // One that the user allowed to write over others' changes may succeed where this one did not.
+    if (next && (result || next == OutsideChanges::Overwrite) && isDirty())
+        saveInBackground(*next);
 }
 
 void OpenProject::finishSaving()

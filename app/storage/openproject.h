@@ -8,6 +8,7 @@
 #include <QtCore/QObject>
 
 #include <memory>
+#include <optional>
 
 namespace vl::app {
 
@@ -95,7 +96,7 @@ private:
         m_readOnly;            ///< where it was read from, when it was opened for that
     core::ChangeSet m_unsaved; ///< what changed since the files were last read or written
     std::unique_ptr<RunningSave> m_running; ///< the save that another thread carries out
-    bool m_savesAgain = false;              ///< another save was asked for meanwhile
+    std::optional<OutsideChanges> m_next;   ///< another save was asked for meanwhile, like this
 };
 
 } // namespace vl::app

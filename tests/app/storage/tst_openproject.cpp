@@ -38,6 +38,7 @@ private Q_SLOTS:
     void savesElsewhereWhenItsPlaceIsGone();
     void ownSavesAreNoOutsideChanges_data();
     void ownSavesAreNoOutsideChanges();
+    void queuedSaveWritesOverOthersWhenAllowed();
     void namesTheBackupOfWhatDoesNotLoad();
 };
 
@@ -126,6 +127,26 @@ void TestOpenProject::ownSavesAreNoOutsideChanges()
     QVERIFY(open.save());
     QVERIFY(!open.isDirty());
     QVERIFY(!open.meetsOutsideChanges());
+}
+
+void TestOpenProject::queuedSaveWritesOverOthersWhenAllowed()
+{
+    QTemporaryDir dir;
+    OpenProject open;
+    auto made = std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, QString());
+    Document &document = *made;
+    open.project().add(std::move(made));
+    QVERIFY(open.saveAsFolder(dir.filePath(QStringLiteral("book"))));
+    const QString file =
+        open.folder() + QStringLiteral("/objects/%1.json").arg(document.id().toString());
+    putFile(file, "{}");
+    open.push(std::make_unique<SetDocumentTitleCommand>(document, QStringLiteral("mine")));
+    open.saveInBackground();
+    open.saveInBackground(OutsideChanges::Overwrite);
+    open.saveInBackground();
+    open.finishSaving();
+    QVERIFY(!open.isDirty());
+    QVERIFY(fileBytes(file).contains("mine"));
 }
 
 // Changes that were never saved come from a copy that a crash may have cut short.
