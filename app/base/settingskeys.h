@@ -23,6 +23,8 @@ inline constexpr SettingKey editorSmartQuotes{"editor/smartQuotes", "true"};
 inline constexpr SettingKey editorTypewriter{"editor/typewriter", "false"};
 /// What was opened last in each of the recent projects: a JSON object of lists of ids by path.
 inline constexpr SettingKey recentItems{"general/recentItems", ""};
+/// The folder that the last new project was made in.
+inline constexpr SettingKey newProjectPlace{"general/newProjectPlace", ""};
 /// Ids of the actions used last from the palette, a line each.
 inline constexpr SettingKey recentCommands{"general/recentCommands", ""};
 

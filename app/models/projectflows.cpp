@@ -1,6 +1,7 @@
 #include "app/models/projectflows.h"
 
 #include "app/base/settings.h"
+#include "app/models/newproject.h"
 #include "app/models/prompts.h"
 #include "app/models/repairflow.h"
 #include "app/models/workspace.h"
@@ -27,6 +28,25 @@ bool ProjectFlows::newProject()
     m_lock.reset();
     m_workspace.replaceProject(std::make_unique<OpenProject>());
     return true;
+}
+
+bool ProjectFlows::create(const NewProject &wanted)
+{
+    const Result<QString> possible = ProjectMaker::pathFor(wanted);
+    if (!possible)
+        return report(tr("New Project"), possible.message());
+    if (!mayClose())
+        return false;
+    const Result<QString> path = ProjectMaker::make(wanted);
+    return path ? open(*path) : report(tr("New Project"), path.message());
+}
+
+bool ProjectFlows::openCopy(const QString &path, const QString &folder, const QString &name)
+{
+    if (!mayClose())
+        return false;
+    const Result<QString> copied = ProjectMaker::copy(path, folder, name);
+    return copied ? open(*copied) : report(tr("Open Project"), copied.message());
 }
 
 bool ProjectFlows::chooseAndOpen()

@@ -11,6 +11,7 @@
 namespace vl::app {
 
 class ProjectLock;
+struct NewProject;
 class Prompts;
 class Settings;
 class Workspace;
@@ -27,6 +28,10 @@ public:
 
     /// Each gives false when the user called it off or it failed, which the user was told.
     bool newProject();
+    /// Makes a project on the disk and opens it.
+    bool create(const NewProject &wanted);
+    /// Copies a project under a free name into a folder and opens the copy.
+    bool openCopy(const QString &path, const QString &folder, const QString &name);
     bool chooseAndOpen();
     bool chooseAndOpenFolder();
     /// Asks what becomes of unsaved work, then opens.

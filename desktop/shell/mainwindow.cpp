@@ -16,7 +16,6 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QVBoxLayout>
 
@@ -46,7 +45,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
 {
     buildCentre();
     m_tools = std::make_unique<ProjectTools>(
-        PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, *m_panels, this);
+        PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, m_flows, *m_panels,
+        this);
     bindActions();
     buildMenus();
     m_saveFault = new ElidedLabel({}, this);
@@ -102,7 +102,6 @@ void MainWindow::buildCentre()
 
 void MainWindow::bindActions()
 {
-    m_actions.bind("file.new", this, [this] { m_flows.newProject(); });
     m_actions.bind("file.open", this, [this] { m_flows.chooseAndOpen(); });
     m_actions.bind("file.openFolder", this, [this] { m_flows.chooseAndOpenFolder(); });
     m_actions.bind("file.save", this, [this] { m_tellsFailure = m_flows.saveInBackground(); });
@@ -118,7 +117,6 @@ void MainWindow::bindActions()
         PreferencesDialog::open({m_settings, m_actions, m_prompts}, this);
     });
     m_layouts->bind(m_actions);
-    m_actions.bind("help.about", this, &MainWindow::showAbout);
 }
 
 void MainWindow::tellSaved()
@@ -176,13 +174,6 @@ void MainWindow::updateSteps()
     redo->setToolTip(stepText(tr("Redo"), history.redoText()));
     redo->setIconText(tr("Redo"));
     redo->setEnabled(history.canRedo());
-}
-
-void MainWindow::showAbout()
-{
-    QMessageBox::about(this, tr("About Ivorel"),
-                       tr("<h3>Ivorel %1</h3><p>A workspace for writing and worldbuilding.</p>")
-                           .arg(QCoreApplication::applicationVersion().toHtmlEscaped()));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -47,7 +47,6 @@ private:
     void restoreWindow();
     void updateTitle();
     void updateSteps();
-    void showAbout();
     void tellSaved();
     void tellSaveFailed(const QString &message);
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/models/newproject.h"
+
+#include <QtWidgets/QDialog>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+
+namespace vl::desktop {
+
+/// Asks what a new project is to be: its template, its name and its place.
+class NewProjectDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `place` is the folder that is suggested.
+    NewProjectDialog(const QString &place, QWidget *parent);
+
+    app::NewProject wanted() const;
+
+private:
+    void buildCards();
+    QLayout *makeForm(const QString &place);
+    void choosePlace();
+    void update();
+
+    QListWidget *m_cards;
+    QLineEdit *m_name;
+    QLineEdit *m_place;
+    QRadioButton *m_file;
+    QRadioButton *m_folder;
+    QLabel *m_result; ///< where the project will stand, or what is wrong
+    QPushButton *m_create;
+};
+
+} // namespace vl::desktop
