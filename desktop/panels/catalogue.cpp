@@ -3,6 +3,7 @@
 #include "desktop/panels/codexpanel.h"
 #include "desktop/panels/documentspanel.h"
 #include "desktop/panels/editorpanel.h"
+#include "desktop/panels/inspectorpanel.h"
 
 #include <algorithm>
 #include <vector>
@@ -25,7 +26,7 @@ constexpr PanelRow rows[] = {
     {"codex", QT_TRANSLATE_NOOP("Panels", "Codex"), DockSide::LeftBelow, FirstState::Open, make<CodexPanel>},
     {"manuscript", QT_TRANSLATE_NOOP("Panels", "Documents"), DockSide::Left, FirstState::Open, make<DocumentsPanel>},
     {"editor", QT_TRANSLATE_NOOP("Panels", "Editor"), DockSide::Center, FirstState::Open, make<EditorPanel>},
-    {"inspector", QT_TRANSLATE_NOOP("Panels", "Inspector"), DockSide::Right, FirstState::Open, notBuilt},
+    {"inspector", QT_TRANSLATE_NOOP("Panels", "Inspector"), DockSide::Right, FirstState::Open, make<InspectorPanel>},
     {"documentInfo", QT_TRANSLATE_NOOP("Panels", "Document Info"), DockSide::Right, FirstState::Closed, notBuilt},
     {"outline", QT_TRANSLATE_NOOP("Panels", "Outline"), DockSide::Center, FirstState::Closed, notBuilt},
     {"corkboard", QT_TRANSLATE_NOOP("Panels", "Corkboard"), DockSide::Center, FirstState::Closed, notBuilt},
