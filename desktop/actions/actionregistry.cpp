@@ -131,8 +131,7 @@ QList<QKeySequence> ActionRegistry::builtInKeys(const ActionRow &row)
 {
     if (row.standardKey != QKeySequence::UnknownKey)
         return QKeySequence::keyBindings(row.standardKey);
-    const QKeySequence keys(QLatin1String(row.keys), QKeySequence::PortableText);
-    return keys.isEmpty() ? QList<QKeySequence>() : QList<QKeySequence>{keys};
+    return QKeySequence::listFromString(QLatin1String(row.keys), QKeySequence::PortableText);
 }
 
 bool ActionRegistry::hasOwnKeys(const char *id) const

@@ -75,8 +75,8 @@ constexpr ActionRow rows[] = {
     {"view.saveLayout", QT_TRANSLATE_NOOP("Actions", "&Save Current Layout As…"), Menu::Layouts, noKey, "", true},
     {"view.deleteLayout", QT_TRANSLATE_NOOP("Actions", "&Delete Perspective…"), Menu::Layouts, noKey, "", false},
     {"view.resetLayout", QT_TRANSLATE_NOOP("Actions", "&Reset Layout"), Menu::Layouts, noKey, "", false},
-    {"view.nextPanel", QT_TRANSLATE_NOOP("Actions", "Ne&xt Panel"), Menu::Layouts, noKey, "F6", true},
-    {"view.previousPanel", QT_TRANSLATE_NOOP("Actions", "Pre&vious Panel"), Menu::Layouts, noKey, "Shift+F6", false},
+    {"view.nextPanel", QT_TRANSLATE_NOOP("Actions", "Ne&xt Panel"), Menu::Layouts, noKey, "F6; Ctrl+Tab", true},
+    {"view.previousPanel", QT_TRANSLATE_NOOP("Actions", "Pre&vious Panel"), Menu::Layouts, noKey, "Shift+F6; Ctrl+Shift+Tab", false},
 
     {"ai.settings", QT_TRANSLATE_NOOP("Actions", "AI &Settings…"), Menu::Ai, noKey, "", false,
      QT_TRANSLATE_NOOP("Actions", "Configure your AI provider — endpoint, API key, and model")},

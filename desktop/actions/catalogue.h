@@ -30,7 +30,7 @@ struct ActionRow
     const char *text; ///< in the context "Actions"
     Menu menu;
     QKeySequence::StandardKey standardKey;
-    const char *keys;              ///< where there is no standard key
+    const char *keys;              ///< where there is no standard key; several are parted by "; "
     bool startsGroup;              ///< a separator stands before it in the menu
     const char *toolTip = nullptr; ///< in the context "Actions"; null where the text says it all
 };

@@ -95,7 +95,7 @@ void BackupsDialog::build(const QString &folder)
     connect(backUp, &QPushButton::clicked, this, &BackupsDialog::backUpRequested);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(grid(180), grid(110));
+    sizeDialog(this, 180, 110);
 }
 
 void BackupsDialog::refresh()

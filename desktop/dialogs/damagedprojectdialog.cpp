@@ -43,7 +43,7 @@ DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    resize(grid(180), grid(m_project.leftOut.empty() ? 60 : 140));
+    sizeDialog(this, 180, m_project.leftOut.empty() ? 60 : 140);
 }
 
 void DamagedProjectDialog::addFiles(QLayout *layout)

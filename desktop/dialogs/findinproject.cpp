@@ -116,7 +116,7 @@ FindInProject::FindInProject(const PanelContext &context, ShowPanel showPanel, Q
         if (isVisible())
             m_settling.start();
     });
-    resize(grid(widthSteps), grid(heightSteps));
+    sizeDialog(this, widthSteps, heightSteps);
     updateScopes();
     updateReplacement();
     updateState();

@@ -70,7 +70,7 @@ PickDialog::PickDialog(const QString &title, const QString &label, const QString
     layout->addWidget(m_list, 1);
     layout->addSpacing(grid(2));
     layout->addWidget(buttons);
-    resize(grid(widthSteps), grid(heightSteps));
+    sizeDialog(this, widthSteps, heightSteps);
     m_list->setCurrentIndex(m_filtered->index(0, 0));
     m_go->setEnabled(chosen() >= 0);
 }

@@ -57,7 +57,7 @@ RestoreDocumentDialog::RestoreDocumentDialog(QList<app::BackupDocument> document
     layout->addWidget(buttons);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &RestoreDocumentDialog::showChosen);
     fill();
-    resize(grid(220), grid(130));
+    sizeDialog(this, 220, 130);
 }
 
 void RestoreDocumentDialog::fill()

@@ -6,6 +6,7 @@
 #include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/panels/rowdelegate.h"
+#include "desktop/shell/notices.h"
 
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QHeaderView>
@@ -284,8 +285,10 @@ void DocumentsPanel::removeSelected()
         return;
     DocumentOperations operations(m_context.workspace);
     if (m_context.prompts.confirm(operations.removalQuestion(ids),
-                                  tr("Edit › Undo will restore it."), tr("Delete")))
+                                  tr("Edit › Undo will restore it."), tr("Delete"))) {
         operations.remove(ids);
+        m_context.notices.offerUndo(tr("Deleted %n document(s).", nullptr, int(ids.size())));
+    }
 }
 
 QList<ContentId> DocumentsPanel::selectedIds() const

@@ -23,6 +23,7 @@ constexpr PreferencesRow rows[] = {
     {QT_TRANSLATE_NOOP("Preferences", "Editor"), "editor", make<EditorPage>},
     {QT_TRANSLATE_NOOP("Preferences", "Shortcuts"), "quickOpen", make<ShortcutsPage>},
     {QT_TRANSLATE_NOOP("Preferences", "Tool Bars"), "menu", make<ToolBarsPage>},
+    {QT_TRANSLATE_NOOP("Preferences", "Backups"), "backup", make<BackupsPage>},
     {QT_TRANSLATE_NOOP("Preferences", "Updates"), "update", make<UpdatesPage>},
 };
 

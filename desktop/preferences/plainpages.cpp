@@ -1,11 +1,15 @@
 #include "desktop/preferences/plainpages.h"
 
 #include "app/base/settingskeys.h"
+#include "app/storage/workingcopy.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/shell/appearance.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QDir>
 #include <QtCore/QLocale>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
@@ -63,6 +67,40 @@ EditorPage::EditorPage(const PreferencesContext &context, QWidget *parent)
             app::settings::editorSmartQuotes);
     addFlag(typing, tr("&Typewriter scrolling: keep the line being written at the same height"),
             app::settings::editorTypewriter);
+}
+
+BackupsPage::BackupsPage(const PreferencesContext &context, QWidget *parent)
+    : PreferencesPage(context, parent)
+{
+    QFormLayout *group = addGroup(tr("Made by themselves"));
+    auto *about = new QLabel(
+        tr("A project is backed up when it is opened, when it is closed and once a day, unless the "
+           "newest backup holds the same. The newest are kept, one a day of the last week, one a "
+           "week of the last two months, and those that you made yourself."),
+        this);
+    about->setWordWrap(true);
+    group->addRow(about);
+
+    QFormLayout *place = addGroup(tr("Where they lie"));
+    const QString folder = app::StorageLocations::standard().backupFolder();
+    auto *path = new QLabel(QDir::toNativeSeparators(folder), this);
+    path->setTextFormat(Qt::PlainText);
+    path->setWordWrap(true);
+    path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    path->setAccessibleName(tr("Folder of the backups"));
+    place->addRow(path);
+    auto *open = new QPushButton(tr("&Open Folder"), this);
+    connect(open, &QPushButton::clicked, this, [folder] {
+        QDir().mkpath(folder);
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    });
+    auto *list = new QPushButton(tr("Backups of This &Project…"), this);
+    connect(list, &QPushButton::clicked, this->context().actions["file.backups"],
+            &QAction::trigger);
+    for (QPushButton *button : {open, list}) {
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        place->addRow(button);
+    }
 }
 
 UpdatesPage::UpdatesPage(const PreferencesContext &context, QWidget *parent)

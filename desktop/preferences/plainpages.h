@@ -22,6 +22,15 @@ public:
     EditorPage(const PreferencesContext &context, QWidget *parent);
 };
 
+/// What is backed up without being asked, and where it lies.
+class BackupsPage final : public PreferencesPage
+{
+    Q_OBJECT
+
+public:
+    BackupsPage(const PreferencesContext &context, QWidget *parent);
+};
+
 /// Whether new versions are looked for, and when that was done last.
 class UpdatesPage final : public PreferencesPage
 {

@@ -4,7 +4,6 @@
 #include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
 
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHBoxLayout>
@@ -88,7 +87,7 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
     });
     m_list->setCurrentRow(0);
     m_search->setFocus();
-    resize(QSize(grid(200), grid(144)).boundedTo(screen()->availableSize() * 0.9));
+    sizeDialog(this, 200, 144);
 }
 
 void PreferencesDialog::open(const PreferencesContext &context, QWidget *window)

@@ -21,7 +21,6 @@ PreferencesPage::PreferencesPage(const PreferencesContext &context, QWidget *par
 {
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(grid(4));
-    m_column->setAlignment(Qt::AlignTop);
 }
 
 void PreferencesPage::reset()
@@ -62,7 +61,9 @@ QFormLayout *PreferencesPage::addGroup(const QString &title)
         heading->setFont(font);
         form->addRow(heading);
     }
-    m_column->addWidget(group);
+    if (m_column->count() == 0)
+        m_column->addStretch(1);
+    m_column->insertWidget(m_column->count() - 1, group);
     return form;
 }
 

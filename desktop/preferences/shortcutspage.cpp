@@ -63,7 +63,6 @@ ShortcutsPage::ShortcutsPage(const PreferencesContext &context, QWidget *parent)
     , m_conflict(new QLabel(this))
     , m_take(new QPushButton(tr("&Use It Here"), this))
 {
-    column()->setAlignment({});
     column()->setSpacing(grid(2));
     m_filter->setPlaceholderText(tr("Find an action or keys"));
     m_filter->setAccessibleName(tr("Find an action or keys"));

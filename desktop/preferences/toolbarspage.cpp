@@ -19,7 +19,6 @@ ToolBarsPage::ToolBarsPage(const PreferencesContext &context, QWidget *parent)
     m_list->setAccessibleName(tr("Entries of the tool bar “Main”"));
     column()->addWidget(label);
     column()->addWidget(m_list, 1);
-    column()->setAlignment({});
     for (const ToolBarRow &row : toolBarCatalogue()) {
         const QAction *action = context.actions[row.id];
         auto *item = new QListWidgetItem(action->icon(),

@@ -24,6 +24,7 @@ namespace vl::desktop {
 namespace {
 
 const QLatin1String geometryKey("general/geometry");
+constexpr QSize smallScreen(1280, 800);
 constexpr int windowEdges = 48; // room for the frame that the desktop puts round the window
 
 /// The entry of a step: what it does, then what it does it to, in plain text.
@@ -148,7 +149,10 @@ void MainWindow::buildMenus()
 void MainWindow::restoreWindow()
 {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(qMin(1400, room.width() - windowEdges), qMin(900, room.height() - windowEdges));
+    // Nine tenths of a large screen, all of a small one.
+    resize(QSize(qMax(smallScreen.width(), room.width() * 9 / 10),
+                 qMax(smallScreen.height(), room.height() * 9 / 10))
+               .boundedTo(room.size() - QSize(windowEdges, windowEdges)));
     restoreGeometry(m_settings.bytes(geometryKey));
     m_layouts->restoreSession();
 }

@@ -2,6 +2,7 @@
 
 #include <QtCore/QVariant>
 #include <QtGui/QFont>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -14,6 +15,7 @@ namespace {
 constexpr int stepPixels = 4;
 constexpr double smallest = 0.5;
 constexpr double largest = 3.0;
+constexpr double largestShare = 0.9;
 // Kept by the application, which the scale belongs to and ends with.
 constexpr const char *scaleProperty = "ivorelFontScale";
 constexpr const char *sizeProperty = "ivorelSystemFontSize";
@@ -29,6 +31,12 @@ double fontScale()
 int grid(int steps)
 {
     return qRound(stepPixels * steps * fontScale());
+}
+
+void sizeDialog(QWidget *dialog, int stepsWide, int stepsHigh)
+{
+    dialog->resize(QSize(grid(stepsWide), grid(stepsHigh))
+                       .boundedTo(dialog->screen()->availableSize() * largestShare));
 }
 
 void applyFontScale(double scale)

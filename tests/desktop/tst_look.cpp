@@ -1,6 +1,11 @@
 #include "app/base/settingskeys.h"
 #include "app/models/documentoperations.h"
 #include "app/models/workspace.h"
+#include "desktop/dialogs/backupsdialog.h"
+#include "desktop/dialogs/damagedprojectdialog.h"
+#include "desktop/dialogs/fielddialog.h"
+#include "desktop/dialogs/pickdialog.h"
+#include "desktop/dialogs/restoredocumentdialog.h"
 #include "desktop/preferences/catalogue.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
@@ -37,6 +42,17 @@ struct Desk
 
 using MakeSurface = std::function<QWidget *(Desk &)>;
 
+/// The window or dialog that an action opens.
+QWidget *opened(Desk &desk, const char *action)
+{
+    desk.window.show();
+    desk.window.actions()[action]->trigger();
+    for (QWidget *other : QApplication::topLevelWidgets())
+        if (other->isVisible() && other != &desk.window && desk.window.isAncestorOf(other))
+            return other;
+    return &desk.window;
+}
+
 /// Everything the user can look at; a new dialog is a new line.
 QList<std::pair<QString, MakeSurface>> surfaces()
 {
@@ -64,6 +80,41 @@ QList<std::pair<QString, MakeSurface>> surfaces()
                          dialog->findChild<QListWidget *>()->setCurrentRow(int(page));
                          return dialog;
                      }});
+    const auto add = [&list](const char *name, const MakeSurface &make) {
+        list.append({QLatin1String(name), make});
+    };
+    for (const char *id : {"file.quickOpen", "edit.findInProject", "edit.find"})
+        add(id, [id](Desk &desk) { return opened(desk, id); });
+    add("new field", [](Desk &desk) {
+        return new desktop::FieldDialog(QStringLiteral("New Field in “People”"), {},
+                                        QStringLiteral("Add Field"), &desk.window);
+    });
+    add("choice of a name", [](Desk &desk) {
+        return new desktop::PickDialog(
+            QStringLiteral("Merge Entity"), QStringLiteral("Merge “Mara Tolvey” into:"),
+            {QStringLiteral("Ilen Dask")}, QStringLiteral("Merge"), &desk.window);
+    });
+    add("damaged project", [](Desk &desk) {
+        app::DamagedProject project;
+        project.path = QStringLiteral("/home/someone/Books/The Low Lamps.vellum");
+        project.message = QStringLiteral("Invalid JSON in file: objects/1.json");
+        project.hasBackup = true;
+        project.isRepairable = true;
+        return new desktop::DamagedProjectDialog(project, &desk.window);
+    });
+    add("document of a backup", [](Desk &desk) {
+        app::BackupDocument document;
+        document.title = QStringLiteral("The Count at Dusk");
+        document.after = QStringLiteral("The lamps of Vessarine were lit from the water upward.");
+        return new desktop::RestoreDocumentDialog({document}, &desk.window);
+    });
+    add("backups", [](Desk &desk) {
+        const app::StorageLocations locations{desk.dir.path()};
+        return new desktop::BackupsDialog(
+            app::AutoBackups(desk.dir.filePath(QStringLiteral("a.vellum")), locations,
+                             [](const core::Project &) { return app::BackupSummary(); }),
+            &desk.window);
+    });
     return list;
 }
 
