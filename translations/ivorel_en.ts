@@ -796,6 +796,53 @@
         <source>Updates</source>
         <translation>Updates</translation>
     </message>
+    <message>
+        <source>Backups</source>
+        <translation>Backups</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTemplates</name>
+    <message>
+        <source>Blank</source>
+        <translation>Blank</translation>
+    </message>
+    <message>
+        <source>Nothing but room to write.</source>
+        <translation>Nothing but room to write.</translation>
+    </message>
+    <message>
+        <source>Novel</source>
+        <translation>Novel</translation>
+    </message>
+    <message>
+        <source>Three acts with chapters and scenes on a beat sheet, sheets for characters and places, plot threads, and a list for the revision.</source>
+        <translation>Three acts with chapters and scenes on a beat sheet, sheets for characters and places, plot threads, and a list for the revision.</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Several books over one world: what is settled, what is promised, and how each character stands at the end of each book.</source>
+        <translation>Several books over one world: what is settled, what is promised, and how each character stands at the end of each book.</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Screenplay</translation>
+    </message>
+    <message>
+        <source>Sequences in screenplay form, logline and treatment, cast and locations.</source>
+        <translation>Sequences in screenplay form, logline and treatment, cast and locations.</translation>
+    </message>
+    <message>
+        <source>Tabletop Campaign</source>
+        <translation>Tabletop Campaign</translation>
+    </message>
+    <message>
+        <source>Sessions, quests and factions, secrets that only the game master sees, and random tables.</source>
+        <translation>Sessions, quests and factions, secrets that only the game master sees, and random tables.</translation>
+    </message>
 </context>
 <context>
     <name>Themes</name>
@@ -992,6 +1039,453 @@
         <source>Year</source>
         <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
         <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CampaignTemplate</name>
+    <message>
+        <source>People</source>
+        <translation>People</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>Player characters</source>
+        <translation>Player characters</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Class</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Bonds</source>
+        <translation>Bonds</translation>
+    </message>
+    <message>
+        <source>Whom and what they would not give up.</source>
+        <translation>Whom and what they would not give up.</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Goal</translation>
+    </message>
+    <message>
+        <source>Other characters</source>
+        <translation>Other characters</translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>Attitude</translation>
+    </message>
+    <message>
+        <source>Friendly</source>
+        <translation>Friendly</translation>
+    </message>
+    <message>
+        <source>Indifferent</source>
+        <translation>Indifferent</translation>
+    </message>
+    <message>
+        <source>Hostile</source>
+        <translation>Hostile</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>One sentence that you can play at the table.</source>
+        <translation>One sentence that you can play at the table.</translation>
+    </message>
+    <message>
+        <source>Wants</source>
+        <translation>Wants</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Found at</source>
+        <translation>Found at</translation>
+    </message>
+    <message>
+        <source>A place of the codex.</source>
+        <translation>A place of the codex.</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Places</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Settlement</source>
+        <translation>Settlement</translation>
+    </message>
+    <message>
+        <source>Dungeon</source>
+        <translation>Dungeon</translation>
+    </message>
+    <message>
+        <source>Landmark</source>
+        <translation>Landmark</translation>
+    </message>
+    <message>
+        <source>Lies in</source>
+        <translation>Lies in</translation>
+    </message>
+    <message>
+        <source>Read aloud</source>
+        <translation>Read aloud</translation>
+    </message>
+    <message>
+        <source>Two or three sentences for the players.</source>
+        <translation>Two or three sentences for the players.</translation>
+    </message>
+    <message>
+        <source>Danger</source>
+        <translation>Danger</translation>
+    </message>
+    <message>
+        <source>What is hidden here</source>
+        <translation>What is hidden here</translation>
+    </message>
+    <message>
+        <source>Factions</source>
+        <translation>Factions</translation>
+    </message>
+    <message>
+        <source>Means</source>
+        <translation>Means</translation>
+    </message>
+    <message>
+        <source>Next move</source>
+        <translation>Next move</translation>
+    </message>
+    <message>
+        <source>What happens if the players do nothing.</source>
+        <translation>What happens if the players do nothing.</translation>
+    </message>
+    <message>
+        <source>Led by</source>
+        <translation>Led by</translation>
+    </message>
+    <message>
+        <source>A person of the codex.</source>
+        <translation>A person of the codex.</translation>
+    </message>
+    <message>
+        <source>Quests</source>
+        <translation>Quests</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Rumour</source>
+        <translation>Rumour</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Accepted</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>Given by</source>
+        <translation>Given by</translation>
+    </message>
+    <message>
+        <source>Reward</source>
+        <translation>Reward</translation>
+    </message>
+    <message>
+        <source>Twist</source>
+        <translation>Twist</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Items</translation>
+    </message>
+    <message>
+        <source>Rarity</source>
+        <translation>Rarity</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Common</translation>
+    </message>
+    <message>
+        <source>Uncommon</source>
+        <translation>Uncommon</translation>
+    </message>
+    <message>
+        <source>Rare</source>
+        <translation>Rare</translation>
+    </message>
+    <message>
+        <source>Unique</source>
+        <translation>Unique</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>Effect</translation>
+    </message>
+    <message>
+        <source>Carried by</source>
+        <translation>Carried by</translation>
+    </message>
+    <message>
+        <source>Gods and lore</source>
+        <translation>Gods and lore</translation>
+    </message>
+    <message>
+        <source>Domain</source>
+        <translation>Domain</translation>
+    </message>
+    <message>
+        <source>What everybody knows</source>
+        <translation>What everybody knows</translation>
+    </message>
+    <message>
+        <source>What is true</source>
+        <translation>What is true</translation>
+    </message>
+    <message>
+        <source>At the table</source>
+        <translation>At the table</translation>
+    </message>
+    <message>
+        <source>Session zero</source>
+        <translation>Session zero</translation>
+    </message>
+    <message>
+        <source>- Tone and theme:
+- Lines and veils:
+- House rules:
+- How often, how long:
+- Why the characters travel together:</source>
+        <translation>- Tone and theme:
+- Lines and veils:
+- House rules:
+- How often, how long:
+- Why the characters travel together:</translation>
+    </message>
+    <message>
+        <source>House rules</source>
+        <translation>House rules</translation>
+    </message>
+    <message>
+        <source>Secrets</source>
+        <translation>Secrets</translation>
+    </message>
+    <message>
+        <source>What the players do not know yet, and how they may find it out.
+
+- </source>
+        <translation>What the players do not know yet, and how they may find it out.
+
+- </translation>
+    </message>
+    <message>
+        <source>Chronicle</source>
+        <translation>Chronicle</translation>
+    </message>
+    <message>
+        <source>What happened, session by session, as the players would tell it.</source>
+        <translation>What happened, session by session, as the players would tell it.</translation>
+    </message>
+    <message>
+        <source>Session 1</source>
+        <translation>Session 1</translation>
+    </message>
+    <message>
+        <source>Preparation</source>
+        <translation>Preparation</translation>
+    </message>
+    <message>
+        <source>Plan for session 1</source>
+        <translation>Plan for session 1</translation>
+    </message>
+    <message>
+        <source># Strong start
+
+# Scenes that may happen
+
+- 
+
+# Secrets and clues
+
+- 
+
+# Places
+
+- 
+
+# Characters
+
+- 
+
+# Rewards
+
+- </source>
+        <translation># Strong start
+
+# Scenes that may happen
+
+- 
+
+# Secrets and clues
+
+- 
+
+# Places
+
+- 
+
+# Characters
+
+- 
+
+# Rewards
+
+- </translation>
+    </message>
+    <message>
+        <source>Game master</source>
+        <translation>Game master</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Players</translation>
+    </message>
+    <message>
+        <source>The great threat</source>
+        <translation>The great threat</translation>
+    </message>
+    <message>
+        <source>What comes nearer with each session.</source>
+        <translation>What comes nearer with each session.</translation>
+    </message>
+    <message>
+        <source>The characters’ own stories</source>
+        <translation>The characters’ own stories</translation>
+    </message>
+    <message>
+        <source>What each of them came for.</source>
+        <translation>What each of them came for.</translation>
+    </message>
+    <message>
+        <source>On the road</source>
+        <translation>On the road</translation>
+    </message>
+    <message>
+        <source>A bridge with a toll that nobody set</source>
+        <translation>A bridge with a toll that nobody set</translation>
+    </message>
+    <message>
+        <source>Travellers with a sick child</source>
+        <translation>Travellers with a sick child</translation>
+    </message>
+    <message>
+        <source>Tracks that end in the middle of a field</source>
+        <translation>Tracks that end in the middle of a field</translation>
+    </message>
+    <message>
+        <source>A storm by nightfall</source>
+        <translation>A storm by nightfall</translation>
+    </message>
+    <message>
+        <source>A patrol that looks for somebody like you</source>
+        <translation>A patrol that looks for somebody like you</translation>
+    </message>
+    <message>
+        <source>An old shrine with fresh flowers</source>
+        <translation>An old shrine with fresh flowers</translation>
+    </message>
+    <message>
+        <source>Rumours in the tavern</source>
+        <translation>Rumours in the tavern</translation>
+    </message>
+    <message>
+        <source>The mill turns at night though there is no wind</source>
+        <translation>The mill turns at night though there is no wind</translation>
+    </message>
+    <message>
+        <source>Somebody buys every map of the hills</source>
+        <translation>Somebody buys every map of the hills</translation>
+    </message>
+    <message>
+        <source>The old lord was seen, a year after his burial</source>
+        <translation>The old lord was seen, a year after his burial</translation>
+    </message>
+    <message>
+        <source>The well tastes of iron since the new moon</source>
+        <translation>The well tastes of iron since the new moon</translation>
+    </message>
+    <message>
+        <source>Town guard</source>
+        <translation>Town guard</translation>
+    </message>
+    <message>
+        <source>Calls for help before drawing a weapon.</source>
+        <translation>Calls for help before drawing a weapon.</translation>
+    </message>
+    <message>
+        <source>Armour</source>
+        <translation>Armour</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Health</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Spear</source>
+        <translation>Spear</translation>
+    </message>
+    <message>
+        <source>Before the next session</source>
+        <translation>Before the next session</translation>
+    </message>
+    <message>
+        <source>Read the notes of the last session</source>
+        <translation>Read the notes of the last session</translation>
+    </message>
+    <message>
+        <source>Decide what each faction does next</source>
+        <translation>Decide what each faction does next</translation>
+    </message>
+    <message>
+        <source>Prepare a strong start</source>
+        <translation>Prepare a strong start</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +2242,329 @@
     </message>
 </context>
 <context>
+    <name>vl::app::InspectorForms</name>
+    <message>
+        <source>Category</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(none)</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Aliases</source>
+        <translation>Aliases</translation>
+    </message>
+    <message>
+        <source>Other names, under which the manuscript may speak of it.</source>
+        <translation>Other names, under which the manuscript may speak of it.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Kept from before: the category has no such field.</source>
+        <translation>Kept from before: the category has no such field.</translation>
+    </message>
+    <message>
+        <source>Other values</source>
+        <translation>Other values</translation>
+    </message>
+    <message>
+        <source>Life</source>
+        <translation>Life</translation>
+    </message>
+    <message>
+        <source>Born or begun</source>
+        <translation>Born or begun</translation>
+    </message>
+    <message>
+        <source>Died or ended</source>
+        <translation>Died or ended</translation>
+    </message>
+    <message>
+        <source>State over time</source>
+        <translation>State over time</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Prose</source>
+        <translation>Prose</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Screenplay</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Point of view</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>0 stands for not set.</source>
+        <translation>0 stands for not set.</translation>
+    </message>
+    <message>
+        <source>Scene date</source>
+        <translation>Scene date</translation>
+    </message>
+    <message>
+        <source>Word-count target</source>
+        <translation>Word-count target</translation>
+    </message>
+    <message>
+        <source>Plot threads</source>
+        <translation>Plot threads</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Caption</translation>
+    </message>
+    <message>
+        <source>Citation key</source>
+        <translation>Citation key</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priority</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Resolved</source>
+        <translation>Resolved</translation>
+    </message>
+    <message>
+        <source>Grammar notes</source>
+        <translation>Grammar notes</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>Everywhere</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Audiences</source>
+        <translation>Audiences</translation>
+    </message>
+    <message>
+        <source>Without any, everybody sees it.</source>
+        <translation>Without any, everybody sees it.</translation>
+    </message>
+    <message>
+        <source>Withhold from AI services</source>
+        <translation>Withhold from AI services</translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation>(missing)</translation>
+    </message>
+    <message>
+        <source>Place: %1</source>
+        <translation>Place: %1</translation>
+    </message>
+    <message>
+        <source>With %1</source>
+        <translation>With %1</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contents</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s)</source>
+        <translation><numerusform>%n cell</numerusform><numerusform>%n cells</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of figures</source>
+        <translation><numerusform>%n row of figures</numerusform><numerusform>%n rows of figures</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pin(s)</source>
+        <translation><numerusform>%n pin</numerusform><numerusform>%n pins</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n region(s)</source>
+        <translation><numerusform>%n region</numerusform><numerusform>%n regions</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n route(s)</source>
+        <translation><numerusform>%n route</numerusform><numerusform>%n routes</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation><numerusform>%n event</numerusform><numerusform>%n events</numerusform></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Not done</source>
+        <translation>Not done</translation>
+    </message>
+    <message>
+        <source>Due %1</source>
+        <translation>Due %1</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n card(s)</source>
+        <translation><numerusform>%n card</numerusform><numerusform>%n cards</numerusform></translation>
+    </message>
+    <message>
+        <source>On %1</source>
+        <translation>On %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) in the lexicon</source>
+        <translation><numerusform>%n word in the lexicon</numerusform><numerusform>%n words in the lexicon</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to roll</source>
+        <translation><numerusform>%n line to roll</numerusform><numerusform>%n lines to roll</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 figures, %2 actions</source>
+        <translation>%1 figures, %2 actions</translation>
+    </message>
+    <message>
+        <source>character;people;person;cast</source>
+        <comment>parts of the names of categories that hold characters</comment>
+        <translation>character;people;person;cast</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::InspectorModel</name>
+    <message>
+        <source>Category</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Under</source>
+        <translation>Under</translation>
+    </message>
+    <message>
+        <source>(top level)</source>
+        <translation>(top level)</translation>
+    </message>
+    <message>
+        <source>Fields of its entities</source>
+        <translation>Fields of its entities</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Fields</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation><numerusform>%n document</numerusform><numerusform>%n documents</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+    </message>
+    <message>
+        <source>No entity is called so.</source>
+        <translation>No entity is called so.</translation>
+    </message>
+    <message>
+        <source>What it referred to was deleted.</source>
+        <translation>What it referred to was deleted.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no date of the calendar.</source>
+        <translation>Kept as written: no date of the calendar.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no number.</source>
+        <translation>Kept as written: no number.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no web address.</source>
+        <translation>Kept as written: no web address.</translation>
+    </message>
+    <message>
+        <source>To be filled.</source>
+        <translation>To be filled.</translation>
+    </message>
+    <message>
+        <source>It needs a name.</source>
+        <translation>It needs a name.</translation>
+    </message>
+    <message>
+        <source>No date of the calendar. Type one like “%1”.</source>
+        <translation>No date of the calendar. Type one like “%1”.</translation>
+    </message>
+    <message>
+        <source>No entity is called “%1”.</source>
+        <translation>No entity is called “%1”.</translation>
+    </message>
+    <message>
+        <source>Several entities are called “%1”: choose one from the list.</source>
+        <translation>Several entities are called “%1”: choose one from the list.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::MarkdownImport</name>
     <message>
         <source>Front Matter</source>
@@ -1833,6 +2650,10 @@
         <source>This project is open in another window: %1</source>
         <translation>This project is open in another window: %1</translation>
     </message>
+    <message>
+        <source>New Project</source>
+        <translation>New Project</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -1851,6 +2672,41 @@
     <message>
         <source>Could not create the folder for: %1</source>
         <translation>Could not create the folder for: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectMaker</name>
+    <message>
+        <source>The project needs a name.</source>
+        <translation>The project needs a name.</translation>
+    </message>
+    <message>
+        <source>The name must do without / \ : * ? " &lt; &gt; and |.</source>
+        <translation>The name must do without / \ : * ? " &lt; &gt; and |.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name must not begin or end with a point, nor be longer than %n character(s).</source>
+        <translation><numerusform>The name must not begin or end with a point, nor be longer than %n character.</numerusform><numerusform>The name must not begin or end with a point, nor be longer than %n characters.</numerusform></translation>
+    </message>
+    <message>
+        <source>The project needs a place.</source>
+        <translation>The project needs a place.</translation>
+    </message>
+    <message>
+        <source>This is no folder: %1</source>
+        <translation>This is no folder: %1</translation>
+    </message>
+    <message>
+        <source>There is something of this name already: %1</source>
+        <translation>There is something of this name already: %1</translation>
+    </message>
+    <message>
+        <source>The folder could not be made: %1</source>
+        <translation>The folder could not be made: %1</translation>
+    </message>
+    <message>
+        <source>There is no such template.</source>
+        <translation>There is no such template.</translation>
     </message>
 </context>
 <context>
@@ -2023,7 +2879,10 @@
     </message>
     <message numerus="yes">
         <source>%1: %n place(s)</source>
-        <translation><numerusform>%1: %n place</numerusform><numerusform>%1: %n places</numerusform></translation>
+        <translation>
+            <numerusform>%1: %n place</numerusform>
+            <numerusform>%1: %n places</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 “%2”</source>
@@ -2147,6 +3006,743 @@
     </message>
 </context>
 <context>
+    <name>vl::app::StoryTemplates</name>
+    <message>
+        <source>Role</source>
+        <translation>Role</translation>
+    </message>
+    <message>
+        <source>Protagonist</source>
+        <translation>Protagonist</translation>
+    </message>
+    <message>
+        <source>Antagonist</source>
+        <translation>Antagonist</translation>
+    </message>
+    <message>
+        <source>Ally</source>
+        <translation>Ally</translation>
+    </message>
+    <message>
+        <source>Love interest</source>
+        <translation>Love interest</translation>
+    </message>
+    <message>
+        <source>Mentor</source>
+        <translation>Mentor</translation>
+    </message>
+    <message>
+        <source>Supporting</source>
+        <translation>Supporting</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Age</translation>
+    </message>
+    <message>
+        <source>Occupation</source>
+        <translation>Occupation</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message>
+        <source>What a stranger would notice first.</source>
+        <translation>What a stranger would notice first.</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message>
+        <source>How they speak: pace, pet words, what they never say.</source>
+        <translation>How they speak: pace, pet words, what they never say.</translation>
+    </message>
+    <message>
+        <source>Wants</source>
+        <translation>Wants</translation>
+    </message>
+    <message>
+        <source>What they go after from the first page on.</source>
+        <translation>What they go after from the first page on.</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Needs</translation>
+    </message>
+    <message>
+        <source>What they must learn or let go of.</source>
+        <translation>What they must learn or let go of.</translation>
+    </message>
+    <message>
+        <source>Fears</source>
+        <translation>Fears</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>A place of the codex.</source>
+        <translation>A place of the codex.</translation>
+    </message>
+    <message>
+        <source>Related to</source>
+        <translation>Related to</translation>
+    </message>
+    <message>
+        <source>A person of the codex.</source>
+        <translation>A person of the codex.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Town</translation>
+    </message>
+    <message>
+        <source>Building</source>
+        <translation>Building</translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Room</translation>
+    </message>
+    <message>
+        <source>Wilderness</source>
+        <translation>Wilderness</translation>
+    </message>
+    <message>
+        <source>Lies in</source>
+        <translation>Lies in</translation>
+    </message>
+    <message>
+        <source>Senses</source>
+        <translation>Senses</translation>
+    </message>
+    <message>
+        <source>What is seen, heard and smelled there.</source>
+        <translation>What is seen, heard and smelled there.</translation>
+    </message>
+    <message>
+        <source>Mood</source>
+        <translation>Mood</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Owner</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>Why the story cannot do without it.</source>
+        <translation>Why the story cannot do without it.</translation>
+    </message>
+    <message>
+        <source>Purpose</source>
+        <translation>Purpose</translation>
+    </message>
+    <message>
+        <source>Led by</source>
+        <translation>Led by</translation>
+    </message>
+    <message>
+        <source>Seat</source>
+        <translation>Seat</translation>
+    </message>
+    <message>
+        <source>Enemies</source>
+        <translation>Enemies</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Characters</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Places</translation>
+    </message>
+    <message>
+        <source>Things</source>
+        <translation>Things</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>Main character</source>
+        <translation>Main character</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>Revision</translation>
+    </message>
+    <message>
+        <source>Read the whole draft without changing anything</source>
+        <translation>Read the whole draft without changing anything</translation>
+    </message>
+    <message>
+        <source>Note only where you were bored, lost or moved.</source>
+        <translation>Note only where you were bored, lost or moved.</translation>
+    </message>
+    <message>
+        <source>Does each scene change something?</source>
+        <translation>Does each scene change something?</translation>
+    </message>
+    <message>
+        <source>Follow each plot thread from its first scene to its last</source>
+        <translation>Follow each plot thread from its first scene to its last</translation>
+    </message>
+    <message>
+        <source>Check names, ages and dates against the codex</source>
+        <translation>Check names, ages and dates against the codex</translation>
+    </message>
+    <message>
+        <source>Read the dialogue aloud</source>
+        <translation>Read the dialogue aloud</translation>
+    </message>
+    <message>
+        <source>Proofread the last version</source>
+        <translation>Proofread the last version</translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation>Chapter %1</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Outline</translation>
+    </message>
+    <message>
+        <source>Act One</source>
+        <translation>Act One</translation>
+    </message>
+    <message>
+        <source>The ordinary world</source>
+        <translation>The ordinary world</translation>
+    </message>
+    <message>
+        <source>Who is this about, what do they want, and what is missing?</source>
+        <translation>Who is this about, what do they want, and what is missing?</translation>
+    </message>
+    <message>
+        <source>The disturbance</source>
+        <translation>The disturbance</translation>
+    </message>
+    <message>
+        <source>What happens that cannot be taken back?</source>
+        <translation>What happens that cannot be taken back?</translation>
+    </message>
+    <message>
+        <source>The door closes</source>
+        <translation>The door closes</translation>
+    </message>
+    <message>
+        <source>The choice after which there is no way home.</source>
+        <translation>The choice after which there is no way home.</translation>
+    </message>
+    <message>
+        <source>Act Two</source>
+        <translation>Act Two</translation>
+    </message>
+    <message>
+        <source>The turn</source>
+        <translation>The turn</translation>
+    </message>
+    <message>
+        <source>What they believed turns out to be wrong.</source>
+        <translation>What they believed turns out to be wrong.</translation>
+    </message>
+    <message>
+        <source>The loss</source>
+        <translation>The loss</translation>
+    </message>
+    <message>
+        <source>Everything that was won is gone.</source>
+        <translation>Everything that was won is gone.</translation>
+    </message>
+    <message>
+        <source>Act Three</source>
+        <translation>Act Three</translation>
+    </message>
+    <message>
+        <source>The reckoning</source>
+        <translation>The reckoning</translation>
+    </message>
+    <message>
+        <source>They face what they fled from.</source>
+        <translation>They face what they fled from.</translation>
+    </message>
+    <message>
+        <source>What remains</source>
+        <translation>What remains</translation>
+    </message>
+    <message>
+        <source>Who are they now, and what did it cost?</source>
+        <translation>Who are they now, and what did it cost?</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Premise</source>
+        <translation>Premise</translation>
+    </message>
+    <message>
+        <source># Premise
+
+When …, someone who … must …, or else ….
+
+# Theme
+
+What does the story believe at its end that it did not at its beginning?</source>
+        <translation># Premise
+
+When …, someone who … must …, or else ….
+
+# Theme
+
+What does the story believe at its end that it did not at its beginning?</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopsis</translation>
+    </message>
+    <message>
+        <source>The whole story on one page, its end included.</source>
+        <translation>The whole story on one page, its end included.</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Style sheet</translation>
+    </message>
+    <message>
+        <source>- Person and tense:
+- Spelling:
+- Names and how they are written:
+- Numbers and dates:
+- Words to avoid:</source>
+        <translation>- Person and tense:
+- Spelling:
+- Names and how they are written:
+- Numbers and dates:
+- Words to avoid:</translation>
+    </message>
+    <message>
+        <source>Research</source>
+        <translation>Research</translation>
+    </message>
+    <message>
+        <source>Main plot</source>
+        <translation>Main plot</translation>
+    </message>
+    <message>
+        <source>The question that the first chapter raises.</source>
+        <translation>The question that the first chapter raises.</translation>
+    </message>
+    <message>
+        <source>Inner change</source>
+        <translation>Inner change</translation>
+    </message>
+    <message>
+        <source>What the main character learns.</source>
+        <translation>What the main character learns.</translation>
+    </message>
+    <message>
+        <source>Subplot</source>
+        <translation>Subplot</translation>
+    </message>
+    <message>
+        <source>The same theme, seen from another side.</source>
+        <translation>The same theme, seen from another side.</translation>
+    </message>
+    <message>
+        <source>Book One</source>
+        <translation>Book One</translation>
+    </message>
+    <message>
+        <source>Book Two</source>
+        <translation>Book Two</translation>
+    </message>
+    <message>
+        <source>Book Three</source>
+        <translation>Book Three</translation>
+    </message>
+    <message>
+        <source>What this book answers, and what it leaves open for the next.</source>
+        <translation>What this book answers, and what it leaves open for the next.</translation>
+    </message>
+    <message>
+        <source>Series bible</source>
+        <translation>Series bible</translation>
+    </message>
+    <message>
+        <source>The long arc</source>
+        <translation>The long arc</translation>
+    </message>
+    <message>
+        <source># The question of the series
+
+# How each book turns it
+
+## Book One
+
+## Book Two
+
+## Book Three
+
+# How it ends</source>
+        <translation># The question of the series
+
+# How each book turns it
+
+## Book One
+
+## Book Two
+
+## Book Three
+
+# How it ends</translation>
+    </message>
+    <message>
+        <source>What is settled</source>
+        <translation>What is settled</translation>
+    </message>
+    <message>
+        <source>Facts that a later book must not contradict, with the chapter that set them.
+
+- </source>
+        <translation>Facts that a later book must not contradict, with the chapter that set them.
+
+- </translation>
+    </message>
+    <message>
+        <source>What is promised</source>
+        <translation>What is promised</translation>
+    </message>
+    <message>
+        <source>Hints and open questions, and where they are to be answered.
+
+- </source>
+        <translation>Hints and open questions, and where they are to be answered.
+
+- </translation>
+    </message>
+    <message>
+        <source>Rules of the world</source>
+        <translation>Rules of the world</translation>
+    </message>
+    <message>
+        <source># What is possible
+
+# What it costs
+
+# What is impossible</source>
+        <translation># What is possible
+
+# What it costs
+
+# What is impossible</translation>
+    </message>
+    <message>
+        <source>At the end of book %1</source>
+        <translation>At the end of book %1</translation>
+    </message>
+    <message>
+        <source>Peoples and languages</source>
+        <translation>Peoples and languages</translation>
+    </message>
+    <message>
+        <source>Customs</source>
+        <translation>Customs</translation>
+    </message>
+    <message>
+        <source>Speech</source>
+        <translation>Speech</translation>
+    </message>
+    <message>
+        <source>Land</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>When</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Cause</translation>
+    </message>
+    <message>
+        <source>Consequences</source>
+        <translation>Consequences</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glossary</translation>
+    </message>
+    <message>
+        <source>Pronunciation</source>
+        <translation>Pronunciation</translation>
+    </message>
+    <message>
+        <source>Series arc</source>
+        <translation>Series arc</translation>
+    </message>
+    <message>
+        <source>Runs through all books.</source>
+        <translation>Runs through all books.</translation>
+    </message>
+    <message>
+        <source>Arc of book one</source>
+        <translation>Arc of book one</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the first book.</source>
+        <translation>Begins and ends in the first book.</translation>
+    </message>
+    <message>
+        <source>Arc of book two</source>
+        <translation>Arc of book two</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the second book.</source>
+        <translation>Begins and ends in the second book.</translation>
+    </message>
+    <message>
+        <source>Arc of book three</source>
+        <translation>Arc of book three</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the third book.</source>
+        <translation>Begins and ends in the third book.</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Opening</translation>
+    </message>
+    <message>
+        <source>An image that holds the whole film.</source>
+        <translation>An image that holds the whole film.</translation>
+    </message>
+    <message>
+        <source>What sets everything off, by page 12.</source>
+        <translation>What sets everything off, by page 12.</translation>
+    </message>
+    <message>
+        <source>Into the second act</source>
+        <translation>Into the second act</translation>
+    </message>
+    <message>
+        <source>A decision, shown and not told, by page 25.</source>
+        <translation>A decision, shown and not told, by page 25.</translation>
+    </message>
+    <message>
+        <source>Midpoint</source>
+        <translation>Midpoint</translation>
+    </message>
+    <message>
+        <source>A false victory or a false defeat.</source>
+        <translation>A false victory or a false defeat.</translation>
+    </message>
+    <message>
+        <source>All is lost</source>
+        <translation>All is lost</translation>
+    </message>
+    <message>
+        <source>The lowest point, by page 75.</source>
+        <translation>The lowest point, by page 75.</translation>
+    </message>
+    <message>
+        <source>Showdown</source>
+        <translation>Showdown</translation>
+    </message>
+    <message>
+        <source>The last confrontation.</source>
+        <translation>The last confrontation.</translation>
+    </message>
+    <message>
+        <source>Final image</source>
+        <translation>Final image</translation>
+    </message>
+    <message>
+        <source>The opening, changed.</source>
+        <translation>The opening, changed.</translation>
+    </message>
+    <message>
+        <source>FADE IN:
+
+INT. A ROOM - DAY
+
+What we see and hear, in the present tense.
+
+CHARACTER
+(quietly)
+What is said.
+</source>
+        <translation>FADE IN:
+
+INT. A ROOM - DAY
+
+What we see and hear, in the present tense.
+
+CHARACTER
+(quietly)
+What is said.
+</translation>
+    </message>
+    <message>
+        <source>Development</source>
+        <translation>Development</translation>
+    </message>
+    <message>
+        <source>Logline</source>
+        <translation>Logline</translation>
+    </message>
+    <message>
+        <source>One sentence: who, what they want, what stands in the way, what is at stake.</source>
+        <translation>One sentence: who, what they want, what stands in the way, what is at stake.</translation>
+    </message>
+    <message>
+        <source>Treatment</source>
+        <translation>Treatment</translation>
+    </message>
+    <message>
+        <source>The film in prose, in the present tense, two to five pages.</source>
+        <translation>The film in prose, in the present tense, two to five pages.</translation>
+    </message>
+    <message>
+        <source>Step outline</source>
+        <translation>Step outline</translation>
+    </message>
+    <message>
+        <source>1. </source>
+        <translation>1. </translation>
+    </message>
+    <message>
+        <source>Cast</source>
+        <translation>Cast</translation>
+    </message>
+    <message>
+        <source>Lead</source>
+        <translation>Lead</translation>
+    </message>
+    <message>
+        <source>Day player</source>
+        <translation>Day player</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Playing age</source>
+        <translation>Playing age</translation>
+    </message>
+    <message>
+        <source>First impression</source>
+        <translation>First impression</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation>Arc</translation>
+    </message>
+    <message>
+        <source>Locations</source>
+        <translation>Locations</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Setting</translation>
+    </message>
+    <message>
+        <source>Interior</source>
+        <translation>Interior</translation>
+    </message>
+    <message>
+        <source>Exterior</source>
+        <translation>Exterior</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Both</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Look</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>Also at night</source>
+        <translation>Also at night</translation>
+    </message>
+    <message>
+        <source>Props</source>
+        <translation>Props</translation>
+    </message>
+    <message>
+        <source>A person of the cast.</source>
+        <translation>A person of the cast.</translation>
+    </message>
+    <message>
+        <source>A story</source>
+        <translation>A story</translation>
+    </message>
+    <message>
+        <source>The outer conflict.</source>
+        <translation>The outer conflict.</translation>
+    </message>
+    <message>
+        <source>B story</source>
+        <translation>B story</translation>
+    </message>
+    <message>
+        <source>The relationship that carries the theme.</source>
+        <translation>The relationship that carries the theme.</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Drafts</translation>
+    </message>
+    <message>
+        <source>Outline on cards</source>
+        <translation>Outline on cards</translation>
+    </message>
+    <message>
+        <source>First draft without looking back</source>
+        <translation>First draft without looking back</translation>
+    </message>
+    <message>
+        <source>Cut ten pages</source>
+        <translation>Cut ten pages</translation>
+    </message>
+    <message>
+        <source>Table read</source>
+        <translation>Table read</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::StyleRule</name>
     <message>
         <source>Hard-to-read sentences</source>
@@ -2207,6 +3803,33 @@
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Long sentence (%1 words). Consider breaking it up.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::TimedValuesModel</name>
+    <message>
+        <source>Which field has the value?</source>
+        <translation>Which field has the value?</translation>
+    </message>
+    <message>
+        <source>“%1” is no date of the calendar.</source>
+        <translation>“%1” is no date of the calendar.</translation>
+    </message>
+    <message>
+        <source>From when on? Type a date.</source>
+        <translation>From when on? Type a date.</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>From</translation>
     </message>
 </context>
 <context>
@@ -2942,6 +4565,49 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::AboutDialog</name>
+    <message>
+        <source>About Ivorel</source>
+        <translation>About Ivorel</translation>
+    </message>
+    <message>
+        <source>Ivorel %1</source>
+        <translation>Ivorel %1</translation>
+    </message>
+    <message>
+        <source>A workspace for writing and worldbuilding.</source>
+        <translation>A workspace for writing and worldbuilding.</translation>
+    </message>
+    <message>
+        <source>Runs with Qt %1.</source>
+        <translation>Runs with Qt %1.</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Backups</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Open the folder: %1</source>
+        <translation>Open the folder: %1</translation>
+    </message>
+    <message>
+        <source>Third-party software and its licences</source>
+        <translation>Third-party software and its licences</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::AppearancePage</name>
     <message>
         <source>Theme</source>
@@ -2993,6 +4659,48 @@
     <message>
         <source>&amp;Back Up Now</source>
         <translation>&amp;Back Up Now</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::BackupsPage</name>
+    <message>
+        <source>Made by themselves</source>
+        <translation>Made by themselves</translation>
+    </message>
+    <message>
+        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
+        <translation>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</translation>
+    </message>
+    <message>
+        <source>Where they lie</source>
+        <translation>Where they lie</translation>
+    </message>
+    <message>
+        <source>Folder of the backups</source>
+        <translation>Folder of the backups</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>&amp;Open Folder</translation>
+    </message>
+    <message>
+        <source>Backups of This &amp;Project…</source>
+        <translation>Backups of This &amp;Project…</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ChoiceFieldEditor</name>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>%1 (no option)</source>
+        <translation>%1 (no option)</translation>
     </message>
 </context>
 <context>
@@ -3443,6 +5151,10 @@
         <source>Delete</source>
         <translation>Delete</translation>
     </message>
+    <message numerus="yes">
+        <source>Deleted %n document(s).</source>
+        <translation><numerusform>Deleted %n document.</numerusform><numerusform>Deleted %n documents.</numerusform></translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::Download</name>
@@ -3601,6 +5313,52 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FieldEditor</name>
+    <message>
+        <source>(mixed)</source>
+        <translation>(mixed)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::FieldListEditor</name>
+    <message>
+        <source>Every entity of the category, and of those below it, has these.</source>
+        <translation>Every entity of the category, and of those below it, has these.</translation>
+    </message>
+    <message>
+        <source>Add a field</source>
+        <translation>Add a field</translation>
+    </message>
+    <message>
+        <source>Change the field</source>
+        <translation>Change the field</translation>
+    </message>
+    <message>
+        <source>Move the field up</source>
+        <translation>Move the field up</translation>
+    </message>
+    <message>
+        <source>Move the field down</source>
+        <translation>Move the field down</translation>
+    </message>
+    <message>
+        <source>Remove the field</source>
+        <translation>Remove the field</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1, to be filled</source>
+        <translation>%1, to be filled</translation>
+    </message>
+    <message>
+        <source>The field was removed; what entities have in it is kept.</source>
+        <translation>The field was removed; what entities have in it is kept.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::FindInProject</name>
     <message>
         <source>Manuscript</source>
@@ -3708,7 +5466,10 @@
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation><numerusform>%1 and %n more</numerusform><numerusform>%1 and %n more</numerusform></translation>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
     </message>
     <message>
         <source>Where to search: %1</source>
@@ -3720,11 +5481,17 @@
     </message>
     <message numerus="yes">
         <source>%n place(s) in %1</source>
-        <translation><numerusform>%n place in %1</numerusform><numerusform>%n places in %1</numerusform></translation>
+        <translation>
+            <numerusform>%n place in %1</numerusform>
+            <numerusform>%n places in %1</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+        <translation>
+            <numerusform>%n object</numerusform>
+            <numerusform>%n objects</numerusform>
+        </translation>
     </message>
     <message>
         <source>Find a word in the manuscript, the notes, the codex, the comments and all other texts of the project.</source>
@@ -3736,15 +5503,24 @@
     </message>
     <message numerus="yes">
         <source>Replace %n &amp;Place(s)</source>
-        <translation><numerusform>Replace %n &amp;Place</numerusform><numerusform>Replace %n &amp;Places</numerusform></translation>
+        <translation>
+            <numerusform>Replace %n &amp;Place</numerusform>
+            <numerusform>Replace %n &amp;Places</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Replaced %n place(s) in %1.</source>
-        <translation><numerusform>Replaced %n place in %1.</numerusform><numerusform>Replaced %n places in %1.</numerusform></translation>
+        <translation>
+            <numerusform>Replaced %n place in %1.</numerusform>
+            <numerusform>Replaced %n places in %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n place(s) had changed since the search and stayed as they are.</source>
-        <translation><numerusform>%n place had changed since the search and stayed as they are.</numerusform><numerusform>%n places had changed since the search and stayed as they are.</numerusform></translation>
+        <translation>
+            <numerusform>%n place had changed since the search and stayed as they are.</numerusform>
+            <numerusform>%n places had changed since the search and stayed as they are.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3798,6 +5574,25 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::InspectorPanel</name>
+    <message>
+        <source>Select a document or an entity to see and change what is known of it.</source>
+        <translation>Select a document or an entity to see and change what is known of it.</translation>
+    </message>
+    <message>
+        <source>Show a Document</source>
+        <translation>Show a Document</translation>
+    </message>
+    <message>
+        <source>What is selected</source>
+        <translation>What is selected</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Layouts</name>
     <message>
         <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
@@ -3845,6 +5640,17 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::LevelFieldEditor</name>
+    <message>
+        <source>not set</source>
+        <translation>not set</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(mixed)</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::MainToolBar</name>
     <message>
         <source>Main</source>
@@ -3878,14 +5684,6 @@
         <translation>Redo</translation>
     </message>
     <message>
-        <source>About Ivorel</source>
-        <translation>About Ivorel</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Why the project was not saved</source>
         <translation>Why the project was not saved</translation>
     </message>
@@ -3896,6 +5694,77 @@
     <message>
         <source>Save Project</source>
         <translation>Save Project</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::NewProjectDialog</name>
+    <message>
+        <source>A single &amp;file</source>
+        <translation>A single &amp;file</translation>
+    </message>
+    <message>
+        <source>A f&amp;older of text files</source>
+        <translation>A f&amp;older of text files</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>New Project</translation>
+    </message>
+    <message>
+        <source>Where the project will stand</source>
+        <translation>Where the project will stand</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Create</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Templates</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>Name of the project</translation>
+    </message>
+    <message>
+        <source>What you call the work for now</source>
+        <translation>What you call the work for now</translation>
+    </message>
+    <message>
+        <source>&amp;Place:</source>
+        <translation>&amp;Place:</translation>
+    </message>
+    <message>
+        <source>Folder that the project is made in</source>
+        <translation>Folder that the project is made in</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>C&amp;hoose…</translation>
+    </message>
+    <message>
+        <source>One file that is easy to copy and to send.</source>
+        <translation>One file that is easy to copy and to send.</translation>
+    </message>
+    <message>
+        <source>One small file a document: suits version control and sync.</source>
+        <translation>One small file a document: suits version control and sync.</translation>
+    </message>
+    <message>
+        <source>Saved as:</source>
+        <translation>Saved as:</translation>
+    </message>
+    <message>
+        <source>Place of the Project</source>
+        <translation>Place of the Project</translation>
+    </message>
+    <message>
+        <source>Give the project a name; it can be changed later.</source>
+        <translation>Give the project a name; it can be changed later.</translation>
     </message>
 </context>
 <context>
@@ -3974,6 +5843,49 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::PicturesEditor</name>
+    <message>
+        <source>Add a picture of the project</source>
+        <translation>Add a picture of the project</translation>
+    </message>
+    <message>
+        <source>Make it the cover</source>
+        <translation>Make it the cover</translation>
+    </message>
+    <message>
+        <source>Take the picture away; it stays in the project</source>
+        <translation>Take the picture away; it stays in the project</translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation>(missing)</translation>
+    </message>
+    <message>
+        <source>Picture without a caption</source>
+        <translation>Picture without a caption</translation>
+    </message>
+    <message>
+        <source>No picture yet.</source>
+        <translation>No picture yet.</translation>
+    </message>
+    <message>
+        <source>The first one is the cover.</source>
+        <translation>The first one is the cover.</translation>
+    </message>
+    <message>
+        <source>Add Picture</source>
+        <translation>Add Picture</translation>
+    </message>
+    <message>
+        <source>Picture of the project:</source>
+        <translation>Picture of the project:</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::PreferencesDialog</name>
     <message>
         <source>No page has these words.</source>
@@ -4036,10 +5948,28 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::ProjectTools</name>
+    <message>
+        <source>Ivorel Sample</source>
+        <translation>Ivorel Sample</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::RecentMenu</name>
     <message>
         <source>Not found: %1</source>
         <translation>Not found: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ReferenceFieldEditor</name>
+    <message>
+        <source>Go to what is named here</source>
+        <translation>Go to what is named here</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entities</translation>
     </message>
 </context>
 <context>
@@ -4169,6 +6099,71 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::TargetFieldEditor</name>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Words written against the target</source>
+        <translation>Words written against the target</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(mixed)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 words</source>
+        <translation>%1 of %2 words</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::TimedValuesEditor</name>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Add a value from a date on</source>
+        <translation>Add a value from a date on</translation>
+    </message>
+    <message>
+        <source>Remove the selected values</source>
+        <translation>Remove the selected values</translation>
+    </message>
+    <message>
+        <source>Values that hold from a date of the story on.</source>
+        <translation>Values that hold from a date of the story on.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::TokensFieldEditor</name>
+    <message>
+        <source>Remove “%1”</source>
+        <translation>Remove “%1”</translation>
+    </message>
+    <message>
+        <source>%1: press to remove.</source>
+        <translation>%1: press to remove.</translation>
+    </message>
+    <message>
+        <source>Add to “%1”</source>
+        <translation>Add to “%1”</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(mixed)</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Add…</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::ToolBarsPage</name>
     <message>
         <source>&amp;Entries of the tool bar “Main”:</source>
@@ -4262,6 +6257,100 @@
     <message>
         <source>&amp;Check Now</source>
         <translation>&amp;Check Now</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UrlFieldEditor</name>
+    <message>
+        <source>Open the address in the browser</source>
+        <translation>Open the address in the browser</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::WelcomeDialog</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Welcome</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Begin</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Recent projects</translation>
+    </message>
+    <message>
+        <source>Projects that you open stand here the next time.</source>
+        <translation>Projects that you open stand here the next time.</translation>
+    </message>
+    <message>
+        <source>You find this again under Help › Welcome.</source>
+        <translation>You find this again under Help › Welcome.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Welcome to Ivorel</source>
+        <translation>Welcome to Ivorel</translation>
+    </message>
+    <message>
+        <source>A desk for your manuscript and the world it plays in. Everything stays on your own machine, as plain text.</source>
+        <translation>A desk for your manuscript and the world it plays in. Everything stays on your own machine, as plain text.</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>New Project</translation>
+    </message>
+    <message>
+        <source>Blank, or prepared for a novel, a series, a screenplay or a campaign.</source>
+        <translation>Blank, or prepared for a novel, a series, a screenplay or a campaign.</translation>
+    </message>
+    <message>
+        <source>Open a Project</source>
+        <translation>Open a Project</translation>
+    </message>
+    <message>
+        <source>A “.vellum” file.</source>
+        <translation>A “.vellum” file.</translation>
+    </message>
+    <message>
+        <source>Open a Project Folder</source>
+        <translation>Open a Project Folder</translation>
+    </message>
+    <message>
+        <source>A folder of text files.</source>
+        <translation>A folder of text files.</translation>
+    </message>
+    <message>
+        <source>Look at the Sample</source>
+        <translation>Look at the Sample</translation>
+    </message>
+    <message>
+        <source>A small world to try everything on; you work on a copy of your own.</source>
+        <translation>A small world to try everything on; you work on a copy of your own.</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>It is not installed.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>A manuscript that you wrote elsewhere.</source>
+        <translation>A manuscript that you wrote elsewhere.</translation>
+    </message>
+    <message>
+        <source>Not part of this version.</source>
+        <translation>Not part of this version.</translation>
+    </message>
+    <message>
+        <source>Not found: %1</source>
+        <translation>Not found: %1</translation>
     </message>
 </context>
 <context>

@@ -796,6 +796,53 @@
         <source>Updates</source>
         <translation>Actualizaciones</translation>
     </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectTemplates</name>
+    <message>
+        <source>Blank</source>
+        <translation>En blanco</translation>
+    </message>
+    <message>
+        <source>Nothing but room to write.</source>
+        <translation>Nada más que sitio para escribir.</translation>
+    </message>
+    <message>
+        <source>Novel</source>
+        <translation>Novela</translation>
+    </message>
+    <message>
+        <source>Three acts with chapters and scenes on a beat sheet, sheets for characters and places, plot threads, and a list for the revision.</source>
+        <translation>Tres actos con capítulos y escenas en una escaleta, fichas de personajes y lugares, tramas y una lista para la revisión.</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Several books over one world: what is settled, what is promised, and how each character stands at the end of each book.</source>
+        <translation>Varios libros sobre un mundo: lo que está fijado, lo que se promete y cómo queda cada personaje al final de cada libro.</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Guion</translation>
+    </message>
+    <message>
+        <source>Sequences in screenplay form, logline and treatment, cast and locations.</source>
+        <translation>Secuencias en formato de guion, logline y tratamiento, reparto y localizaciones.</translation>
+    </message>
+    <message>
+        <source>Tabletop Campaign</source>
+        <translation>Campaña de rol</translation>
+    </message>
+    <message>
+        <source>Sessions, quests and factions, secrets that only the game master sees, and random tables.</source>
+        <translation>Sesiones, misiones y facciones, secretos que solo ve quien dirige el juego y tablas aleatorias.</translation>
+    </message>
 </context>
 <context>
     <name>Themes</name>
@@ -992,6 +1039,453 @@
         <source>Year</source>
         <extracomment>The word before the year in a full date such as "3 March, Year 1270".</extracomment>
         <translation>Year</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::CampaignTemplate</name>
+    <message>
+        <source>People</source>
+        <translation>Personas</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>Player characters</source>
+        <translation>Personajes jugadores</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Jugador</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+    <message>
+        <source>Bonds</source>
+        <translation>Vínculos</translation>
+    </message>
+    <message>
+        <source>Whom and what they would not give up.</source>
+        <translation>A quién y a qué no renunciarían.</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Other characters</source>
+        <translation>Otros personajes</translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>Actitud</translation>
+    </message>
+    <message>
+        <source>Friendly</source>
+        <translation>Amistosa</translation>
+    </message>
+    <message>
+        <source>Indifferent</source>
+        <translation>Indiferente</translation>
+    </message>
+    <message>
+        <source>Hostile</source>
+        <translation>Hostil</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voz</translation>
+    </message>
+    <message>
+        <source>One sentence that you can play at the table.</source>
+        <translation>Una frase que pueda interpretar en la mesa.</translation>
+    </message>
+    <message>
+        <source>Wants</source>
+        <translation>Quiere</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Found at</source>
+        <translation>Se encuentra en</translation>
+    </message>
+    <message>
+        <source>A place of the codex.</source>
+        <translation>Un lugar del códice.</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Lugares</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Región</translation>
+    </message>
+    <message>
+        <source>Settlement</source>
+        <translation>Población</translation>
+    </message>
+    <message>
+        <source>Dungeon</source>
+        <translation>Mazmorra</translation>
+    </message>
+    <message>
+        <source>Landmark</source>
+        <translation>Hito</translation>
+    </message>
+    <message>
+        <source>Lies in</source>
+        <translation>Está en</translation>
+    </message>
+    <message>
+        <source>Read aloud</source>
+        <translation>Para leer en voz alta</translation>
+    </message>
+    <message>
+        <source>Two or three sentences for the players.</source>
+        <translation>Dos o tres frases para los jugadores.</translation>
+    </message>
+    <message>
+        <source>Danger</source>
+        <translation>Peligro</translation>
+    </message>
+    <message>
+        <source>What is hidden here</source>
+        <translation>Lo que se oculta aquí</translation>
+    </message>
+    <message>
+        <source>Factions</source>
+        <translation>Facciones</translation>
+    </message>
+    <message>
+        <source>Means</source>
+        <translation>Medios</translation>
+    </message>
+    <message>
+        <source>Next move</source>
+        <translation>Próximo movimiento</translation>
+    </message>
+    <message>
+        <source>What happens if the players do nothing.</source>
+        <translation>Qué pasa si los jugadores no hacen nada.</translation>
+    </message>
+    <message>
+        <source>Led by</source>
+        <translation>Dirigida por</translation>
+    </message>
+    <message>
+        <source>A person of the codex.</source>
+        <translation>Una persona del códice.</translation>
+    </message>
+    <message>
+        <source>Quests</source>
+        <translation>Misiones</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Rumour</source>
+        <translation>Rumor</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <translation>Aceptada</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fracasada</translation>
+    </message>
+    <message>
+        <source>Given by</source>
+        <translation>Encargada por</translation>
+    </message>
+    <message>
+        <source>Reward</source>
+        <translation>Recompensa</translation>
+    </message>
+    <message>
+        <source>Twist</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Objetos</translation>
+    </message>
+    <message>
+        <source>Rarity</source>
+        <translation>Rareza</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Común</translation>
+    </message>
+    <message>
+        <source>Uncommon</source>
+        <translation>Poco común</translation>
+    </message>
+    <message>
+        <source>Rare</source>
+        <translation>Raro</translation>
+    </message>
+    <message>
+        <source>Unique</source>
+        <translation>Único</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>Efecto</translation>
+    </message>
+    <message>
+        <source>Carried by</source>
+        <translation>Lo lleva</translation>
+    </message>
+    <message>
+        <source>Gods and lore</source>
+        <translation>Dioses y saberes</translation>
+    </message>
+    <message>
+        <source>Domain</source>
+        <translation>Dominio</translation>
+    </message>
+    <message>
+        <source>What everybody knows</source>
+        <translation>Lo que todos saben</translation>
+    </message>
+    <message>
+        <source>What is true</source>
+        <translation>Lo que es verdad</translation>
+    </message>
+    <message>
+        <source>At the table</source>
+        <translation>En la mesa</translation>
+    </message>
+    <message>
+        <source>Session zero</source>
+        <translation>Sesión cero</translation>
+    </message>
+    <message>
+        <source>- Tone and theme:
+- Lines and veils:
+- House rules:
+- How often, how long:
+- Why the characters travel together:</source>
+        <translation>- Tono y tema:
+- Límites y velos:
+- Reglas de la casa:
+- Con qué frecuencia, cuánto tiempo:
+- Por qué los personajes viajan juntos:</translation>
+    </message>
+    <message>
+        <source>House rules</source>
+        <translation>Reglas de la casa</translation>
+    </message>
+    <message>
+        <source>Secrets</source>
+        <translation>Secretos</translation>
+    </message>
+    <message>
+        <source>What the players do not know yet, and how they may find it out.
+
+- </source>
+        <translation>Lo que los jugadores aún no saben y cómo pueden averiguarlo.
+
+- </translation>
+    </message>
+    <message>
+        <source>Chronicle</source>
+        <translation>Crónica</translation>
+    </message>
+    <message>
+        <source>What happened, session by session, as the players would tell it.</source>
+        <translation>Lo que pasó, sesión a sesión, tal como lo contarían los jugadores.</translation>
+    </message>
+    <message>
+        <source>Session 1</source>
+        <translation>Sesión 1</translation>
+    </message>
+    <message>
+        <source>Preparation</source>
+        <translation>Preparación</translation>
+    </message>
+    <message>
+        <source>Plan for session 1</source>
+        <translation>Plan de la sesión 1</translation>
+    </message>
+    <message>
+        <source># Strong start
+
+# Scenes that may happen
+
+- 
+
+# Secrets and clues
+
+- 
+
+# Places
+
+- 
+
+# Characters
+
+- 
+
+# Rewards
+
+- </source>
+        <translation># Comienzo con fuerza
+
+# Escenas que pueden darse
+
+- 
+
+# Secretos y pistas
+
+- 
+
+# Lugares
+
+- 
+
+# Personajes
+
+- 
+
+# Recompensas
+
+- </translation>
+    </message>
+    <message>
+        <source>Game master</source>
+        <translation>Dirección de juego</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Jugadores</translation>
+    </message>
+    <message>
+        <source>The great threat</source>
+        <translation>La gran amenaza</translation>
+    </message>
+    <message>
+        <source>What comes nearer with each session.</source>
+        <translation>Lo que se acerca con cada sesión.</translation>
+    </message>
+    <message>
+        <source>The characters’ own stories</source>
+        <translation>Las historias de los personajes</translation>
+    </message>
+    <message>
+        <source>What each of them came for.</source>
+        <translation>Lo que cada uno vino a buscar.</translation>
+    </message>
+    <message>
+        <source>On the road</source>
+        <translation>En el camino</translation>
+    </message>
+    <message>
+        <source>A bridge with a toll that nobody set</source>
+        <translation>Un puente con un peaje que nadie puso</translation>
+    </message>
+    <message>
+        <source>Travellers with a sick child</source>
+        <translation>Viajeros con un niño enfermo</translation>
+    </message>
+    <message>
+        <source>Tracks that end in the middle of a field</source>
+        <translation>Huellas que terminan en medio de un campo</translation>
+    </message>
+    <message>
+        <source>A storm by nightfall</source>
+        <translation>Una tormenta al anochecer</translation>
+    </message>
+    <message>
+        <source>A patrol that looks for somebody like you</source>
+        <translation>Una patrulla que busca a alguien como vosotros</translation>
+    </message>
+    <message>
+        <source>An old shrine with fresh flowers</source>
+        <translation>Un viejo santuario con flores frescas</translation>
+    </message>
+    <message>
+        <source>Rumours in the tavern</source>
+        <translation>Rumores en la taberna</translation>
+    </message>
+    <message>
+        <source>The mill turns at night though there is no wind</source>
+        <translation>El molino gira de noche aunque no hay viento</translation>
+    </message>
+    <message>
+        <source>Somebody buys every map of the hills</source>
+        <translation>Alguien compra todos los mapas de las colinas</translation>
+    </message>
+    <message>
+        <source>The old lord was seen, a year after his burial</source>
+        <translation>Han visto al viejo señor, un año después de su entierro</translation>
+    </message>
+    <message>
+        <source>The well tastes of iron since the new moon</source>
+        <translation>El pozo sabe a hierro desde la luna nueva</translation>
+    </message>
+    <message>
+        <source>Town guard</source>
+        <translation>Guardia de la ciudad</translation>
+    </message>
+    <message>
+        <source>Calls for help before drawing a weapon.</source>
+        <translation>Pide ayuda antes de desenvainar.</translation>
+    </message>
+    <message>
+        <source>Armour</source>
+        <translation>Armadura</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Spear</source>
+        <translation>Lanza</translation>
+    </message>
+    <message>
+        <source>Before the next session</source>
+        <translation>Antes de la próxima sesión</translation>
+    </message>
+    <message>
+        <source>Read the notes of the last session</source>
+        <translation>Leer las notas de la última sesión</translation>
+    </message>
+    <message>
+        <source>Decide what each faction does next</source>
+        <translation>Decidir qué hace después cada facción</translation>
+    </message>
+    <message>
+        <source>Prepare a strong start</source>
+        <translation>Preparar un comienzo con fuerza</translation>
     </message>
 </context>
 <context>
@@ -1748,6 +2242,329 @@
     </message>
 </context>
 <context>
+    <name>vl::app::InspectorForms</name>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ninguno)</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Aliases</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Other names, under which the manuscript may speak of it.</source>
+        <translation>Otros nombres con los que el manuscrito puede mencionarla.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Kept from before: the category has no such field.</source>
+        <translation>Conservado de antes: la categoría no tiene ese campo.</translation>
+    </message>
+    <message>
+        <source>Other values</source>
+        <translation>Otros valores</translation>
+    </message>
+    <message>
+        <source>Life</source>
+        <translation>Vida</translation>
+    </message>
+    <message>
+        <source>Born or begun</source>
+        <translation>Nacimiento o comienzo</translation>
+    </message>
+    <message>
+        <source>Died or ended</source>
+        <translation>Muerte o final</translation>
+    </message>
+    <message>
+        <source>State over time</source>
+        <translation>Estado a lo largo del tiempo</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Prose</source>
+        <translation>Prosa</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Guion</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Sinopsis</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Punto de vista</translation>
+    </message>
+    <message>
+        <source>Tension</source>
+        <translation>Tensión</translation>
+    </message>
+    <message>
+        <source>0 stands for not set.</source>
+        <translation>0 significa sin valor.</translation>
+    </message>
+    <message>
+        <source>Scene date</source>
+        <translation>Fecha de la escena</translation>
+    </message>
+    <message>
+        <source>Word-count target</source>
+        <translation>Objetivo de palabras</translation>
+    </message>
+    <message>
+        <source>Plot threads</source>
+        <translation>Tramas</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Capa</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Pie</translation>
+    </message>
+    <message>
+        <source>Citation key</source>
+        <translation>Clave de cita</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+    <message>
+        <source>Resolved</source>
+        <translation>Resuelto</translation>
+    </message>
+    <message>
+        <source>Grammar notes</source>
+        <translation>Notas de gramática</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Everywhere</source>
+        <translation>En todas partes</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Audiences</source>
+        <translation>Públicos</translation>
+    </message>
+    <message>
+        <source>Without any, everybody sees it.</source>
+        <translation>Sin ninguno, lo ve todo el mundo.</translation>
+    </message>
+    <message>
+        <source>Withhold from AI services</source>
+        <translation>No enviar a servicios de IA</translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation>(falta)</translation>
+    </message>
+    <message>
+        <source>Place: %1</source>
+        <translation>Lugar: %1</translation>
+    </message>
+    <message>
+        <source>With %1</source>
+        <translation>Con %1</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s)</source>
+        <translation><numerusform>%n celda</numerusform><numerusform>%n celdas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of figures</source>
+        <translation><numerusform>%n fila de cifras</numerusform><numerusform>%n filas de cifras</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pin(s)</source>
+        <translation><numerusform>%n chincheta</numerusform><numerusform>%n chinchetas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n region(s)</source>
+        <translation><numerusform>%n región</numerusform><numerusform>%n regiones</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n route(s)</source>
+        <translation><numerusform>%n ruta</numerusform><numerusform>%n rutas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation><numerusform>%n acontecimiento</numerusform><numerusform>%n acontecimientos</numerusform></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Not done</source>
+        <translation>Sin hacer</translation>
+    </message>
+    <message>
+        <source>Due %1</source>
+        <translation>Vence el %1</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Sobre %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n card(s)</source>
+        <translation><numerusform>%n tarjeta</numerusform><numerusform>%n tarjetas</numerusform></translation>
+    </message>
+    <message>
+        <source>On %1</source>
+        <translation>En %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) in the lexicon</source>
+        <translation><numerusform>%n palabra en el léxico</numerusform><numerusform>%n palabras en el léxico</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to roll</source>
+        <translation><numerusform>%n línea que tirar</numerusform><numerusform>%n líneas que tirar</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 figures, %2 actions</source>
+        <translation>%1 valores, %2 acciones</translation>
+    </message>
+    <message>
+        <source>character;people;person;cast</source>
+        <comment>parts of the names of categories that hold characters</comment>
+        <translation>personaje;personas;persona;gente;reparto</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::InspectorModel</name>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Under</source>
+        <translation>Dentro de</translation>
+    </message>
+    <message>
+        <source>(top level)</source>
+        <translation>(nivel superior)</translation>
+    </message>
+    <message>
+        <source>Fields of its entities</source>
+        <translation>Campos de sus entidades</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Campos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entity(ies)</source>
+        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s)</source>
+        <translation><numerusform>%n documento</numerusform><numerusform>%n documentos</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+    </message>
+    <message>
+        <source>No entity is called so.</source>
+        <translation>Ninguna entidad se llama así.</translation>
+    </message>
+    <message>
+        <source>What it referred to was deleted.</source>
+        <translation>Aquello a lo que se refería se eliminó.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no date of the calendar.</source>
+        <translation>Se conserva como está escrito: no es una fecha del calendario.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no number.</source>
+        <translation>Se conserva como está escrito: no es un número.</translation>
+    </message>
+    <message>
+        <source>Kept as written: no web address.</source>
+        <translation>Se conserva como está escrito: no es una dirección web.</translation>
+    </message>
+    <message>
+        <source>To be filled.</source>
+        <translation>Por rellenar.</translation>
+    </message>
+    <message>
+        <source>It needs a name.</source>
+        <translation>Necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>No date of the calendar. Type one like “%1”.</source>
+        <translation>No es una fecha del calendario. Escriba una como «%1».</translation>
+    </message>
+    <message>
+        <source>No entity is called “%1”.</source>
+        <translation>Ninguna entidad se llama «%1».</translation>
+    </message>
+    <message>
+        <source>Several entities are called “%1”: choose one from the list.</source>
+        <translation>Varias entidades se llaman «%1»: elija una de la lista.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::MarkdownImport</name>
     <message>
         <source>Front Matter</source>
@@ -1833,6 +2650,10 @@
         <source>This project is open in another window: %1</source>
         <translation>Este proyecto está abierto en otra ventana: %1</translation>
     </message>
+    <message>
+        <source>New Project</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -1851,6 +2672,41 @@
     <message>
         <source>Could not create the folder for: %1</source>
         <translation>No se pudo crear la carpeta para: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ProjectMaker</name>
+    <message>
+        <source>The project needs a name.</source>
+        <translation>El proyecto necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The name must do without / \ : * ? " &lt; &gt; and |.</source>
+        <translation>El nombre no puede contener / \ : * ? " &lt; &gt; ni |.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name must not begin or end with a point, nor be longer than %n character(s).</source>
+        <translation><numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n carácter.</numerusform><numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n caracteres.</numerusform></translation>
+    </message>
+    <message>
+        <source>The project needs a place.</source>
+        <translation>El proyecto necesita un lugar.</translation>
+    </message>
+    <message>
+        <source>This is no folder: %1</source>
+        <translation>Esto no es una carpeta: %1</translation>
+    </message>
+    <message>
+        <source>There is something of this name already: %1</source>
+        <translation>Ya hay algo con este nombre: %1</translation>
+    </message>
+    <message>
+        <source>The folder could not be made: %1</source>
+        <translation>No se pudo crear la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>There is no such template.</source>
+        <translation>No existe esa plantilla.</translation>
     </message>
 </context>
 <context>
@@ -2023,7 +2879,10 @@
     </message>
     <message numerus="yes">
         <source>%1: %n place(s)</source>
-        <translation><numerusform>%1: %n lugar</numerusform><numerusform>%1: %n lugares</numerusform></translation>
+        <translation>
+            <numerusform>%1: %n lugar</numerusform>
+            <numerusform>%1: %n lugares</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 “%2”</source>
@@ -2147,6 +3006,743 @@
     </message>
 </context>
 <context>
+    <name>vl::app::StoryTemplates</name>
+    <message>
+        <source>Role</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Protagonist</source>
+        <translation>Protagonista</translation>
+    </message>
+    <message>
+        <source>Antagonist</source>
+        <translation>Antagonista</translation>
+    </message>
+    <message>
+        <source>Ally</source>
+        <translation>Aliado</translation>
+    </message>
+    <message>
+        <source>Love interest</source>
+        <translation>Interés amoroso</translation>
+    </message>
+    <message>
+        <source>Mentor</source>
+        <translation>Mentor</translation>
+    </message>
+    <message>
+        <source>Supporting</source>
+        <translation>Secundario</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Edad</translation>
+    </message>
+    <message>
+        <source>Occupation</source>
+        <translation>Ocupación</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apariencia</translation>
+    </message>
+    <message>
+        <source>What a stranger would notice first.</source>
+        <translation>Lo primero que notaría un desconocido.</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Voz</translation>
+    </message>
+    <message>
+        <source>How they speak: pace, pet words, what they never say.</source>
+        <translation>Cómo habla: ritmo, muletillas, lo que nunca dice.</translation>
+    </message>
+    <message>
+        <source>Wants</source>
+        <translation>Quiere</translation>
+    </message>
+    <message>
+        <source>What they go after from the first page on.</source>
+        <translation>Lo que persigue desde la primera página.</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Necesita</translation>
+    </message>
+    <message>
+        <source>What they must learn or let go of.</source>
+        <translation>Lo que debe aprender o soltar.</translation>
+    </message>
+    <message>
+        <source>Fears</source>
+        <translation>Teme</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Hogar</translation>
+    </message>
+    <message>
+        <source>A place of the codex.</source>
+        <translation>Un lugar del códice.</translation>
+    </message>
+    <message>
+        <source>Related to</source>
+        <translation>Relacionado con</translation>
+    </message>
+    <message>
+        <source>A person of the codex.</source>
+        <translation>Una persona del códice.</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Región</translation>
+    </message>
+    <message>
+        <source>Town</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <source>Building</source>
+        <translation>Edificio</translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Habitación</translation>
+    </message>
+    <message>
+        <source>Wilderness</source>
+        <translation>Tierras salvajes</translation>
+    </message>
+    <message>
+        <source>Lies in</source>
+        <translation>Está en</translation>
+    </message>
+    <message>
+        <source>Senses</source>
+        <translation>Sentidos</translation>
+    </message>
+    <message>
+        <source>What is seen, heard and smelled there.</source>
+        <translation>Lo que allí se ve, se oye y se huele.</translation>
+    </message>
+    <message>
+        <source>Mood</source>
+        <translation>Ambiente</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Dueño</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>Why the story cannot do without it.</source>
+        <translation>Por qué la historia no puede prescindir de ello.</translation>
+    </message>
+    <message>
+        <source>Purpose</source>
+        <translation>Propósito</translation>
+    </message>
+    <message>
+        <source>Led by</source>
+        <translation>Dirigida por</translation>
+    </message>
+    <message>
+        <source>Seat</source>
+        <translation>Sede</translation>
+    </message>
+    <message>
+        <source>Enemies</source>
+        <translation>Enemigos</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Personajes</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Lugares</translation>
+    </message>
+    <message>
+        <source>Things</source>
+        <translation>Cosas</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Main character</source>
+        <translation>Personaje principal</translation>
+    </message>
+    <message>
+        <source>Revision</source>
+        <translation>Revisión</translation>
+    </message>
+    <message>
+        <source>Read the whole draft without changing anything</source>
+        <translation>Leer todo el borrador sin cambiar nada</translation>
+    </message>
+    <message>
+        <source>Note only where you were bored, lost or moved.</source>
+        <translation>Anote solo dónde se aburrió, se perdió o se conmovió.</translation>
+    </message>
+    <message>
+        <source>Does each scene change something?</source>
+        <translation>¿Cambia algo cada escena?</translation>
+    </message>
+    <message>
+        <source>Follow each plot thread from its first scene to its last</source>
+        <translation>Seguir cada trama desde su primera escena hasta la última</translation>
+    </message>
+    <message>
+        <source>Check names, ages and dates against the codex</source>
+        <translation>Comprobar nombres, edades y fechas con el códice</translation>
+    </message>
+    <message>
+        <source>Read the dialogue aloud</source>
+        <translation>Leer los diálogos en voz alta</translation>
+    </message>
+    <message>
+        <source>Proofread the last version</source>
+        <translation>Corregir la última versión</translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation>Capítulo %1</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Esquema</translation>
+    </message>
+    <message>
+        <source>Act One</source>
+        <translation>Acto primero</translation>
+    </message>
+    <message>
+        <source>The ordinary world</source>
+        <translation>El mundo de siempre</translation>
+    </message>
+    <message>
+        <source>Who is this about, what do they want, and what is missing?</source>
+        <translation>¿De quién se trata, qué quiere y qué falta?</translation>
+    </message>
+    <message>
+        <source>The disturbance</source>
+        <translation>La perturbación</translation>
+    </message>
+    <message>
+        <source>What happens that cannot be taken back?</source>
+        <translation>¿Qué ocurre que no tiene vuelta atrás?</translation>
+    </message>
+    <message>
+        <source>The door closes</source>
+        <translation>La puerta se cierra</translation>
+    </message>
+    <message>
+        <source>The choice after which there is no way home.</source>
+        <translation>La decisión tras la que no hay regreso.</translation>
+    </message>
+    <message>
+        <source>Act Two</source>
+        <translation>Acto segundo</translation>
+    </message>
+    <message>
+        <source>The turn</source>
+        <translation>El giro</translation>
+    </message>
+    <message>
+        <source>What they believed turns out to be wrong.</source>
+        <translation>Lo que creía resulta ser falso.</translation>
+    </message>
+    <message>
+        <source>The loss</source>
+        <translation>La pérdida</translation>
+    </message>
+    <message>
+        <source>Everything that was won is gone.</source>
+        <translation>Todo lo ganado se ha perdido.</translation>
+    </message>
+    <message>
+        <source>Act Three</source>
+        <translation>Acto tercero</translation>
+    </message>
+    <message>
+        <source>The reckoning</source>
+        <translation>El ajuste de cuentas</translation>
+    </message>
+    <message>
+        <source>They face what they fled from.</source>
+        <translation>Se enfrenta a aquello de lo que huía.</translation>
+    </message>
+    <message>
+        <source>What remains</source>
+        <translation>Lo que queda</translation>
+    </message>
+    <message>
+        <source>Who are they now, and what did it cost?</source>
+        <translation>¿Quién es ahora y qué le ha costado?</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Premise</source>
+        <translation>Premisa</translation>
+    </message>
+    <message>
+        <source># Premise
+
+When …, someone who … must …, or else ….
+
+# Theme
+
+What does the story believe at its end that it did not at its beginning?</source>
+        <translation># Premisa
+
+Cuando …, alguien que … debe …, o de lo contrario ….
+
+# Tema
+
+¿Qué cree la historia al final que no creía al principio?</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Sinopsis</translation>
+    </message>
+    <message>
+        <source>The whole story on one page, its end included.</source>
+        <translation>Toda la historia en una página, con su final.</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Hoja de estilo</translation>
+    </message>
+    <message>
+        <source>- Person and tense:
+- Spelling:
+- Names and how they are written:
+- Numbers and dates:
+- Words to avoid:</source>
+        <translation>- Persona y tiempo verbal:
+- Ortografía:
+- Nombres y cómo se escriben:
+- Números y fechas:
+- Palabras que evitar:</translation>
+    </message>
+    <message>
+        <source>Research</source>
+        <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>Main plot</source>
+        <translation>Trama principal</translation>
+    </message>
+    <message>
+        <source>The question that the first chapter raises.</source>
+        <translation>La pregunta que plantea el primer capítulo.</translation>
+    </message>
+    <message>
+        <source>Inner change</source>
+        <translation>Cambio interior</translation>
+    </message>
+    <message>
+        <source>What the main character learns.</source>
+        <translation>Lo que aprende el personaje principal.</translation>
+    </message>
+    <message>
+        <source>Subplot</source>
+        <translation>Trama secundaria</translation>
+    </message>
+    <message>
+        <source>The same theme, seen from another side.</source>
+        <translation>El mismo tema, visto desde otro lado.</translation>
+    </message>
+    <message>
+        <source>Book One</source>
+        <translation>Libro primero</translation>
+    </message>
+    <message>
+        <source>Book Two</source>
+        <translation>Libro segundo</translation>
+    </message>
+    <message>
+        <source>Book Three</source>
+        <translation>Libro tercero</translation>
+    </message>
+    <message>
+        <source>What this book answers, and what it leaves open for the next.</source>
+        <translation>Lo que este libro responde y lo que deja abierto para el siguiente.</translation>
+    </message>
+    <message>
+        <source>Series bible</source>
+        <translation>Biblia de la serie</translation>
+    </message>
+    <message>
+        <source>The long arc</source>
+        <translation>El arco largo</translation>
+    </message>
+    <message>
+        <source># The question of the series
+
+# How each book turns it
+
+## Book One
+
+## Book Two
+
+## Book Three
+
+# How it ends</source>
+        <translation># La pregunta de la serie
+
+# Cómo la hace girar cada libro
+
+## Libro primero
+
+## Libro segundo
+
+## Libro tercero
+
+# Cómo termina</translation>
+    </message>
+    <message>
+        <source>What is settled</source>
+        <translation>Lo que está fijado</translation>
+    </message>
+    <message>
+        <source>Facts that a later book must not contradict, with the chapter that set them.
+
+- </source>
+        <translation>Hechos que un libro posterior no debe contradecir, con el capítulo que los fijó.
+
+- </translation>
+    </message>
+    <message>
+        <source>What is promised</source>
+        <translation>Lo que se promete</translation>
+    </message>
+    <message>
+        <source>Hints and open questions, and where they are to be answered.
+
+- </source>
+        <translation>Indicios y preguntas abiertas, y dónde se responderán.
+
+- </translation>
+    </message>
+    <message>
+        <source>Rules of the world</source>
+        <translation>Reglas del mundo</translation>
+    </message>
+    <message>
+        <source># What is possible
+
+# What it costs
+
+# What is impossible</source>
+        <translation># Lo que es posible
+
+# Lo que cuesta
+
+# Lo que es imposible</translation>
+    </message>
+    <message>
+        <source>At the end of book %1</source>
+        <translation>Al final del libro %1</translation>
+    </message>
+    <message>
+        <source>Peoples and languages</source>
+        <translation>Pueblos y lenguas</translation>
+    </message>
+    <message>
+        <source>Customs</source>
+        <translation>Costumbres</translation>
+    </message>
+    <message>
+        <source>Speech</source>
+        <translation>Habla</translation>
+    </message>
+    <message>
+        <source>Land</source>
+        <translation>Tierra</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>Cause</source>
+        <translation>Causa</translation>
+    </message>
+    <message>
+        <source>Consequences</source>
+        <translation>Consecuencias</translation>
+    </message>
+    <message>
+        <source>Glossary</source>
+        <translation>Glosario</translation>
+    </message>
+    <message>
+        <source>Pronunciation</source>
+        <translation>Pronunciación</translation>
+    </message>
+    <message>
+        <source>Series arc</source>
+        <translation>Arco de la serie</translation>
+    </message>
+    <message>
+        <source>Runs through all books.</source>
+        <translation>Recorre todos los libros.</translation>
+    </message>
+    <message>
+        <source>Arc of book one</source>
+        <translation>Arco del libro primero</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the first book.</source>
+        <translation>Empieza y termina en el primer libro.</translation>
+    </message>
+    <message>
+        <source>Arc of book two</source>
+        <translation>Arco del libro segundo</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the second book.</source>
+        <translation>Empieza y termina en el segundo libro.</translation>
+    </message>
+    <message>
+        <source>Arc of book three</source>
+        <translation>Arco del libro tercero</translation>
+    </message>
+    <message>
+        <source>Begins and ends in the third book.</source>
+        <translation>Empieza y termina en el tercer libro.</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Apertura</translation>
+    </message>
+    <message>
+        <source>An image that holds the whole film.</source>
+        <translation>Una imagen que contiene toda la película.</translation>
+    </message>
+    <message>
+        <source>What sets everything off, by page 12.</source>
+        <translation>Lo que lo desencadena todo, hacia la página 12.</translation>
+    </message>
+    <message>
+        <source>Into the second act</source>
+        <translation>Hacia el segundo acto</translation>
+    </message>
+    <message>
+        <source>A decision, shown and not told, by page 25.</source>
+        <translation>Una decisión, mostrada y no contada, hacia la página 25.</translation>
+    </message>
+    <message>
+        <source>Midpoint</source>
+        <translation>Punto medio</translation>
+    </message>
+    <message>
+        <source>A false victory or a false defeat.</source>
+        <translation>Una falsa victoria o una falsa derrota.</translation>
+    </message>
+    <message>
+        <source>All is lost</source>
+        <translation>Todo está perdido</translation>
+    </message>
+    <message>
+        <source>The lowest point, by page 75.</source>
+        <translation>El punto más bajo, hacia la página 75.</translation>
+    </message>
+    <message>
+        <source>Showdown</source>
+        <translation>Enfrentamiento</translation>
+    </message>
+    <message>
+        <source>The last confrontation.</source>
+        <translation>La confrontación final.</translation>
+    </message>
+    <message>
+        <source>Final image</source>
+        <translation>Imagen final</translation>
+    </message>
+    <message>
+        <source>The opening, changed.</source>
+        <translation>La apertura, transformada.</translation>
+    </message>
+    <message>
+        <source>FADE IN:
+
+INT. A ROOM - DAY
+
+What we see and hear, in the present tense.
+
+CHARACTER
+(quietly)
+What is said.
+</source>
+        <translation>FUNDE A:
+
+INT. UNA HABITACIÓN - DÍA
+
+Lo que vemos y oímos, en presente.
+
+PERSONAJE
+(en voz baja)
+Lo que se dice.
+</translation>
+    </message>
+    <message>
+        <source>Development</source>
+        <translation>Desarrollo</translation>
+    </message>
+    <message>
+        <source>Logline</source>
+        <translation>Logline</translation>
+    </message>
+    <message>
+        <source>One sentence: who, what they want, what stands in the way, what is at stake.</source>
+        <translation>Una frase: quién, qué quiere, qué se interpone, qué está en juego.</translation>
+    </message>
+    <message>
+        <source>Treatment</source>
+        <translation>Tratamiento</translation>
+    </message>
+    <message>
+        <source>The film in prose, in the present tense, two to five pages.</source>
+        <translation>La película en prosa, en presente, de dos a cinco páginas.</translation>
+    </message>
+    <message>
+        <source>Step outline</source>
+        <translation>Escaleta de pasos</translation>
+    </message>
+    <message>
+        <source>1. </source>
+        <translation>1. </translation>
+    </message>
+    <message>
+        <source>Cast</source>
+        <translation>Reparto</translation>
+    </message>
+    <message>
+        <source>Lead</source>
+        <translation>Principal</translation>
+    </message>
+    <message>
+        <source>Day player</source>
+        <translation>De reparto</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Figuración</translation>
+    </message>
+    <message>
+        <source>Playing age</source>
+        <translation>Edad aparente</translation>
+    </message>
+    <message>
+        <source>First impression</source>
+        <translation>Primera impresión</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation>Arco</translation>
+    </message>
+    <message>
+        <source>Locations</source>
+        <translation>Localizaciones</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Decorado</translation>
+    </message>
+    <message>
+        <source>Interior</source>
+        <translation>Interior</translation>
+    </message>
+    <message>
+        <source>Exterior</source>
+        <translation>Exterior</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Ambos</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aspecto</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>Also at night</source>
+        <translation>También de noche</translation>
+    </message>
+    <message>
+        <source>Props</source>
+        <translation>Atrezo</translation>
+    </message>
+    <message>
+        <source>A person of the cast.</source>
+        <translation>Una persona del reparto.</translation>
+    </message>
+    <message>
+        <source>A story</source>
+        <translation>Historia A</translation>
+    </message>
+    <message>
+        <source>The outer conflict.</source>
+        <translation>El conflicto externo.</translation>
+    </message>
+    <message>
+        <source>B story</source>
+        <translation>Historia B</translation>
+    </message>
+    <message>
+        <source>The relationship that carries the theme.</source>
+        <translation>La relación que lleva el tema.</translation>
+    </message>
+    <message>
+        <source>Drafts</source>
+        <translation>Borradores</translation>
+    </message>
+    <message>
+        <source>Outline on cards</source>
+        <translation>Esquema en tarjetas</translation>
+    </message>
+    <message>
+        <source>First draft without looking back</source>
+        <translation>Primer borrador sin mirar atrás</translation>
+    </message>
+    <message>
+        <source>Cut ten pages</source>
+        <translation>Cortar diez páginas</translation>
+    </message>
+    <message>
+        <source>Table read</source>
+        <translation>Lectura de mesa</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::StyleRule</name>
     <message>
         <source>Hard-to-read sentences</source>
@@ -2207,6 +3803,33 @@
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Frase larga (%1 palabras). Considere dividirla.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::TimedValuesModel</name>
+    <message>
+        <source>Which field has the value?</source>
+        <translation>¿Qué campo tiene el valor?</translation>
+    </message>
+    <message>
+        <source>“%1” is no date of the calendar.</source>
+        <translation>«%1» no es una fecha del calendario.</translation>
+    </message>
+    <message>
+        <source>From when on? Type a date.</source>
+        <translation>¿Desde cuándo? Escriba una fecha.</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
     </message>
 </context>
 <context>
@@ -2942,6 +4565,49 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::AboutDialog</name>
+    <message>
+        <source>About Ivorel</source>
+        <translation>Acerca de Ivorel</translation>
+    </message>
+    <message>
+        <source>Ivorel %1</source>
+        <translation>Ivorel %1</translation>
+    </message>
+    <message>
+        <source>A workspace for writing and worldbuilding.</source>
+        <translation>Un espacio de trabajo para escribir y crear mundos.</translation>
+    </message>
+    <message>
+        <source>Runs with Qt %1.</source>
+        <translation>Funciona con Qt %1.</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Open the folder: %1</source>
+        <translation>Abrir la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>Third-party software and its licences</source>
+        <translation>Software de terceros y sus licencias</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::AppearancePage</name>
     <message>
         <source>Theme</source>
@@ -2993,6 +4659,48 @@
     <message>
         <source>&amp;Back Up Now</source>
         <translation>&amp;Hacer una copia ahora</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::BackupsPage</name>
+    <message>
+        <source>Made by themselves</source>
+        <translation>Automáticas</translation>
+    </message>
+    <message>
+        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
+        <translation>De un proyecto se hace copia al abrirlo, al cerrarlo y una vez al día, salvo que la copia más reciente contenga lo mismo. Se conservan las más recientes, una al día de la última semana, una a la semana de los dos últimos meses y las que usted haya hecho.</translation>
+    </message>
+    <message>
+        <source>Where they lie</source>
+        <translation>Dónde están</translation>
+    </message>
+    <message>
+        <source>Folder of the backups</source>
+        <translation>Carpeta de las copias de seguridad</translation>
+    </message>
+    <message>
+        <source>&amp;Open Folder</source>
+        <translation>&amp;Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Backups of This &amp;Project…</source>
+        <translation>Copias de este &amp;proyecto…</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ChoiceFieldEditor</name>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>%1 (no option)</source>
+        <translation>%1 (no es una opción)</translation>
     </message>
 </context>
 <context>
@@ -3443,6 +5151,10 @@
         <source>Delete</source>
         <translation>Eliminar</translation>
     </message>
+    <message numerus="yes">
+        <source>Deleted %n document(s).</source>
+        <translation><numerusform>Se eliminó %n documento.</numerusform><numerusform>Se eliminaron %n documentos.</numerusform></translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::Download</name>
@@ -3601,6 +5313,52 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::FieldEditor</name>
+    <message>
+        <source>(mixed)</source>
+        <translation>(varios)</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::FieldListEditor</name>
+    <message>
+        <source>Every entity of the category, and of those below it, has these.</source>
+        <translation>Los tiene cada entidad de la categoría y de las que están por debajo.</translation>
+    </message>
+    <message>
+        <source>Add a field</source>
+        <translation>Añadir un campo</translation>
+    </message>
+    <message>
+        <source>Change the field</source>
+        <translation>Cambiar el campo</translation>
+    </message>
+    <message>
+        <source>Move the field up</source>
+        <translation>Subir el campo</translation>
+    </message>
+    <message>
+        <source>Move the field down</source>
+        <translation>Bajar el campo</translation>
+    </message>
+    <message>
+        <source>Remove the field</source>
+        <translation>Quitar el campo</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1, to be filled</source>
+        <translation>%1, por rellenar</translation>
+    </message>
+    <message>
+        <source>The field was removed; what entities have in it is kept.</source>
+        <translation>El campo se quitó; lo que las entidades tienen en él se conserva.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::FindInProject</name>
     <message>
         <source>Manuscript</source>
@@ -3708,7 +5466,10 @@
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation><numerusform>%1 y %n más</numerusform><numerusform>%1 y %n más</numerusform></translation>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
     </message>
     <message>
         <source>Where to search: %1</source>
@@ -3720,11 +5481,17 @@
     </message>
     <message numerus="yes">
         <source>%n place(s) in %1</source>
-        <translation><numerusform>%n lugar en %1</numerusform><numerusform>%n lugares en %1</numerusform></translation>
+        <translation>
+            <numerusform>%n lugar en %1</numerusform>
+            <numerusform>%n lugares en %1</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+        <translation>
+            <numerusform>%n objeto</numerusform>
+            <numerusform>%n objetos</numerusform>
+        </translation>
     </message>
     <message>
         <source>Find a word in the manuscript, the notes, the codex, the comments and all other texts of the project.</source>
@@ -3736,15 +5503,24 @@
     </message>
     <message numerus="yes">
         <source>Replace %n &amp;Place(s)</source>
-        <translation><numerusform>Reemplazar %n &amp;lugar</numerusform><numerusform>Reemplazar %n &amp;lugares</numerusform></translation>
+        <translation>
+            <numerusform>Reemplazar %n &amp;lugar</numerusform>
+            <numerusform>Reemplazar %n &amp;lugares</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>Replaced %n place(s) in %1.</source>
-        <translation><numerusform>Se reemplazó %n lugar en %1.</numerusform><numerusform>Se reemplazaron %n lugares en %1.</numerusform></translation>
+        <translation>
+            <numerusform>Se reemplazó %n lugar en %1.</numerusform>
+            <numerusform>Se reemplazaron %n lugares en %1.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n place(s) had changed since the search and stayed as they are.</source>
-        <translation><numerusform>%n lugar había cambiado desde la búsqueda y se quedó como está.</numerusform><numerusform>%n lugares habían cambiado desde la búsqueda y se quedaron como están.</numerusform></translation>
+        <translation>
+            <numerusform>%n lugar había cambiado desde la búsqueda y se quedó como está.</numerusform>
+            <numerusform>%n lugares habían cambiado desde la búsqueda y se quedaron como están.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3798,6 +5574,25 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::InspectorPanel</name>
+    <message>
+        <source>Select a document or an entity to see and change what is known of it.</source>
+        <translation>Seleccione un documento o una entidad para ver y cambiar lo que se sabe de ello.</translation>
+    </message>
+    <message>
+        <source>Show a Document</source>
+        <translation>Mostrar un documento</translation>
+    </message>
+    <message>
+        <source>What is selected</source>
+        <translation>Lo seleccionado</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Layouts</name>
     <message>
         <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
@@ -3845,6 +5640,17 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::LevelFieldEditor</name>
+    <message>
+        <source>not set</source>
+        <translation>sin valor</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(varios)</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::MainToolBar</name>
     <message>
         <source>Main</source>
@@ -3878,14 +5684,6 @@
         <translation>Rehacer</translation>
     </message>
     <message>
-        <source>About Ivorel</source>
-        <translation>Acerca de Ivorel</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;A workspace for writing and worldbuilding.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Ivorel %1&lt;/h3&gt;&lt;p&gt;Un espacio para escribir y crear mundos.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Why the project was not saved</source>
         <translation>Por qué no se guardó el proyecto</translation>
     </message>
@@ -3896,6 +5694,77 @@
     <message>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::NewProjectDialog</name>
+    <message>
+        <source>A single &amp;file</source>
+        <translation>Un solo &amp;archivo</translation>
+    </message>
+    <message>
+        <source>A f&amp;older of text files</source>
+        <translation>Una carp&amp;eta de archivos de texto</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Where the project will stand</source>
+        <translation>Dónde estará el proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Create</source>
+        <translation>&amp;Crear</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>Name of the project</source>
+        <translation>Nombre del proyecto</translation>
+    </message>
+    <message>
+        <source>What you call the work for now</source>
+        <translation>Cómo llama a la obra por ahora</translation>
+    </message>
+    <message>
+        <source>&amp;Place:</source>
+        <translation>&amp;Lugar:</translation>
+    </message>
+    <message>
+        <source>Folder that the project is made in</source>
+        <translation>Carpeta en la que se crea el proyecto</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation>Ele&amp;gir…</translation>
+    </message>
+    <message>
+        <source>One file that is easy to copy and to send.</source>
+        <translation>Un archivo fácil de copiar y de enviar.</translation>
+    </message>
+    <message>
+        <source>One small file a document: suits version control and sync.</source>
+        <translation>Un archivo pequeño por documento: apropiado para control de versiones y sincronización.</translation>
+    </message>
+    <message>
+        <source>Saved as:</source>
+        <translation>Se guarda como:</translation>
+    </message>
+    <message>
+        <source>Place of the Project</source>
+        <translation>Lugar del proyecto</translation>
+    </message>
+    <message>
+        <source>Give the project a name; it can be changed later.</source>
+        <translation>Dé un nombre al proyecto; se puede cambiar después.</translation>
     </message>
 </context>
 <context>
@@ -3974,6 +5843,49 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::PicturesEditor</name>
+    <message>
+        <source>Add a picture of the project</source>
+        <translation>Añadir una imagen del proyecto</translation>
+    </message>
+    <message>
+        <source>Make it the cover</source>
+        <translation>Usarla como portada</translation>
+    </message>
+    <message>
+        <source>Take the picture away; it stays in the project</source>
+        <translation>Quitar la imagen; sigue en el proyecto</translation>
+    </message>
+    <message>
+        <source>(missing)</source>
+        <translation>(falta)</translation>
+    </message>
+    <message>
+        <source>Picture without a caption</source>
+        <translation>Imagen sin pie</translation>
+    </message>
+    <message>
+        <source>No picture yet.</source>
+        <translation>Aún no hay ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>The first one is the cover.</source>
+        <translation>La primera es la portada.</translation>
+    </message>
+    <message>
+        <source>Add Picture</source>
+        <translation>Añadir imagen</translation>
+    </message>
+    <message>
+        <source>Picture of the project:</source>
+        <translation>Imagen del proyecto:</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::PreferencesDialog</name>
     <message>
         <source>No page has these words.</source>
@@ -4036,10 +5948,28 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::ProjectTools</name>
+    <message>
+        <source>Ivorel Sample</source>
+        <translation>Ejemplo de Ivorel</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::RecentMenu</name>
     <message>
         <source>Not found: %1</source>
         <translation>No se encuentra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ReferenceFieldEditor</name>
+    <message>
+        <source>Go to what is named here</source>
+        <translation>Ir a lo que se nombra aquí</translation>
+    </message>
+    <message>
+        <source>Entities</source>
+        <translation>Entidades</translation>
     </message>
 </context>
 <context>
@@ -4169,6 +6099,71 @@
     </message>
 </context>
 <context>
+    <name>vl::desktop::TargetFieldEditor</name>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>Words written against the target</source>
+        <translation>Palabras escritas frente al objetivo</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(varios)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 words</source>
+        <translation>%1 de %2 palabras</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::TimedValuesEditor</name>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Add a value from a date on</source>
+        <translation>Añadir un valor desde una fecha</translation>
+    </message>
+    <message>
+        <source>Remove the selected values</source>
+        <translation>Quitar los valores seleccionados</translation>
+    </message>
+    <message>
+        <source>Values that hold from a date of the story on.</source>
+        <translation>Valores que rigen desde una fecha de la historia.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::TokensFieldEditor</name>
+    <message>
+        <source>Remove “%1”</source>
+        <translation>Quitar «%1»</translation>
+    </message>
+    <message>
+        <source>%1: press to remove.</source>
+        <translation>%1: pulse para quitarla.</translation>
+    </message>
+    <message>
+        <source>Add to “%1”</source>
+        <translation>Añadir a «%1»</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Sugerencias</translation>
+    </message>
+    <message>
+        <source>(mixed)</source>
+        <translation>(varios)</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Añadir…</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::ToolBarsPage</name>
     <message>
         <source>&amp;Entries of the tool bar “Main”:</source>
@@ -4262,6 +6257,100 @@
     <message>
         <source>&amp;Check Now</source>
         <translation>&amp;Comprobar ahora</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::UrlFieldEditor</name>
+    <message>
+        <source>Open the address in the browser</source>
+        <translation>Abrir la dirección en el navegador</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::WelcomeDialog</name>
+    <message>
+        <source>Welcome</source>
+        <translation>Bienvenida</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Empezar</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Proyectos recientes</translation>
+    </message>
+    <message>
+        <source>Projects that you open stand here the next time.</source>
+        <translation>Los proyectos que abra aparecerán aquí la próxima vez.</translation>
+    </message>
+    <message>
+        <source>You find this again under Help › Welcome.</source>
+        <translation>Vuelve a encontrar esto en Ayuda › Bienvenida.</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Welcome to Ivorel</source>
+        <translation>Bienvenida a Ivorel</translation>
+    </message>
+    <message>
+        <source>A desk for your manuscript and the world it plays in. Everything stays on your own machine, as plain text.</source>
+        <translation>Un escritorio para su manuscrito y el mundo en que transcurre. Todo queda en su propio equipo, como texto sin formato.</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Blank, or prepared for a novel, a series, a screenplay or a campaign.</source>
+        <translation>En blanco, o preparado para una novela, una serie, un guion o una campaña.</translation>
+    </message>
+    <message>
+        <source>Open a Project</source>
+        <translation>Abrir un proyecto</translation>
+    </message>
+    <message>
+        <source>A “.vellum” file.</source>
+        <translation>Un archivo «.vellum».</translation>
+    </message>
+    <message>
+        <source>Open a Project Folder</source>
+        <translation>Abrir una carpeta de proyecto</translation>
+    </message>
+    <message>
+        <source>A folder of text files.</source>
+        <translation>Una carpeta de archivos de texto.</translation>
+    </message>
+    <message>
+        <source>Look at the Sample</source>
+        <translation>Ver el ejemplo</translation>
+    </message>
+    <message>
+        <source>A small world to try everything on; you work on a copy of your own.</source>
+        <translation>Un pequeño mundo para probarlo todo; usted trabaja con una copia propia.</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>No está instalado.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>A manuscript that you wrote elsewhere.</source>
+        <translation>Un manuscrito que escribió en otro sitio.</translation>
+    </message>
+    <message>
+        <source>Not part of this version.</source>
+        <translation>No forma parte de esta versión.</translation>
+    </message>
+    <message>
+        <source>Not found: %1</source>
+        <translation>No se encuentra: %1</translation>
     </message>
 </context>
 <context>
