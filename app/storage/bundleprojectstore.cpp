@@ -2,15 +2,18 @@
 
 #include "app/base/sha256.h"
 #include "app/storage/bundlestore.h"
+#include "app/storage/ownform.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectreader.h"
 #include "app/storage/projectwriter.h"
 
+#include <QtConcurrent/QtConcurrentMap>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <map>
 
 namespace vl::app {
 
@@ -21,11 +24,64 @@ struct BundleText
     Q_DECLARE_TR_FUNCTIONS(vl::app::BundleProjectStore)
 };
 
+bool pathIsBefore(const ProjectFile &a, const ProjectFile &b)
+{
+    return a.path < b.path;
+}
+
+/// All files of a project as values: those last read or written, and what changed since.
+struct BundleFiles
+{
+    std::shared_ptr<const ProjectFiles> base;
+    /// Files that were read may have been written by other hands in another form. With the first
+    /// save all are written as the program does.
+    bool isOwnForm = false;
+    bool isWhole = false;                  ///< the changes are all there is
+    std::map<QString, QByteArray> changes; ///< files without bytes go
+
+    ProjectFiles compose() const;
+};
+
+ProjectFiles BundleFiles::compose() const
+{
+    ProjectFiles files;
+    if (!isWhole)
+        files = *base;
+    if (!isWhole && !isOwnForm) {
+        constexpr qsizetype filesPerPiece = 512;
+        QList<qsizetype> pieces;
+        for (qsizetype first = 0; first < qsizetype(files.size()); first += filesPerPiece)
+            pieces.append(first);
+        QtConcurrent::blockingMap(pieces, [&files](qsizetype first) {
+            JsonParser parser;
+            const auto end = std::min(std::size_t(first + filesPerPiece), files.size());
+            for (auto i = std::size_t(first); i < end; ++i)
+                files[i] = inOwnForm(parser, files[i]);
+        });
+        std::sort(files.begin(), files.end(), pathIsBefore);
+    }
+    ProjectFiles added;
+    for (const auto &[path, bytes] : changes) {
+        const auto place =
+            std::lower_bound(files.begin(), files.end(), ProjectFile{path, {}}, pathIsBefore);
+        if (place != files.end() && place->path == path)
+            place->bytes = bytes;
+        else if (!bytes.isEmpty())
+            added.push_back({path, bytes});
+    }
+    std::erase_if(files, [](const ProjectFile &file) { return file.bytes.isEmpty(); });
+    const auto middle = files.insert(files.end(), std::make_move_iterator(added.begin()),
+                                     std::make_move_iterator(added.end()));
+    std::inplace_merge(files.begin(), middle, files.end(), pathIsBefore);
+    return files;
+}
+
 class PendingBundleSave final : public PendingSave
 {
 public:
-    PendingBundleSave(BundleSave save, StorageLocations locations)
+    PendingBundleSave(BundleSave save, BundleFiles files, StorageLocations locations)
         : save(std::move(save))
+        , m_files(std::move(files))
         , m_locations(std::move(locations))
     {
     }
@@ -41,6 +97,24 @@ public:
     }
 
     Result<> commit(OutsideChanges outside) override
+    {
+        save.files = m_files.compose();
+        for (const ProjectFile &file : *m_files.base)
+            save.readPaths.append(file.path);
+        const Result<> done = write(outside);
+        written = std::make_shared<const ProjectFiles>(std::move(save.files));
+        return done;
+    }
+
+    BundleSave save;
+    bool isNew = false;
+    QString carryFrom;
+    SaveReport report;
+    OpenedBundle opened;
+    std::shared_ptr<const ProjectFiles> written; ///< after the commit: the files of the bundle
+
+private:
+    Result<> write(OutsideChanges outside)
     {
         if (isNew) {
             Result<OpenedBundle> written = saveBundleAs(save, carryFrom, m_locations);
@@ -66,20 +140,30 @@ public:
         return failure(report.message);
     }
 
-    BundleSave save;
-    bool isNew = false;
-    QString carryFrom;
-    SaveReport report;
-    OpenedBundle opened;
-
-private:
+    BundleFiles m_files;
     StorageLocations m_locations;
 };
 
-bool pathIsBefore(const ProjectFile &file, const QString &path)
+class PendingBundleScan final : public PendingScan
 {
-    return file.path < path;
-}
+public:
+    PendingBundleScan(QString path, KnownBundle known, std::shared_ptr<const ProjectFiles> base,
+                      QString workingFolder)
+        : m_path(std::move(path))
+        , m_known(std::move(known))
+        , m_base(std::move(base))
+        , m_workingFolder(std::move(workingFolder))
+    {
+    }
+
+    OutsideState run() override { return scanBundle(m_path, m_known, *m_base, m_workingFolder); }
+
+private:
+    QString m_path;
+    KnownBundle m_known;
+    std::shared_ptr<const ProjectFiles> m_base;
+    QString m_workingFolder;
+};
 
 /// A bundle with its working copy. The bytes of every file are kept, so that a save serialises
 /// what was touched and nothing else.
@@ -99,7 +183,12 @@ public:
         m_workingFolder = opened.workingFolder;
         m_known = opened.known;
     }
-    void setReadPaths(QStringList paths) { m_readPaths = std::move(paths); }
+    void setBase(ProjectFiles files)
+    {
+        std::sort(files.begin(), files.end(), pathIsBefore);
+        m_base = std::make_shared<const ProjectFiles>(std::move(files));
+        m_isOwnForm = false;
+    }
     void setCarryFrom(const QString &folder) { m_carryFrom = folder; }
 
     QString path() const override { return m_bundlePath; }
@@ -122,20 +211,13 @@ public:
     std::unique_ptr<PendingSave> prepare(const core::Project &project,
                                          const core::ChangeSet *touched) override
     {
-        // What was read may have been written by other hands in another form; the first save
-        // writes everything as the program does.
-        if (touched && m_isSerialized)
-            serializeTouched(project, *touched);
-        else
-            serializeAll(project);
-
         BundleSave save;
         save.bundlePath = m_bundlePath;
         save.workingFolder = m_workingFolder;
-        save.files = m_files;
-        save.readPaths = m_readPaths;
         save.known = m_known;
-        auto pending = std::make_unique<PendingBundleSave>(std::move(save), m_locations);
+        auto pending = std::make_unique<PendingBundleSave>(
+            std::move(save), touched ? serializeTouched(project, *touched) : serializeAll(project),
+            m_locations);
         pending->isNew = m_isNew;
         pending->carryFrom = m_carryFrom;
         return pending;
@@ -143,7 +225,7 @@ public:
 
     void finished(PendingSave &save, bool succeeded) override
     {
-        const auto &pending = static_cast<PendingBundleSave &>(save);
+        auto &pending = static_cast<PendingBundleSave &>(save);
         if (pending.isNew) {
             if (succeeded)
                 take(pending.opened);
@@ -153,62 +235,86 @@ public:
         }
         if (!succeeded)
             return;
-        m_readPaths.clear();
-        m_readPaths.reserve(qsizetype(pending.save.files.size()));
-        for (const ProjectFile &file : pending.save.files)
-            m_readPaths.append(file.path);
+        m_base = pending.written;
+        m_isOwnForm = true;
         m_carryFrom.clear();
     }
 
-private:
-    void serializeAll(const core::Project &project)
+    FilesSnapshot snapshot(const core::Project &project,
+                           const core::ChangeSet &touched) const override
     {
-        m_files.clear();
-        serializeProject(project, [this](const QString &path, const QByteArray &bytes) {
-            m_files.push_back({path, bytes});
-        });
-        std::sort(m_files.begin(), m_files.end(),
-                  [](const ProjectFile &a, const ProjectFile &b) { return a.path < b.path; });
-        m_isSerialized = true;
+        return [files = serializeTouched(project, touched)] { return files.compose(); };
     }
 
-    void serializeTouched(const core::Project &project, const core::ChangeSet &touched)
+    std::unique_ptr<PendingScan> prepareScan() const override
     {
+        return std::make_unique<PendingBundleScan>(m_bundlePath, m_known, m_base, m_workingFolder);
+    }
+
+    std::function<Result<>()> prepareAdoption(const OutsideState &state) const override
+    {
+        if (!state.bundle || state.media.isEmpty())
+            return [] { return Result<>(); };
+        return [path = m_bundlePath, sum = state.bundle->sha256, folder = m_workingFolder] {
+            return takeOverMedia(path, sum, folder);
+        };
+    }
+
+    void adopt(const OutsideState &state) override
+    {
+        if (!state.bundleFiles)
+            return;
+        m_base = state.bundleFiles;
+        m_isOwnForm = false;
+        m_known = *state.bundle;
+    }
+
+    void note(const OutsideState &state) override
+    {
+        if (state.bundle && state.bundle->sha256 == m_known.sha256)
+            m_known = *state.bundle;
+    }
+
+private:
+    BundleFiles serializeAll(const core::Project &project) const
+    {
+        BundleFiles files;
+        files.base = m_base;
+        files.isWhole = true;
+        serializeProject(project, [&files](const QString &path, const QByteArray &bytes) {
+            files.changes.insert_or_assign(path, bytes);
+        });
+        return files;
+    }
+
+    BundleFiles serializeTouched(const core::Project &project, const core::ChangeSet &touched) const
+    {
+        BundleFiles files;
+        files.base = m_base;
+        files.isOwnForm = m_isOwnForm;
         for (const auto &[id, change] : touched.objects()) {
             const core::ContentObject *object = project.find(id);
-            setFile(objectPath(id), object ? serializeObject(*object) : QByteArray());
+            files.changes.insert_or_assign(objectPath(id),
+                                           object ? serializeObject(*object) : QByteArray());
         }
         for (const auto &[id, change] : touched.categories()) {
             const core::Category *category = project.taxonomy().find(id);
-            setFile(categoryPath(id), category ? serializeCategory(*category) : QByteArray());
+            files.changes.insert_or_assign(categoryPath(id),
+                                           category ? serializeCategory(*category) : QByteArray());
         }
         if (touched.touchesAnyRecord())
-            setFile(recordsPath(), serializeProjectRecords(project));
-    }
-
-    /// No bytes take the file away.
-    void setFile(const QString &path, const QByteArray &bytes)
-    {
-        const auto place = std::lower_bound(m_files.begin(), m_files.end(), path, pathIsBefore);
-        const bool isThere = place != m_files.end() && place->path == path;
-        if (bytes.isEmpty()) {
-            if (isThere)
-                m_files.erase(place);
-        } else if (isThere) {
-            place->bytes = bytes;
-        } else {
-            m_files.insert(place, {path, bytes});
-        }
+            files.changes.insert_or_assign(recordsPath(), serializeProjectRecords(project));
+        return files;
     }
 
     StorageLocations m_locations;
     QString m_bundlePath;
     QString m_workingFolder;
     KnownBundle m_known;
-    ProjectFiles m_files; ///< by path, as the model is written; from the first save on
-    bool m_isSerialized = false;
-    QStringList m_readPaths;
-    QString m_carryFrom; ///< the folder to take assets from with the first save
+    /// The files as they were last read or written, by path.
+    std::shared_ptr<const ProjectFiles> m_base = std::make_shared<const ProjectFiles>();
+    bool m_isOwnForm = false; ///< the base is as the program writes it
+    QString m_carryFrom;      ///< the folder to take assets from with the first save
     bool m_isNew = true;
 };
 
@@ -227,12 +333,9 @@ Result<OpenedStore> openBundleStore(const QString &path)
                            .arg(project.message(), QDir::toNativeSeparators(opened->backupPath)));
     if (!project)
         return project.asFailure();
-    QStringList paths;
-    for (const ProjectFile &file : opened->files)
-        paths.append(file.path);
     auto store = std::make_unique<BundleProjectStore>(path);
     store->take(*opened);
-    store->setReadPaths(std::move(paths));
+    store->setBase(std::move(opened->files));
     return OpenedStore{std::move(store), *std::move(project)};
 }
 

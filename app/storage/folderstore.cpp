@@ -191,11 +191,14 @@ Result<std::unique_ptr<core::Project>> FolderStore::load(std::span<const Project
 void FolderStore::learn(std::span<const LoadedFile> files)
 {
     m_known.clear();
+    m_base.clear();
     m_strayObjects.clear();
     m_strayCategories.clear();
     m_known.reserve(qsizetype(files.size()));
+    m_base.reserve(qsizetype(files.size()));
     for (const LoadedFile &file : files) {
         m_known.insert(file.path, {file.stamp});
+        m_base.insert(file.path, file.bytes);
         if (file.id.isNull())
             continue;
         const bool isObject = file.path.startsWith(objectsFolder() + u'/');
@@ -294,16 +297,15 @@ FolderSave FolderStore::prepare(const core::Project &project, const core::Change
 
 void FolderStore::saved(const FolderSave &save)
 {
-    const auto dropStray = [](Strays &strays, const QString &path) {
-        std::erase_if(strays, [&path](const auto &stray) { return stray.second == path; });
-    };
-    for (const FolderSave::Target &target : save.removals) {
-        m_known.remove(target.path);
-        dropStray(m_strayObjects, target.path);
-        dropStray(m_strayCategories, target.path);
-    }
-    for (const FolderSave::Target &target : save.writes)
+    m_maybeOwn.clear();
+    for (const FolderSave::Target &target : save.removals)
+        forget(target.path);
+    for (const auto &[from, to] : save.renames)
+        forget(from);
+    for (const FolderSave::Target &target : save.writes) {
         m_known.insert(target.path, {FileStamp::of(target.bytes)});
+        m_base.insert(target.path, target.bytes);
+    }
 }
 
 void FolderStore::failed(const FolderSave &save)
@@ -312,17 +314,38 @@ void FolderStore::failed(const FolderSave &save)
         std::vector<FileStamp> stamps = target.known;
         append(stamps, {FileStamp::of(target.bytes)});
         m_known.insert(target.path, stamps);
+        m_maybeOwn.insert(target.path, target.bytes);
     }
+    for (const FolderSave::Target &target : save.removals)
+        m_maybeOwn.insert(target.path, QByteArray());
+    for (const auto &[from, to] : save.renames)
+        m_maybeOwn.insert(from, QByteArray());
 }
 
-void FolderStore::adopt(const QString &path, QByteArrayView bytes)
+void FolderStore::adopt(const QString &path, const core::ContentId &id, const QByteArray &bytes)
 {
+    forget(path);
     m_known.insert(path, {FileStamp::of(bytes)});
+    m_base.insert(path, bytes);
+    if (id.isNull())
+        return;
+    const bool isObject = path.startsWith(objectsFolder() + u'/');
+    if (path != (isObject ? objectPath(id) : categoryPath(id)))
+        (isObject ? m_strayObjects : m_strayCategories).insert_or_assign(id, path);
 }
 
 void FolderStore::forget(const QString &path)
 {
     m_known.remove(path);
+    m_base.remove(path);
+    m_maybeOwn.remove(path);
+    dropStrays(path);
+}
+
+void FolderStore::dropStrays(const QString &path)
+{
+    for (Strays *strays : {&m_strayObjects, &m_strayCategories})
+        std::erase_if(*strays, [&path](const auto &stray) { return stray.second == path; });
 }
 
 } // namespace vl::app

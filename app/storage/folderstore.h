@@ -3,6 +3,7 @@
 #include "app/base/files.h"
 #include "app/base/result.h"
 #include "app/storage/filestamp.h"
+#include "app/storage/outsidescan.h"
 #include "app/storage/projectfiles.h"
 #include "core/changeset.h"
 #include "core/project.h"
@@ -82,8 +83,14 @@ public:
     /// what was touched, and prepares it again.
     void failed(const FolderSave &save);
 
-    /// Notes what someone else left in a file, once the user's side has taken it over.
-    void adopt(const QString &path, QByteArrayView bytes);
+    /// What the known files held when they were last read or written.
+    const BaseFiles &base() const { return m_base; }
+    /// What failed saves may have written or, with null bytes, removed.
+    const BaseFiles &maybeOwn() const { return m_maybeOwn; }
+
+    /// Notes what someone else left in the file of an object, a category or, with a null id, the
+    /// records, once the user's side has taken it over.
+    void adopt(const QString &path, const core::ContentId &id, const QByteArray &bytes);
     /// Notes that someone else removed a file, once the user's side has followed.
     void forget(const QString &path);
 
@@ -91,6 +98,7 @@ private:
     using Strays = std::map<core::ContentId, QString>;
 
     void learn(std::span<const LoadedFile> files);
+    void dropStrays(const QString &path);
     std::vector<FileStamp> known(const QString &path) const { return m_known.value(path); }
     void addWrite(FolderSave &save, const QString &path, const QByteArray &bytes,
                   const Strays &strays, const core::ContentId &id) const;
@@ -98,6 +106,8 @@ private:
 
     QString m_folder;                               ///< absolute
     QHash<QString, std::vector<FileStamp>> m_known; ///< by relative path
+    BaseFiles m_base;
+    BaseFiles m_maybeOwn;
     Strays m_strayObjects;    ///< read from a file that another name than their id; its path
     Strays m_strayCategories; ///< the same
 };

@@ -50,7 +50,8 @@ void OpenProject::listen()
 {
     m_history.setListener([this](const core::ChangeSet &changes) {
         if (!changes.isEmpty()) {
-            m_unsaved.append(changes);
+            if (!std::exchange(m_nextIsOnDisk, false))
+                m_unsaved.append(changes);
             Q_EMIT changed(changes);
         }
         Q_EMIT historyChanged();
@@ -113,6 +114,7 @@ QString OpenProject::name() const
 std::unique_ptr<OpenProject::RunningSave> OpenProject::beginSave(ProjectStore &store,
                                                                  bool everything)
 {
+    ++m_filesGeneration;
     auto save = std::make_unique<RunningSave>(store);
     save->pending = store.prepare(*m_project, everything ? nullptr : &m_unsaved);
     save->touched = std::exchange(m_unsaved, {});
@@ -123,6 +125,7 @@ std::unique_ptr<OpenProject::RunningSave> OpenProject::beginSave(ProjectStore &s
 
 Result<> OpenProject::endSave(RunningSave &save, const Result<> &result)
 {
+    ++m_filesGeneration;
     save.store.finished(*save.pending, bool(result));
     if (!result) {
         save.touched.append(m_unsaved);
@@ -130,6 +133,7 @@ Result<> OpenProject::endSave(RunningSave &save, const Result<> &result)
         Q_EMIT saveFailed(result.message());
         return result;
     }
+    m_writesAnew = false;
     // Steps thrown away meanwhile may have been those that led to the saved state.
     m_history.setCleanIndex(save.branch == m_history.branch() ? save.cleanIndex : -1);
     Q_EMIT saved();
@@ -142,7 +146,10 @@ Result<> OpenProject::save(OutsideChanges outside)
     finishSaving();
     if (!m_store)
         return failure(tr("This project has no save location yet; use saveAs()."));
-    const std::unique_ptr<RunningSave> save = beginSave(*m_store, false);
+    if (m_writesAnew)
+        outside = OutsideChanges::Overwrite;
+    const std::unique_ptr<RunningSave> save =
+        beginSave(*m_store, outside == OutsideChanges::Overwrite);
     return endSave(*save, save->pending->commit(outside));
 }
 
@@ -158,7 +165,9 @@ void OpenProject::saveInBackground(OutsideChanges outside)
             m_next = outside;
         return;
     }
-    m_running = beginSave(*m_store, false);
+    if (m_writesAnew)
+        outside = OutsideChanges::Overwrite;
+    m_running = beginSave(*m_store, outside == OutsideChanges::Overwrite);
     connect(&m_running->watcher, &QFutureWatcherBase::finished, this,
             &OpenProject::backgroundSaveEnded);
     m_running->watcher.setFuture(QtConcurrent::run(
@@ -216,6 +225,8 @@ Result<> OpenProject::saveInto(std::unique_ptr<ProjectStore> store)
         store->finished(*save->pending, true);
         m_readOnly.reset();
         std::swap(m_store, store); // the old one goes at the end of this call
+        m_writesAnew = false;
+        ++m_filesGeneration;
         m_history.setClean();
         Q_EMIT saved();
         Q_EMIT locationChanged();

@@ -2,13 +2,17 @@
 
 #include "app/base/result.h"
 #include "app/storage/folderstore.h"
+#include "app/storage/outsidescan.h"
+#include "app/storage/reconcile.h"
 #include "core/commandstack.h"
 #include "core/project.h"
 
 #include <QtCore/QObject>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace vl::app {
 
@@ -67,6 +71,33 @@ public:
     Result<> saveAsBundle(const QString &path);
     Result<> saveAsFolder(const QString &folder);
 
+    /// Every file of the project as a save would leave it now, to be asked for on any thread. Only
+    /// for a project with a place.
+    std::function<ProjectFiles()> snapshot() const;
+
+    /// A look for what others did to the project's files, to be run on any thread; null without a
+    /// place.
+    std::unique_ptr<PendingScan> prepareScan() const;
+    /// Grows whenever the program itself may have changed or taken over files; what a look found
+    /// that was prepared before tells of the past.
+    quint64 filesGeneration() const { return m_filesGeneration; }
+    /// Takes note of what need not be told again: media, and files that were only touched.
+    void note(const OutsideState &state);
+    /// The three-way reconcile of what others changed with what the project would write now, in
+    /// path order. A merge that would be no valid file is a conflict here, to be settled by hand.
+    /// A sync client's second version of a file conflicts with the object that has its id.
+    std::vector<ReconcileEntry> reconcile(const OutsideState &state) const;
+    /// What has to be done, on any thread, before the outside changes are taken over.
+    std::function<Result<>()> prepareTakeOver(const OutsideState &state) const;
+    /// Brings the model to what the settled entries say, as one step of that name; entries that are
+    /// missing leave their files for later. When the model is on disk as it then is, the history is
+    /// clean there, otherwise dirty. The look must be of the present generation. Fails, changing
+    /// nothing, for entries in conflict and for results that are no valid files.
+    Result<> takeOver(const OutsideState &state, const std::vector<ReconcileEntry> &entries,
+                      const QString &stepName);
+    /// Keeps the model as it is: the next save writes it over what others left.
+    void keepOwn(const OutsideState &state);
+
 Q_SIGNALS:
     /// The model changed, by a push, an undo or a redo.
     void changed(const vl::core::ChangeSet &changes);
@@ -88,6 +119,8 @@ private:
     Result<> endSave(RunningSave &save, const Result<> &result);
     Result<> saveInto(std::unique_ptr<ProjectStore> store);
     void backgroundSaveEnded();
+    std::optional<QByteArray> localBytes(const OutsideFile &file) const;
+    void touch(const OutsideFile &file);
 
     std::unique_ptr<core::Project> m_project;
     core::CommandStack m_history; ///< goes before the project that its commands refer to
@@ -97,6 +130,9 @@ private:
     core::ChangeSet m_unsaved; ///< what changed since the files were last read or written
     std::unique_ptr<RunningSave> m_running; ///< the save that another thread carries out
     std::optional<OutsideChanges> m_next;   ///< another save was asked for meanwhile, like this
+    bool m_writesAnew = false;   ///< the next save writes all of it, where others removed it
+    bool m_nextIsOnDisk = false; ///< the step that comes next brings in what the disk holds
+    quint64 m_filesGeneration = 0;
 };
 
 } // namespace vl::app

@@ -50,6 +50,7 @@ struct ObjectSlot
 {
     std::unique_ptr<core::ContentObject> object;
     FileStamp stamp;
+    QByteArray bytes;
     QString message; ///< why there is no object
 };
 
@@ -71,7 +72,8 @@ public:
 private:
     static Result<std::vector<SourceFile>> list(const QString &folder, const QString &subfolder);
 
-    Result<JsonValue> readJson(JsonParser &parser, const SourceFile &file, FileStamp &stamp) const;
+    /// Reads and parses the file; `bytes` becomes what it holds.
+    Result<JsonValue> readJson(JsonParser &parser, const SourceFile &file, QByteArray &bytes) const;
     ObjectSlot readSlot(JsonParser &parser, const SourceFile &file) const;
     Result<> readObjects();
     Result<> readCategory(JsonParser &parser, const SourceFile &file);
@@ -209,15 +211,15 @@ Source ProjectReader::listFiles(const QString &folder, std::span<const ProjectFi
 }
 
 Result<JsonValue> ProjectReader::readJson(JsonParser &parser, const SourceFile &file,
-                                          FileStamp &stamp) const
+                                          QByteArray &bytes) const
 {
-    Result<QByteArray> bytes =
+    Result<QByteArray> read =
         file.bytes ? Result<QByteArray>(*file.bytes)
                    : readRegularFile(m_source.fullPath(file), tr("Cannot read file: %1"));
-    if (!bytes)
-        return bytes.asFailure();
-    stamp = FileStamp::of(*bytes);
-    const std::optional<JsonValue> json = parser.parseObject(*bytes);
+    if (!read)
+        return read.asFailure();
+    bytes = *std::move(read);
+    const std::optional<JsonValue> json = parser.parseObject(bytes);
     if (!json)
         return failure(withPath(tr("Invalid JSON in file: %1"), m_source.fullPath(file)));
     return *json;
@@ -226,11 +228,12 @@ Result<JsonValue> ProjectReader::readJson(JsonParser &parser, const SourceFile &
 ObjectSlot ProjectReader::readSlot(JsonParser &parser, const SourceFile &file) const
 {
     ObjectSlot slot;
-    const Result<JsonValue> json = readJson(parser, file, slot.stamp);
+    const Result<JsonValue> json = readJson(parser, file, slot.bytes);
     if (!json) {
         slot.message = json.message();
         return slot;
     }
+    slot.stamp = FileStamp::of(slot.bytes);
     slot.object = readObject(*json);
     if (!slot.object)
         slot.message = withPath(tr("Malformed object file: %1"), m_source.fullPath(file));
@@ -254,15 +257,16 @@ Result<> ProjectReader::readObjects()
         const core::ContentId id = slotList[i].object->id();
         if (!m_loaded.project->add(std::move(slotList[i].object)))
             return duplicate(id, m_source.objects[i]);
-        m_loaded.files.push_back({m_source.objects[i].path, id, slotList[i].stamp});
+        m_loaded.files.push_back(
+            {m_source.objects[i].path, id, slotList[i].stamp, std::move(slotList[i].bytes)});
     }
     return count < slotList.size() ? Result<>(failure(slotList[count].message)) : Result<>();
 }
 
 Result<> ProjectReader::readCategory(JsonParser &parser, const SourceFile &file)
 {
-    FileStamp stamp;
-    const Result<JsonValue> json = readJson(parser, file, stamp);
+    QByteArray bytes;
+    const Result<JsonValue> json = readJson(parser, file, bytes);
     if (!json)
         return json.asFailure();
     core::Category category;
@@ -276,18 +280,18 @@ Result<> ProjectReader::readCategory(JsonParser &parser, const SourceFile &file)
     }
     if (!m_loaded.project->editTaxonomy().add(category))
         return duplicate(category.id, file);
-    m_loaded.files.push_back({file.path, category.id, stamp});
+    m_loaded.files.push_back({file.path, category.id, FileStamp::of(bytes), bytes});
     return {};
 }
 
 Result<> ProjectReader::readRecords(JsonParser &parser, const SourceFile &file)
 {
-    FileStamp stamp;
-    const Result<JsonValue> json = readJson(parser, file, stamp);
+    QByteArray bytes;
+    const Result<JsonValue> json = readJson(parser, file, bytes);
     if (!json)
         return json.asFailure();
     readProjectRecords(*json, *m_loaded.project);
-    m_loaded.files.push_back({file.path, {}, stamp});
+    m_loaded.files.push_back({file.path, {}, FileStamp::of(bytes), bytes});
     return {};
 }
 
@@ -327,6 +331,19 @@ Result<LoadedProject> loadProjectFiles(const QString &folder)
 Result<LoadedProject> loadProjectFiles(const QString &folder, std::span<const ProjectFile> files)
 {
     return ProjectReader(ProjectReader::listFiles(folder, files)).load();
+}
+
+Result<QStringList> listReadPaths(const QString &folder)
+{
+    const Result<Source> source = ProjectReader::listFolder(folder);
+    if (!source)
+        return source.asFailure();
+    QStringList paths;
+    paths.reserve(qsizetype(source->objects.size() + source->categories.size() + 1));
+    for (const auto *files : {&source->objects, &source->categories, &source->records})
+        for (const SourceFile &file : *files)
+            paths.append(file.path);
+    return paths;
 }
 
 Result<std::unique_ptr<core::Project>> loadProject(const QString &folder)

@@ -17,6 +17,7 @@ struct LoadedFile
     QString path;       ///< relative to the project folder, with "/" as separator
     core::ContentId id; ///< of the object or category in it; null for the records
     FileStamp stamp;
+    QByteArray bytes;
 };
 
 struct LoadedProject
@@ -37,5 +38,9 @@ Result<std::unique_ptr<core::Project>> loadProject(const QString &folder,
 /// The same two, telling also which files were read.
 Result<LoadedProject> loadProjectFiles(const QString &folder);
 Result<LoadedProject> loadProjectFiles(const QString &folder, std::span<const ProjectFile> files);
+
+/// The paths, relative to the folder, of the files that a project in it is read from, in the order
+/// in which they are read.
+Result<QStringList> listReadPaths(const QString &folder);
 
 } // namespace vl::app

@@ -2,10 +2,14 @@
 
 #include "app/storage/bundleprojectstore.h"
 #include "app/storage/projectfolder.h"
+#include "app/storage/projectpaths.h"
+#include "app/storage/projectwriter.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+
+#include <algorithm>
 
 namespace vl::app {
 
@@ -27,16 +31,23 @@ struct StoreText
 class PendingFolderSave final : public PendingSave
 {
 public:
-    PendingFolderSave(FolderSave save, QString carryFrom)
+    PendingFolderSave(FolderSave save, QString carryFrom, bool isPart)
         : save(std::move(save))
         , m_carryFrom(std::move(carryFrom))
+        , m_isPart(isPart)
     {
     }
 
-    bool meetsOutsideChanges() const override { return !outsideChanges(save).empty(); }
+    bool meetsOutsideChanges() const override { return isGone() || !outsideChanges(save).empty(); }
 
     Result<> commit(OutsideChanges outside) override
     {
+        if (isGone() && outside == OutsideChanges::Refuse)
+            return QFileInfo(save.folder).isDir()
+                       ? failure(
+                           StoreText::tr("The project changed outside Ivorel since you opened it."))
+                       : failure(withPath(StoreText::tr("The project folder does not exist: %1"),
+                                          save.folder));
         // What the project refers to comes first, so that no saved project lacks its pictures.
         if (!m_carryFrom.isEmpty()) {
             if (Result<> carried = copyCarriedFiles(m_carryFrom, save.folder); !carried)
@@ -48,8 +59,50 @@ public:
     FolderSave save;
 
 private:
+    /// Whether a part of the project would be written where the rest of it is not: the folder was
+    /// moved away, or its disk is not mounted.
+    bool isGone() const
+    {
+        return m_isPart && !QFileInfo(save.folder + u'/' + recordsPath()).isFile();
+    }
+
     QString m_carryFrom;
+    bool m_isPart; ///< only what was touched since the project was read or saved here
 };
+
+class PendingFolderScan final : public PendingScan
+{
+public:
+    explicit PendingFolderScan(FolderScan scan)
+        : m_scan(std::move(scan))
+    {
+    }
+
+    OutsideState run() override { return scanFolder(m_scan); }
+
+private:
+    FolderScan m_scan;
+};
+
+/// The files with some of them put in, in place of those of the same path or of the other paths
+/// that a save would take away; in path order.
+ProjectFiles overlaid(const BaseFiles &base, const FolderSave &save)
+{
+    BaseFiles files = base;
+    for (const auto &[from, to] : save.renames)
+        files.remove(from);
+    for (const FolderSave::Target &target : save.removals)
+        files.remove(target.path);
+    for (const FolderSave::Target &target : save.writes)
+        files.insert(target.path, target.bytes);
+    ProjectFiles list;
+    list.reserve(std::size_t(files.size()));
+    for (auto file = files.cbegin(); file != files.cend(); ++file)
+        list.push_back({file.key(), file.value()});
+    std::sort(list.begin(), list.end(),
+              [](const ProjectFile &a, const ProjectFile &b) { return a.path < b.path; });
+    return list;
+}
 
 class FolderProjectStore final : public ProjectStore
 {
@@ -70,7 +123,8 @@ public:
                                          const core::ChangeSet *touched) override
     {
         return std::make_unique<PendingFolderSave>(
-            touched ? m_files.prepare(project, *touched) : m_files.prepare(project), m_carryFrom);
+            touched ? m_files.prepare(project, *touched) : m_files.prepare(project), m_carryFrom,
+            touched && m_files.base().contains(recordsPath()));
     }
 
     void finished(PendingSave &save, bool succeeded) override
@@ -84,8 +138,44 @@ public:
         m_carryFrom.clear();
     }
 
+    FilesSnapshot snapshot(const core::Project &project,
+                           const core::ChangeSet &touched) const override
+    {
+        return [base = m_files.base(), save = m_files.prepare(project, touched)] {
+            return overlaid(base, save);
+        };
+    }
+
+    std::unique_ptr<PendingScan> prepareScan() const override
+    {
+        return std::make_unique<PendingFolderScan>(
+            FolderScan{m_files.folder(), m_files.base(), m_files.maybeOwn(), m_media});
+    }
+
+    std::function<Result<>()> prepareAdoption(const OutsideState & /*state*/) const override
+    {
+        return [] { return Result<>(); };
+    }
+
+    void adopt(const OutsideState &state) override
+    {
+        for (const OutsideFile &file : state.files) {
+            if (file.remote)
+                m_files.adopt(file.path, file.id, *file.remote);
+            else
+                m_files.forget(file.path);
+        }
+    }
+
+    void note(const OutsideState &state) override
+    {
+        if (state.mediaStamps)
+            m_media = state.mediaStamps;
+    }
+
 private:
     FolderStore m_files;
+    std::shared_ptr<const MediaStamps> m_media; ///< null until they were looked at
     QString m_carryFrom; ///< the folder to take assets from with the first save
 };
 

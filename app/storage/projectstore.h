@@ -2,12 +2,17 @@
 
 #include "app/base/result.h"
 #include "app/storage/folderstore.h"
+#include "app/storage/outsidescan.h"
 #include "core/changeset.h"
 #include "core/project.h"
 
+#include <functional>
 #include <memory>
 
 namespace vl::app {
+
+/// Gives all files that the model is written as, by path; may be called once, on any thread.
+using FilesSnapshot = std::function<ProjectFiles()>;
 
 /// A save that was chosen and not yet carried out: only values, no part of the model.
 class PendingSave
@@ -48,6 +53,20 @@ public:
                                                  const core::ChangeSet *touched) = 0;
     /// Notes how the save ended. Pending saves end in the order in which they were prepared.
     virtual void finished(PendingSave &save, bool succeeded) = 0;
+
+    /// Every file of the project as a save would leave it now.
+    virtual FilesSnapshot snapshot(const core::Project &project,
+                                   const core::ChangeSet &touched) const = 0;
+
+    /// A look for what others did to the files.
+    virtual std::unique_ptr<PendingScan> prepareScan() const = 0;
+    /// What has to be done, on any thread, before what a look found is taken over.
+    virtual std::function<Result<>()> prepareAdoption(const OutsideState &state) const = 0;
+    /// Takes what a look found for what was last read: the model follows it, or is going to be
+    /// written over it.
+    virtual void adopt(const OutsideState &state) = 0;
+    /// Takes note of media that a look found, and of files that were touched and not changed.
+    virtual void note(const OutsideState &state) = 0;
 
 protected:
     ProjectStore() = default;

@@ -1,9 +1,12 @@
 #include "core/commands/codexcommands.h"
+#include "core/commands/documentcommands.h"
 #include "core/commands/objectcommands.h"
+#include "core/commands/replacecontents.h"
 #include "core/commands/workcommands.h"
 #include "core/commands/worldcommands.h"
 #include "core/commandstack.h"
 #include "tests/support/fingerprint.h"
+#include "tests/support/projectbuilder.h"
 #include "tests/support/randomvalues.h"
 
 #include <QtTest/QtTest>
@@ -105,6 +108,8 @@ private Q_SLOTS:
     void addObjectWithATakenId();
     void addNoObject();
     void removeObject();
+    void replacedContents();
+    void replacedContentsAndEarlierSteps();
     void pins();
     void fieldValues();
     void taskDone();
@@ -269,6 +274,63 @@ void TestOtherCommands::removeObject()
         checkWayBack(project, again);
         QVERIFY(again.changes().isEmpty());
         command.undo();
+    }
+}
+
+void TestOtherCommands::replacedContents()
+{
+    const std::unique_ptr<Project> full = fullProject(1);
+    Project &project = *full;
+    const std::unique_ptr<Project> other = fullProject(2);
+    NewContents contents;
+    ContentId gone = project.ids().front();
+    contents.goneObjects = {gone, ContentId::create()}; // one of them unknown
+    ChangeSet expected;
+    expected.touchObject(gone, ChangeSet::Change::Removed);
+    for (const ContentId &id : other->ids()) {
+        if (id == gone)
+            continue;
+        expected.touchObject(id, project.contains(id) ? ChangeSet::Change::Changed
+                                                      : ChangeSet::Change::Added);
+        contents.objects.push_back(other->take(id));
+    }
+    for (const ContentId &id : other->taxonomy().ids())
+        contents.categories.push_back(*other->taxonomy().find(id));
+    const auto added = ContentId::create();
+    contents.categories.push_back({added, QStringLiteral("Ships"), {}, {}});
+    contents.records = fullProject(2);
+    ReplaceContentsCommand command(project, std::move(contents), QStringLiteral("Merge"));
+    checkWayBack(project, command);
+    QCOMPARE(command.text(), QStringLiteral("Merge"));
+    QCOMPARE(command.changes().objects(), expected.objects());
+    QCOMPARE(command.changes().categories().at(added), ChangeSet::Change::Added);
+    QVERIFY(command.changes().touches(ProjectRecord::Calendar));
+    QCOMPARE(project.savedSearches(), fullProject(2)->savedSearches());
+}
+
+void TestOtherCommands::replacedContentsAndEarlierSteps()
+{
+    // A step made before refers to the object that was replaced; undone, it finds it again.
+    Project project;
+    CommandStack history;
+    history.push(std::make_unique<AddObjectCommand>(
+        project, std::make_unique<Document>(idOf(u'a'), DocumentKind::Prose, QStringLiteral("A"))));
+    history.push(std::make_unique<SetDocumentTitleCommand>(*project.find<Document>(idOf(u'a')),
+                                                           QStringLiteral("B")));
+    NewContents contents;
+    contents.objects.push_back(
+        std::make_unique<Document>(idOf(u'a'), DocumentKind::Prose, QStringLiteral("Theirs")));
+    history.push(std::make_unique<ReplaceContentsCommand>(project, std::move(contents), QString()));
+    history.push(std::make_unique<SetDocumentTitleCommand>(*project.find<Document>(idOf(u'a')),
+                                                           QStringLiteral("C")));
+    const auto title = [&] { return project.find<Document>(idOf(u'a'))->title(); };
+    for (const char *expected : {"Theirs", "B", "A"}) {
+        history.undo();
+        QCOMPARE(title(), QString::fromLatin1(expected));
+    }
+    for (const char *expected : {"B", "Theirs", "C"}) {
+        history.redo();
+        QCOMPARE(title(), QString::fromLatin1(expected));
     }
 }
 

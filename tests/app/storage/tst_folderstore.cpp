@@ -234,7 +234,7 @@ void TestFolderStore::storeNoticesOutsideChanges()
     QVERIFY(fileAt(path).contains("ours again"));
 
     put(path, theirs);
-    store.adopt(path, theirs);
+    store.adopt(path, numberedId(7), theirs);
     QVERIFY(outsideChanges(store.prepare(**loaded, changes)).empty());
 }
 
