@@ -139,6 +139,11 @@ Result<QString> Backups::addFolder(const QString &baseName, const QString &folde
     return add(baseName, *source);
 }
 
+Result<QString> Backups::addSource(const QString &baseName, const BundleSource &source) const
+{
+    return add(baseName, source);
+}
+
 Result<QString> Backups::addBytes(const QString &baseName, QByteArrayView bytes) const
 {
     return add(baseName, bytes);

@@ -27,6 +27,8 @@ public:
     /// Packs a project folder into a new backup, then drops the oldest beyond those kept; the path
     /// of the new one.
     Result<QString> addFolder(const QString &baseName, const QString &folder) const;
+    /// Packs what the source holds in the same way.
+    Result<QString> addSource(const QString &baseName, const BundleSource &source) const;
     /// Keeps these bytes as a backup in the same way.
     Result<QString> addBytes(const QString &baseName, QByteArrayView bytes) const;
     /// Moves a folder that cannot be packed in beside the backups, whole, where it stays; its new

@@ -1,6 +1,9 @@
 #include "app/storage/jsonmerge.h"
 
 #include "app/storage/linemerge.h"
+#include "app/storage/ownform.h"
+
+#include <QtCore/QJsonDocument>
 
 #include <set>
 
@@ -69,6 +72,25 @@ JsonMerge JsonMerge::merge(const QJsonObject &base, const QJsonObject &local,
         result.markedText.clear();
     }
     return result;
+}
+
+std::optional<QByteArray> mergeMembers(const QString &path, const QByteArray &base,
+                                       const QByteArray &local, const QByteArray &remote)
+{
+    const QJsonDocument documents[] = {QJsonDocument::fromJson(base),
+                                       QJsonDocument::fromJson(local),
+                                       QJsonDocument::fromJson(remote)};
+    for (const QJsonDocument &document : documents)
+        if (!document.isObject())
+            return std::nullopt;
+    const JsonMerge merged =
+        JsonMerge::merge(documents[0].object(), documents[1].object(), documents[2].object());
+    if (!merged.isClean())
+        return std::nullopt;
+    const QByteArray bytes = QJsonDocument(merged.object).toJson();
+    JsonParser parser;
+    const ProjectFile own = inOwnForm(parser, {path, bytes});
+    return own.path == path ? std::optional(own.bytes) : std::nullopt;
 }
 
 } // namespace vl::app

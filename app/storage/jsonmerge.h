@@ -1,8 +1,11 @@
 #pragma once
 
+#include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+
+#include <optional>
 
 namespace vl::app {
 
@@ -23,5 +26,10 @@ struct JsonMerge
     static JsonMerge merge(const QJsonObject &base, const QJsonObject &local,
                            const QJsonObject &remote);
 };
+
+/// The merge of a project's file in the program's own form; nothing when it is not clean, or would
+/// be no valid file of that path.
+std::optional<QByteArray> mergeMembers(const QString &path, const QByteArray &base,
+                                       const QByteArray &local, const QByteArray &remote);
 
 } // namespace vl::app

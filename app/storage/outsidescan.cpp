@@ -143,7 +143,7 @@ void scanMedia(OutsideState &state, const QString &folder,
         else
             stamp.sample = sampleOf(full);
         if (before && !(isKnown && known->sample == stamp.sample))
-            state.media.append(path);
+            (isKnown ? state.media : state.addedMedia).append(path);
         stamps->insert(path, stamp);
     }
     if (before) {
@@ -151,6 +151,7 @@ void scanMedia(OutsideState &state, const QString &folder,
             if (!stamps->contains(*known))
                 state.media.append(*known);
     }
+    state.media += state.addedMedia;
     state.media.sort();
     state.mediaStamps = std::move(stamps);
 }
@@ -158,6 +159,28 @@ void scanMedia(OutsideState &state, const QString &folder,
 } // namespace
 
 PendingScan::~PendingScan() = default;
+
+quint64 diskSignature(const QString &path)
+{
+    const auto signatureOf = [](const QString &file) {
+        const FileIdentity identity = FileIdentity::of(file);
+        return quint64(
+            qHashMulti(0, file, identity.node, identity.size, identity.modified, identity.changed));
+    };
+    if (!QFileInfo(path).isDir())
+        return signatureOf(path);
+    const Result<QStringList> listed = listReadPaths(path);
+    if (!listed)
+        return 0;
+    quint64 signature = 1;
+    for (const QString &file : *listed)
+        signature = signature * 31 + signatureOf(path + u'/' + file);
+    QDirIterator assets(path + u'/' + assetsFolder(), QDir::Files | QDir::NoSymLinks,
+                        QDirIterator::Subdirectories);
+    while (assets.hasNext())
+        signature += signatureOf(assets.next()); // in whatever order they come
+    return signature;
+}
 
 OutsideState scanFolder(const FolderScan &scan)
 {

@@ -30,6 +30,8 @@ struct OutsideFile
     bool isCopy = false; ///< it carries an id that another file has: a sync client's second version
     std::optional<QByteArray> base;
     std::optional<QByteArray> remote; ///< nothing when it is gone
+
+    bool operator==(const OutsideFile &) const = default;
 };
 
 /// Tells a media file from another without reading all of it.
@@ -57,7 +59,8 @@ struct OutsideState
     qsizetype knownFiles = 0;       ///< how many the project has here
     qsizetype goneFiles = 0;        ///< how many of them are gone
 
-    QStringList media; ///< media files that were added, replaced or removed, in order
+    QStringList media;      ///< media files that were added, replaced or removed, in order
+    QStringList addedMedia; ///< those of them that were not there before
     std::shared_ptr<const MediaStamps> mediaStamps; ///< of the media now; null when not looked at
 
     // Of a bundle alone:
@@ -75,6 +78,10 @@ struct OutsideState
         return place == Place::Missing || (knownFiles > 0 && goneFiles == knownFiles);
     }
 };
+
+/// Changes when a file of the project was touched: tells that a closer look is due, and nothing
+/// else. `path` is a project folder or a bundle.
+quint64 diskSignature(const QString &path);
 
 /// A look at the disk that was prepared: only values, no part of the model.
 class PendingScan

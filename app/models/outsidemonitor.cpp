@@ -1,0 +1,440 @@
+#include "app/models/outsidemonitor.h"
+
+#include "app/models/workspace.h"
+#include "app/storage/archive.h"
+#include "app/storage/jsonmerge.h"
+#include "app/storage/projectfolder.h"
+#include "app/storage/projectpaths.h"
+#include "app/storage/projectreader.h"
+#include "core/content/map.h"
+#include "core/content/media.h"
+
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QDirIterator>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+
+namespace vl::app {
+
+namespace {
+
+constexpr int patienceMilliseconds = 3000;
+constexpr int lookAgainMilliseconds = 300;
+
+/// What is put away before a decision is carried out; run on another thread.
+struct BackupWork
+{
+    Backups backups;
+    QString baseName;
+    QString path; ///< the folder or the bundle
+    bool isBundle = false;
+    QString folder;                         ///< where the media are
+    std::function<ProjectFiles()> ownFiles; ///< null when what is open needs no backup
+    bool keepsTheirs = false;               ///< what is on disk goes to a backup too
+
+    Result<> run() const;
+
+private:
+    std::vector<QByteArray> media() const;
+    Result<> add(ProjectFiles files, std::vector<QByteArray> paths) const;
+};
+
+std::vector<QByteArray> BackupWork::media() const
+{
+    std::vector<QByteArray> paths;
+    QDirIterator it(folder + u'/' + assetsFolder(), QDir::Files | QDir::NoSymLinks,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QByteArray path = it.next().mid(folder.size() + 1).toUtf8();
+        if (!isUnfinishedFileName(it.fileName()) && isSafeEntryName(path))
+            paths.push_back(path);
+    }
+    return paths;
+}
+
+Result<> BackupWork::add(ProjectFiles files, std::vector<QByteArray> paths) const
+{
+    const Result<BundleSource> source =
+        BundleSource::ofFiles(folder, std::move(paths), std::move(files));
+    if (!source)
+        return source.asFailure();
+    const Result<QString> added = backups.addSource(baseName, *source);
+    return added ? Result<>() : added.asFailure();
+}
+
+Result<> BackupWork::run() const
+{
+    if (ownFiles) {
+        if (const Result<> added = add(ownFiles(), media()); !added)
+            return added;
+    }
+    if (!keepsTheirs || !QFileInfo::exists(path))
+        return {};
+    if (isBundle) {
+        const Result<QByteArray> bytes =
+            readRegularFile(path, OutsideMonitor::tr("Could not open the project file: %1"));
+        const Result<QString> added =
+            bytes ? backups.addBytes(baseName, *bytes) : Result<QString>(bytes.asFailure());
+        return added ? Result<>() : added.asFailure();
+    }
+    const Result<QStringList> read = listReadPaths(path);
+    if (!read)
+        return read.asFailure();
+    std::vector<QByteArray> paths = media();
+    for (const QString &file : *read)
+        if (isSafeEntryName(file.toUtf8()))
+            paths.push_back(file.toUtf8());
+    ProjectFiles records; // a backup has some in any case
+    if (!read->contains(recordsPath()))
+        records.push_back({recordsPath(), QByteArrayLiteral("{}\n")});
+    return add(std::move(records), std::move(paths));
+}
+
+/// Whether the two looks found the same to decide on.
+bool isSameFinding(const OutsideState &a, const OutsideState &b)
+{
+    return a.place == b.place && a.files == b.files && a.unsettled == b.unsettled;
+}
+
+/// Whether the user settled a conflict in favour of something else than what is on disk.
+bool dropsTheirs(const std::vector<ReconcileEntry> &entries)
+{
+    return std::any_of(entries.begin(), entries.end(), [](const ReconcileEntry &entry) {
+        return (entry.localText || entry.remoteText) && entry.result != entry.remoteText;
+    });
+}
+
+/// The paths of the media that the objects of the project show.
+std::set<QString> shownMedia(const core::Project &project, core::ChangeSet *objects = nullptr,
+                             const QStringList *among = nullptr)
+{
+    std::set<QString> paths;
+    const auto add = [&](const core::ContentId &id, const QString &path) {
+        paths.insert(path);
+        if (objects && among && among->contains(path))
+            objects->touchObject(id, core::ChangeSet::Change::Changed);
+    };
+    for (const auto *media : project.all<core::Media>())
+        add(media->id(), media->assetPath());
+    for (const auto *map : project.all<core::Map>())
+        add(map->id(), map->imageAssetPath());
+    return paths;
+}
+
+} // namespace
+
+OutsideMonitor::OutsideMonitor(Workspace &workspace, StorageLocations locations, QObject *parent)
+    : QObject(parent)
+    , m_workspace(workspace)
+    , m_locations(std::move(locations))
+    , m_patience(patienceMilliseconds)
+{
+    m_patienceTimer.setSingleShot(true);
+    m_patienceTimer.setInterval(lookAgainMilliseconds);
+    connect(&m_patienceTimer, &QTimer::timeout, this, &OutsideMonitor::look);
+    connect(&m_watcher, &OutsideWatcher::stirred, this, &OutsideMonitor::look);
+    connect(&m_looking, &QFutureWatcherBase::finished, this, &OutsideMonitor::lookEnded);
+    connect(&m_deciding, &QFutureWatcherBase::finished, this, &OutsideMonitor::decisionPrepared);
+    connect(&workspace, &Workspace::projectReplaced, this, &OutsideMonitor::follow);
+    connect(&workspace, &Workspace::locationChanged, this, &OutsideMonitor::follow);
+    const auto saveEnded = [this] {
+        if (std::exchange(m_looksAgain, false))
+            m_watcher.stir();
+    };
+    connect(&workspace, &Workspace::saved, this, saveEnded);
+    connect(&workspace, &Workspace::saveFailed, this, saveEnded);
+    connect(&workspace, &Workspace::historyChanged, this, [this] {
+        if (m_offer.kind != OutsideOffer::Kind::None
+            && m_wasDirty != m_workspace.current().isDirty())
+            renewOffer();
+    });
+    follow();
+}
+
+OutsideMonitor::~OutsideMonitor()
+{
+    m_looking.waitForFinished();
+    m_deciding.waitForFinished();
+}
+
+void OutsideMonitor::follow()
+{
+    m_watcher.watch(m_workspace.current().path(), m_workspace.current().isBundle());
+    m_waitingSince.invalidate();
+    m_patienceTimer.stop();
+    m_state = {};
+    renewOffer();
+}
+
+void OutsideMonitor::check()
+{
+    m_workspace.flush();
+    m_isAsked = true;
+    look();
+}
+
+void OutsideMonitor::look()
+{
+    OpenProject &project = m_workspace.current();
+    if (m_looking.isRunning() || m_deciding.isRunning() || project.isSaving()) {
+        m_looksAgain = true;
+        return;
+    }
+    m_watcher.renew(); // before the look, so that what comes after it is noticed
+    std::shared_ptr<PendingScan> scan = project.prepareScan();
+    if (!scan) {
+        take({});
+        return;
+    }
+    m_looksAgain = false;
+    m_lookedGeneration = project.filesGeneration();
+    m_looking.setFuture(QtConcurrent::run([scan] { return scan->run(); }));
+}
+
+void OutsideMonitor::lookEnded()
+{
+    const OpenProject &project = m_workspace.current();
+    // What a save may have changed meanwhile, or another project, is no finding.
+    const bool isStale = project.isSaving() || m_lookedGeneration != project.filesGeneration()
+                         || m_watcher.path() != project.path();
+    if (isStale || m_looksAgain) {
+        m_looksAgain = project.isSaving();
+        if (!m_looksAgain)
+            m_watcher.stir();
+        if (isStale)
+            return;
+    }
+    OutsideState state = m_looking.result();
+    if (state.isUnchanged()
+        || (state.place == OutsideState::Place::There && state.unsettled.isEmpty()
+            && !state.hasVanished()))
+        m_waitingSince.invalidate();
+    else if (waits())
+        return;
+    take(std::move(state));
+}
+
+/// Half a file, or a folder that is being replaced, is waited for.
+bool OutsideMonitor::waits()
+{
+    if (!m_waitingSince.isValid())
+        m_waitingSince.start();
+    if (m_waitingSince.elapsed() >= m_patience)
+        return false;
+    m_patienceTimer.start();
+    return true;
+}
+
+void OutsideMonitor::take(OutsideState state)
+{
+    m_workspace.current().note(state);
+    tellMedia(state);
+    m_state = std::move(state);
+    const OutsideOffer before = m_offer;
+    renewOffer();
+    if (!std::exchange(m_isAsked, false))
+        return;
+    if (m_offer.kind == OutsideOffer::Kind::None)
+        Q_EMIT nothingFound();
+    else if (m_offer == before)
+        Q_EMIT offerChanged(); // it may have been put off
+}
+
+void OutsideMonitor::renewOffer()
+{
+    const OpenProject &project = m_workspace.current();
+    m_wasDirty = project.isDirty();
+    OutsideOffer offer;
+    if (!m_state.isUnchanged())
+        offer = OutsideOffer::of(m_state, entries(), m_wasDirty, project.path());
+    if (offer == m_offer)
+        return;
+    m_offer = std::move(offer);
+    Q_EMIT offerChanged();
+}
+
+std::vector<ReconcileEntry> OutsideMonitor::entries() const
+{
+    std::vector<ReconcileEntry> entries = m_workspace.current().reconcile(m_state);
+    for (ReconcileEntry &entry : entries) {
+        if (entry.state != ReconcileState::ConflictEdited)
+            continue;
+        const auto file =
+            std::find_if(m_state.files.begin(), m_state.files.end(),
+                         [&entry](const OutsideFile &f) { return f.path == entry.path; });
+        if (file == m_state.files.end() || !file->base)
+            continue;
+        const std::optional<QByteArray> merged = mergeMembers(
+            entry.path, *file->base, entry.localText->toUtf8(), entry.remoteText->toUtf8());
+        if (merged)
+            entry.takeText(QString::fromUtf8(*merged));
+    }
+    return entries;
+}
+
+bool OutsideMonitor::removesMuch() const
+{
+    constexpr qsizetype fewFiles = 4;
+    return m_state.goneFiles > fewFiles && m_state.goneFiles * 2 > m_state.knownFiles;
+}
+
+void OutsideMonitor::merge()
+{
+    m_workspace.flush();
+    std::vector<ReconcileEntry> settled = entries();
+    if (std::any_of(settled.begin(), settled.end(),
+                    [](const ReconcileEntry &entry) { return isConflict(entry.state); })) {
+        Q_EMIT needsReview();
+        return;
+    }
+    m_decided = std::move(settled);
+    decide(Decision::Merge);
+}
+
+void OutsideMonitor::apply(const std::vector<ReconcileEntry> &entries)
+{
+    m_decided = entries;
+    decide(Decision::Merge);
+}
+
+void OutsideMonitor::decide(Decision decision)
+{
+    OpenProject &project = m_workspace.current();
+    if (m_deciding.isRunning() || !project.hasLocation())
+        return;
+    if (project.history().isGroupOpen()) {
+        Q_EMIT failed(tr("Something else is being done to the project; try again."));
+        return;
+    }
+    // What is not there cannot be loaded, least of all as the removal of everything.
+    if (decision != Decision::Keep
+        && (m_state.hasVanished() || m_state.place != OutsideState::Place::There)) {
+        Q_EMIT failed(m_offer.text);
+        return;
+    }
+    const qsizetype steps = project.history().undoCount();
+    m_workspace.flush();
+    project.finishSaving();
+    m_looking.waitForFinished();
+    if (decision == Decision::Load) {
+        m_decided = entries();
+        if (std::any_of(m_decided.begin(), m_decided.end(),
+                        [](const ReconcileEntry &entry) { return isConflict(entry.state); })) {
+            Q_EMIT needsReview();
+            return;
+        }
+    } else if (decision == Decision::Merge && steps != project.history().undoCount()) {
+        Q_EMIT needsReview(); // words came in that the decision does not know of
+        return;
+    }
+    m_decision = decision;
+    m_decidedAt = project.history().undoCount();
+    m_lookedGeneration = project.filesGeneration();
+
+    BackupWork backup{m_locations.backups(),
+                      bundleBaseName(project.path()),
+                      project.path(),
+                      project.isBundle(),
+                      project.folder(),
+                      {},
+                      false};
+    const bool isKeep = decision == Decision::Keep;
+    if (!isKeep)
+        backup.ownFiles = project.snapshot();
+    backup.keepsTheirs = isKeep || dropsTheirs(m_decided);
+    std::shared_ptr<PendingScan> scan = project.prepareScan();
+    m_deciding.setFuture(QtConcurrent::run(
+        [scan, backup, isKeep, expected = m_state, prepare = project.prepareTakeOver(m_state)] {
+            Prepared prepared{scan->run(), {}};
+            if (!isSameFinding(prepared.state, expected))
+                return prepared;
+            Result<> done = backup.run();
+            if (done && !isKeep)
+                done = prepare();
+            if (!done)
+                prepared.fault = done.message();
+            return prepared;
+        }));
+}
+
+void OutsideMonitor::decisionPrepared()
+{
+    m_workspace.flush();
+    OpenProject &project = m_workspace.current();
+    Prepared prepared = m_deciding.result();
+    const bool isSame = isSameFinding(prepared.state, m_state)
+                        && m_lookedGeneration == project.filesGeneration()
+                        && m_decidedAt == project.history().undoCount() && !project.isSaving();
+    if (!isSame) {
+        Q_EMIT failed(tr("The project changed again meanwhile; look at the changes once more."));
+        m_watcher.stir();
+        return;
+    }
+    if (!prepared.fault.isEmpty()) {
+        Q_EMIT failed(prepared.fault);
+        return;
+    }
+    m_state = std::move(prepared.state);
+    carryOut();
+}
+
+void OutsideMonitor::carryOut()
+{
+    OpenProject &project = m_workspace.current();
+    QString message;
+    if (m_decision == Decision::Keep) {
+        project.keepOwn(m_state);
+        message = OutsideOffer::keptText();
+    } else {
+        const bool isLoad = m_decision == Decision::Load && !project.isDirty();
+        const Result<> taken = project.takeOver(
+            m_state, m_decided, isLoad ? tr("Load on-disk version") : tr("Merge on-disk changes"));
+        if (!taken) {
+            Q_EMIT failed(taken.message());
+            return;
+        }
+        message = isLoad ? OutsideOffer::loadedText() : OutsideOffer::mergedText();
+        if (!m_state.media.isEmpty())
+            reloadMedia();
+        if (project.isDirty())
+            project.saveInBackground();
+    }
+    m_decided.clear();
+    m_state = {};
+    m_isAsked = false;
+    renewOffer();
+    m_watcher.stir(); // second versions of a file come after the first
+    Q_EMIT done(message);
+}
+
+void OutsideMonitor::tellMedia(const OutsideState &state)
+{
+    if (m_workspace.current().isBundle())
+        return; // they come with the rest of the bundle
+    // What the open project itself shows and was not there before is its own import.
+    const std::set<QString> shown = shownMedia(m_workspace.project());
+    QStringList changed;
+    for (const QString &path : state.media)
+        if (!shown.contains(path) || !state.addedMedia.contains(path))
+            changed.append(path);
+    if (changed.isEmpty())
+        return;
+    m_changedMedia += changed;
+    m_changedMedia.removeDuplicates();
+    Q_EMIT mediaChanged(int(m_changedMedia.size()));
+}
+
+void OutsideMonitor::reloadMedia()
+{
+    const QStringList media = m_changedMedia + m_state.media;
+    core::ChangeSet changes;
+    shownMedia(m_workspace.project(), &changes, &media);
+    m_changedMedia.clear();
+    if (!changes.isEmpty())
+        Q_EMIT m_workspace.changed(changes);
+}
+
+} // namespace vl::app

@@ -1,0 +1,118 @@
+#include "app/models/outsidewatcher.h"
+
+#include "app/storage/outsidescan.h"
+#include "app/storage/projectpaths.h"
+
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+namespace vl::app {
+
+namespace {
+
+constexpr int quietMilliseconds = 400;
+constexpr int longestWait = 3000; ///< while it does not get quiet
+constexpr int askingMilliseconds = 5000;
+constexpr int idleFactor = 100; ///< asking takes no more than this part of the time
+
+} // namespace
+
+OutsideWatcher::OutsideWatcher(QObject *parent)
+    : QObject(parent)
+    , m_askingInterval(askingMilliseconds)
+{
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(quietMilliseconds);
+    m_asking.setSingleShot(true);
+    m_asking.setTimerType(Qt::VeryCoarseTimer);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &OutsideWatcher::stir);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &OutsideWatcher::stir);
+    connect(&m_quiet, &QTimer::timeout, this, [this] {
+        m_sinceFirst.invalidate();
+        Q_EMIT stirred();
+    });
+    connect(&m_asking, &QTimer::timeout, this, &OutsideWatcher::askForTouched);
+    connect(&m_answer, &QFutureWatcherBase::finished, this, &OutsideWatcher::takeSignature);
+}
+
+OutsideWatcher::~OutsideWatcher()
+{
+    m_answer.waitForFinished();
+}
+
+void OutsideWatcher::watch(const QString &path, bool isBundle)
+{
+    m_path = path;
+    m_isBundle = isBundle;
+    m_signature = 0;
+    m_quiet.stop();
+    m_sinceFirst.invalidate();
+    m_asking.stop();
+    renew();
+    askForTouched();
+}
+
+void OutsideWatcher::setDelays(int quiet, int asking)
+{
+    m_quiet.setInterval(quiet);
+    m_askingInterval = asking;
+    if (m_asking.isActive())
+        m_asking.start(asking);
+}
+
+void OutsideWatcher::renew()
+{
+    for (const QStringList &old : {m_watcher.directories(), m_watcher.files()})
+        if (!old.isEmpty())
+            m_watcher.removePaths(old);
+    if (m_path.isEmpty())
+        return;
+    QStringList paths;
+    // The folder around it tells when the whole project is replaced.
+    const QString parent = QFileInfo(m_path).absolutePath();
+    for (const QString &path :
+         m_isBundle ? QStringList{parent, m_path}
+                    : QStringList{parent, m_path, m_path + u'/' + objectsFolder(),
+                                  m_path + u'/' + taxonomyFolder(), m_path + u'/' + assetsFolder(),
+                                  m_path + u'/' + recordsPath()})
+        if (QFileInfo::exists(path))
+            paths.append(path);
+    if (!paths.isEmpty())
+        m_watcher.addPaths(paths);
+}
+
+void OutsideWatcher::stir()
+{
+    if (m_path.isEmpty())
+        return;
+    if (!m_sinceFirst.isValid())
+        m_sinceFirst.start();
+    if (!m_quiet.isActive() || m_sinceFirst.elapsed() < longestWait)
+        m_quiet.start();
+}
+
+void OutsideWatcher::askForTouched()
+{
+    if (m_path.isEmpty() || m_answer.isRunning())
+        return;
+    m_sinceAsked.start();
+    m_askedPath = m_path;
+    m_answer.setFuture(QtConcurrent::run([path = m_path] { return diskSignature(path); }));
+}
+
+void OutsideWatcher::takeSignature()
+{
+    if (m_path != m_askedPath) {
+        askForTouched(); // the answer is about another project
+        return;
+    }
+    if (m_path.isEmpty())
+        return;
+    const quint64 before = std::exchange(m_signature, m_answer.result());
+    if (before != m_signature)
+        stir(); // the first time too: what came before the first answer is seen by the look
+    m_asking.start(std::max(m_askingInterval, int(m_sinceAsked.elapsed()) * idleFactor));
+}
+
+} // namespace vl::app
