@@ -99,12 +99,23 @@ bool isSameFinding(const OutsideState &a, const OutsideState &b)
     return a.place == b.place && a.files == b.files && a.unsettled == b.unsettled;
 }
 
-/// Whether the user settled a conflict in favour of something else than what is on disk.
+/// Whether something else than what is on disk comes out somewhere.
 bool dropsTheirs(const std::vector<ReconcileEntry> &entries)
 {
     return std::any_of(entries.begin(), entries.end(), [](const ReconcileEntry &entry) {
-        return (entry.localText || entry.remoteText) && entry.result != entry.remoteText;
+        return entry.remoteText && (isDeletion(entry.state) || entry.result != entry.remoteText);
     });
+}
+
+/// Whether the decided entries are about the same versions of the same files as the fresh ones.
+bool isAboutTheSame(const std::vector<ReconcileEntry> &decided,
+                    const std::vector<ReconcileEntry> &fresh)
+{
+    return std::equal(decided.begin(), decided.end(), fresh.begin(), fresh.end(),
+                      [](const ReconcileEntry &a, const ReconcileEntry &b) {
+                          return a.path == b.path && a.localText == b.localText
+                                 && a.remoteText == b.remoteText;
+                      });
 }
 
 /// The paths of the media that the objects of the project show.
@@ -297,6 +308,8 @@ void OutsideMonitor::merge()
 void OutsideMonitor::apply(const std::vector<ReconcileEntry> &entries)
 {
     m_decided = entries;
+    std::sort(m_decided.begin(), m_decided.end(),
+              [](const ReconcileEntry &a, const ReconcileEntry &b) { return a.path < b.path; });
     decide(Decision::Merge);
 }
 
@@ -315,7 +328,6 @@ void OutsideMonitor::decide(Decision decision)
         Q_EMIT failed(m_offer.text);
         return;
     }
-    const qsizetype steps = project.history().undoCount();
     m_workspace.flush();
     project.finishSaving();
     m_looking.waitForFinished();
@@ -326,12 +338,8 @@ void OutsideMonitor::decide(Decision decision)
             Q_EMIT needsReview();
             return;
         }
-    } else if (decision == Decision::Merge && steps != project.history().undoCount()) {
-        Q_EMIT needsReview(); // words came in that the decision does not know of
-        return;
     }
     m_decision = decision;
-    m_decidedAt = project.history().undoCount();
     m_lookedGeneration = project.filesGeneration();
 
     BackupWork backup{m_locations.backups(),
@@ -365,9 +373,10 @@ void OutsideMonitor::decisionPrepared()
     m_workspace.flush();
     OpenProject &project = m_workspace.current();
     Prepared prepared = m_deciding.result();
-    const bool isSame = isSameFinding(prepared.state, m_state)
-                        && m_lookedGeneration == project.filesGeneration()
-                        && m_decidedAt == project.history().undoCount() && !project.isSaving();
+    const bool isSame =
+        isSameFinding(prepared.state, m_state) && m_lookedGeneration == project.filesGeneration()
+        && !project.isSaving() && !project.history().isGroupOpen()
+        && (m_decision == Decision::Keep || isAboutTheSame(m_decided, project.reconcile(m_state)));
     if (!isSame) {
         Q_EMIT failed(tr("The project changed again meanwhile; look at the changes once more."));
         m_watcher.stir();

@@ -59,7 +59,8 @@ public Q_SLOTS:
     void load() { decide(Decision::Load); }
     /// Merges and saves; asks for needsReview() when there are conflicts.
     void merge();
-    /// Merges with these settled entries and saves.
+    /// Merges with these settled entries, which are those of entries(), and saves. When they are
+    /// not about what is there any more, on disk or in the window, nothing is done.
     void apply(const std::vector<vl::app::ReconcileEntry> &entries);
     /// Keeps what is open; what others left goes to a backup.
     void keepMine() { decide(Decision::Keep); }
@@ -121,7 +122,6 @@ private:
     QFutureWatcher<Prepared> m_deciding;
     Decision m_decision = Decision::Load;
     std::vector<ReconcileEntry> m_decided;
-    qsizetype m_decidedAt = 0; ///< how many steps the history had at the decision
     bool m_wasDirty = false;
     QStringList m_changedMedia; ///< since they were last shown anew
 };

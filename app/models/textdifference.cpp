@@ -70,4 +70,60 @@ std::vector<DifferenceLine> differenceLines(const QString &before, const QString
     return lines;
 }
 
+WordDifference wordDifference(const QString &before, const QString &after)
+{
+    const auto wordsOf = [](const QString &line) {
+        QStringList words;
+        qsizetype begin = 0;
+        for (qsizetype i = 1; i <= line.size(); ++i) {
+            const bool isInside =
+                i < line.size() && line[i].isLetterOrNumber() && line[i - 1].isLetterOrNumber();
+            const bool isPair = i < line.size() && line[i].isLowSurrogate();
+            if (isInside || isPair)
+                continue;
+            words.append(line.mid(begin, i - begin));
+            begin = i;
+        }
+        return words;
+    };
+    const QStringList old = wordsOf(before);
+    const QStringList changed = wordsOf(after);
+    QHash<QString, int> numbers;
+    const std::vector<int> base = numbered(old, numbers);
+    const std::vector<int> side = numbered(changed, numbers);
+
+    WordDifference difference;
+    qsizetype kept = 0; // characters that both have
+    const auto add = [](std::vector<TextRun> &runs, const QStringList &words, int begin, int end,
+                        qsizetype position) {
+        qsizetype length = 0;
+        for (int i = begin; i < end; ++i)
+            length += words.at(i).size();
+        if (length > 0)
+            runs.push_back({position, length});
+        return length;
+    };
+    qsizetype oldAt = 0;
+    qsizetype newAt = 0;
+    int done = 0;
+    const auto pass = [&](int end) {
+        for (; done < end; ++done) {
+            oldAt += old.at(done).size();
+            newAt += old.at(done).size();
+            kept += old.at(done).trimmed().size();
+        }
+    };
+    for (const LineHunk &hunk : diffLines(base, side, int(numbers.size()))) {
+        pass(hunk.baseBegin);
+        oldAt += add(difference.removed, old, hunk.baseBegin, hunk.baseEnd, oldAt);
+        newAt += add(difference.added, changed, hunk.sideBegin, hunk.sideEnd, newAt);
+        done = hunk.baseEnd;
+    }
+    pass(int(old.size()));
+    constexpr qsizetype least = 4; // so that a quarter of the longer line is common
+    if (kept * least < std::max(before.size(), after.size()))
+        return {};
+    return difference;
+}
+
 } // namespace vl::app

@@ -28,4 +28,22 @@ struct DifferenceLine
 std::vector<DifferenceLine> differenceLines(const QString &before, const QString &after,
                                             int context = -1);
 
+/// A run of characters of a line, in UTF-16 units.
+struct TextRun
+{
+    qsizetype position = 0;
+    qsizetype length = 0;
+
+    bool operator==(const TextRun &) const = default;
+};
+
+/// What differs within two lines, word by word: the runs of the first that went and those of the
+/// second that came. Lines that have next to nothing in common differ as a whole and give none.
+struct WordDifference
+{
+    std::vector<TextRun> removed;
+    std::vector<TextRun> added;
+};
+WordDifference wordDifference(const QString &before, const QString &after);
+
 } // namespace vl::app

@@ -85,7 +85,8 @@ public:
     void note(const OutsideState &state);
     /// The three-way reconcile of what others changed with what the project would write now, in
     /// path order. A merge that would be no valid file is a conflict here, to be settled by hand.
-    /// A sync client's second version of a file conflicts with the object that has its id.
+    /// A sync client's second version of a file conflicts with the object that has its id. Entries
+    /// that are no conflicts carry both sides too.
     std::vector<ReconcileEntry> reconcile(const OutsideState &state) const;
     /// What has to be done, on any thread, before the outside changes are taken over.
     std::function<Result<>()> prepareTakeOver(const OutsideState &state) const;

@@ -82,6 +82,11 @@ struct Sides
     }
 };
 
+std::optional<QString> textOf(const std::optional<QByteArray> &bytes)
+{
+    return bytes ? std::optional(QString::fromUtf8(*bytes)) : std::nullopt;
+}
+
 /// Whether the entry's result can stand in its file.
 bool isSound(JsonParser &parser, const ReconcileEntry &entry)
 {
@@ -147,10 +152,11 @@ std::vector<ReconcileEntry> OpenProject::reconcile(const OutsideState &state) co
             if (!isConflict(entry.state) && !isSound(parser, entry)) {
                 entry.conflictText = *entry.result;
                 entry.state = ReconcileState::ConflictEdited;
-                entry.localText = QString::fromUtf8(*sides.local);
-                entry.remoteText = QString::fromUtf8(*sides.remote);
             }
         }
+        // Both sides come along, so that the user may decide otherwise.
+        entry.localText = textOf(sides.local);
+        entry.remoteText = textOf(sides.remote);
         entries.push_back(std::move(entry));
     }
     return entries;

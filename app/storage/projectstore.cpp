@@ -2,8 +2,6 @@
 
 #include "app/storage/bundleprojectstore.h"
 #include "app/storage/projectfolder.h"
-#include "app/storage/projectpaths.h"
-#include "app/storage/projectwriter.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -31,23 +29,16 @@ struct StoreText
 class PendingFolderSave final : public PendingSave
 {
 public:
-    PendingFolderSave(FolderSave save, QString carryFrom, bool isPart)
+    PendingFolderSave(FolderSave save, QString carryFrom)
         : save(std::move(save))
         , m_carryFrom(std::move(carryFrom))
-        , m_isPart(isPart)
     {
     }
 
-    bool meetsOutsideChanges() const override { return isGone() || !outsideChanges(save).empty(); }
+    bool meetsOutsideChanges() const override { return !outsideChanges(save).empty(); }
 
     Result<> commit(OutsideChanges outside) override
     {
-        if (isGone() && outside == OutsideChanges::Refuse)
-            return QFileInfo(save.folder).isDir()
-                       ? failure(
-                           StoreText::tr("The project changed outside Ivorel since you opened it."))
-                       : failure(withPath(StoreText::tr("The project folder does not exist: %1"),
-                                          save.folder));
         // What the project refers to comes first, so that no saved project lacks its pictures.
         if (!m_carryFrom.isEmpty()) {
             if (Result<> carried = copyCarriedFiles(m_carryFrom, save.folder); !carried)
@@ -59,15 +50,7 @@ public:
     FolderSave save;
 
 private:
-    /// Whether a part of the project would be written where the rest of it is not: the folder was
-    /// moved away, or its disk is not mounted.
-    bool isGone() const
-    {
-        return m_isPart && !QFileInfo(save.folder + u'/' + recordsPath()).isFile();
-    }
-
     QString m_carryFrom;
-    bool m_isPart; ///< only what was touched since the project was read or saved here
 };
 
 class PendingFolderScan final : public PendingScan
@@ -123,8 +106,7 @@ public:
                                          const core::ChangeSet *touched) override
     {
         return std::make_unique<PendingFolderSave>(
-            touched ? m_files.prepare(project, *touched) : m_files.prepare(project), m_carryFrom,
-            touched && m_files.base().contains(recordsPath()));
+            touched ? m_files.prepare(project, *touched) : m_files.prepare(project), m_carryFrom);
     }
 
     void finished(PendingSave &save, bool succeeded) override

@@ -5,7 +5,8 @@
 namespace vl::desktop {
 
 /// Shows what became of a text: lines that went are marked "−", lines that came "+", each on a
-/// ground of its own; same lines far from a difference are left out.
+/// ground of its own; within a changed line the words that differ are underlined on a stronger one.
+/// Same lines far from a difference are left out.
 class DifferenceView final : public QPlainTextEdit
 {
     Q_OBJECT

@@ -65,7 +65,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
     connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
-    m_safeKeeping = std::make_unique<SafeKeeping>(m_workspace);
+    m_safeKeeping = std::make_unique<SafeKeeping>(
+        PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, this);
     m_care = std::make_unique<ProjectCare>(
         PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, m_flows, this);
     updateTitle();

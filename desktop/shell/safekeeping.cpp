@@ -1,14 +1,48 @@
 #include "desktop/shell/safekeeping.h"
 
 #include "app/models/autosavecontroller.h"
+#include "app/models/prompts.h"
 #include "app/models/workspace.h"
+#include "desktop/actions/actionregistry.h"
+#include "desktop/dialogs/externalchangesdialog.h"
+#include "desktop/shell/notices.h"
+
+#include <QtGui/QGuiApplication>
 
 namespace vl::desktop {
 
-SafeKeeping::SafeKeeping(app::Workspace &workspace)
-    : m_workspace(workspace)
+namespace {
+
+const QString outsideNotice = QStringLiteral("outsideChanges");
+const QString mediaNotice = QStringLiteral("outsideMedia");
+
+} // namespace
+
+SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
+    : m_context(context)
+    , m_window(window)
+    , m_outside(context.workspace)
 {
-    connect(&workspace, &app::Workspace::projectReplaced, this, &SafeKeeping::followProject);
+    connect(&context.workspace, &app::Workspace::projectReplaced, this,
+            &SafeKeeping::followProject);
+    connect(&m_outside, &app::OutsideMonitor::offerChanged, this, &SafeKeeping::showOffer);
+    connect(&m_outside, &app::OutsideMonitor::nothingFound, this, [this] {
+        m_isAsked = false;
+        m_context.notices.show(app::OutsideOffer::nothingText());
+    });
+    connect(&m_outside, &app::OutsideMonitor::needsReview, this, &SafeKeeping::review);
+    connect(&m_outside, &app::OutsideMonitor::done, this, &SafeKeeping::tell);
+    connect(&m_outside, &app::OutsideMonitor::failed, this, [this](const QString &message) {
+        m_context.prompts.showError(tr("External Changes"), message);
+    });
+    connect(&m_outside, &app::OutsideMonitor::mediaChanged, this, &SafeKeeping::askAboutMedia);
+    context.actions.bind("file.checkExternal", this, &SafeKeeping::check);
+    // Who comes back to the window from another program may have changed something there.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    m_outside.lookSoon();
+            });
     followProject();
 }
 
@@ -16,10 +50,123 @@ SafeKeeping::~SafeKeeping() = default;
 
 void SafeKeeping::followProject()
 {
-    m_autosave = std::make_unique<app::AutosaveController>(m_workspace.current());
-    connect(m_autosave.get(), &app::AutosaveController::aboutToSave, &m_workspace,
+    m_autosave = std::make_unique<app::AutosaveController>(m_context.workspace.current());
+    connect(m_autosave.get(), &app::AutosaveController::aboutToSave, &m_context.workspace,
             &app::Workspace::flush);
     m_autosave->start();
+    m_context.notices.withdraw(mediaNotice);
+}
+
+void SafeKeeping::check()
+{
+    if (!m_context.workspace.current().hasLocation()) {
+        m_context.notices.show(tr("The project is not saved yet: there is nothing on disk to "
+                                  "compare it with."));
+        return;
+    }
+    m_isAsked = true;
+    m_outside.check();
+}
+
+void SafeKeeping::showOffer()
+{
+    const app::OutsideOffer &offer = m_outside.offer();
+    using Kind = app::OutsideOffer::Kind;
+    if (offer.kind == Kind::None) {
+        m_context.notices.withdraw(outsideNotice);
+        return;
+    }
+    askAbout(offer);
+    const bool canReview =
+        offer.kind == Kind::Notice || offer.kind == Kind::Merge || offer.kind == Kind::WholeProject;
+    if (std::exchange(m_isAsked, false) && canReview)
+        review();
+}
+
+void SafeKeeping::askAbout(const app::OutsideOffer &offer)
+{
+    using Kind = app::OutsideOffer::Kind;
+    QList<NoticeAction> answers;
+    const NoticeAction compare{tr("&Compare…"), [this] { review(); }};
+    const NoticeAction keep{tr("&Keep My Version"), [this] { m_outside.keepMine(); }};
+    switch (offer.kind) {
+    case Kind::None:
+        break;
+    case Kind::Notice:
+    case Kind::WholeProject:
+        if (offer.conflicts == 0)
+            answers.append({tr("&Load On-Disk Version"), [this] { load(); }});
+        answers += {compare, keep};
+        break;
+    case Kind::Merge:
+        if (offer.conflicts == 0)
+            answers.append({tr("&Merge and Reload"), [this] { merge(); }});
+        answers += {compare, keep};
+        break;
+    case Kind::Vanished:
+        answers = {{tr("Save &As…"), [this] { m_context.actions["file.saveAs"]->trigger(); }},
+                   keep};
+        break;
+    case Kind::Unreadable:
+        answers = {{tr("&Check Again"), [this] { check(); }}};
+        break;
+    }
+    const QString text = offer.advice.isEmpty() ? offer.text : offer.text + u'\n' + offer.advice;
+    m_context.notices.ask(outsideNotice, text, answers);
+}
+
+void SafeKeeping::askAboutMedia(int files)
+{
+    m_context.notices.ask(mediaNotice, app::OutsideOffer::mediaText(files),
+                          {{tr("&Reload Media"), [this] {
+                                m_outside.reloadMedia();
+                                m_context.notices.show(app::OutsideOffer::mediaReloadedText());
+                            }}});
+}
+
+void SafeKeeping::load()
+{
+    if (mayRemoveMuch())
+        m_outside.load();
+    else
+        showOffer();
+}
+
+void SafeKeeping::merge()
+{
+    if (mayRemoveMuch())
+        m_outside.merge();
+    else
+        showOffer();
+}
+
+bool SafeKeeping::mayRemoveMuch()
+{
+    return !m_outside.removesMuch()
+           || m_context.prompts.confirm(
+               tr("More than half of the project is gone from the disk."),
+               tr("%n file(s) would be removed here as well. The project is backed up first.",
+                  nullptr, m_outside.offer().deletions),
+               tr("Remove"));
+}
+
+void SafeKeeping::review()
+{
+    if (m_dialog)
+        return;
+    m_context.workspace.flush();
+    ExternalChangesDialog dialog(m_outside.state(), m_outside.entries(), m_window);
+    m_dialog = &dialog;
+    if (dialog.exec() == QDialog::Accepted && mayRemoveMuch())
+        m_outside.apply(dialog.resolution());
+    else
+        showOffer(); // the question stays until it is answered
+}
+
+void SafeKeeping::tell(const QString &message)
+{
+    m_context.notices.withdraw(outsideNotice);
+    m_context.notices.show(message);
 }
 
 } // namespace vl::desktop

@@ -1,33 +1,54 @@
 #pragma once
 
+#include "app/models/outsidemonitor.h"
+#include "desktop/panels/panelcontext.h"
+
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
 #include <memory>
 
 namespace vl::app {
 class AutosaveController;
-class Workspace;
 } // namespace vl::app
 
 namespace vl::desktop {
 
-/// Keeps the work in the window safe: saves the open project at regular times.
+class ExternalChangesDialog;
+struct NoticeAction;
+
+/// Keeps the work in the window safe while it is open: saves the project at regular times, and
+/// tells what others do to its files, with what can be done about it.
 class SafeKeeping final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The workspace outlives it.
-    explicit SafeKeeping(app::Workspace &workspace);
+    /// Everything handed in outlives it; the window shows the dialogs.
+    SafeKeeping(const PanelContext &context, QWidget *window);
     ~SafeKeeping() override;
 
     app::AutosaveController &autosave() const { return *m_autosave; }
+    app::OutsideMonitor &outside() { return m_outside; }
 
 private:
     void followProject();
+    void check();
+    void showOffer();
+    void askAbout(const app::OutsideOffer &offer);
+    void askAboutMedia(int files);
+    void load();
+    void merge();
+    void review();
+    void tell(const QString &message);
+    bool mayRemoveMuch();
 
-    app::Workspace &m_workspace;
+    PanelContext m_context;
+    QWidget *m_window;
     std::unique_ptr<app::AutosaveController> m_autosave; ///< of the open project
+    app::OutsideMonitor m_outside;
+    QPointer<ExternalChangesDialog> m_dialog; ///< while it is shown
+    bool m_isAsked = false;                   ///< the user asked for a check
 };
 
 } // namespace vl::desktop

@@ -51,9 +51,12 @@ DifferenceColours differenceColours(const QPalette &palette)
 {
     // Red and green of one lightness, laid over the ground so thinly that the text stands out.
     constexpr double amount = 0.28;
+    constexpr double wordAmount = 0.5;
     const QColor base = palette.color(QPalette::Base);
-    return {mix(QColor(0xd0, 0x3a, 0x3a), base, amount),
-            mix(QColor(0x1f, 0x96, 0x4a), base, amount)};
+    const QColor red(0xd0, 0x3a, 0x3a);
+    const QColor green(0x1f, 0x96, 0x4a);
+    return {mix(red, base, amount), mix(green, base, amount), mix(red, base, wordAmount),
+            mix(green, base, wordAmount)};
 }
 
 QPalette paletteOf(const Theme &theme)

@@ -52,6 +52,8 @@ struct DifferenceColours
 {
     QColor removed;
     QColor added;
+    QColor removedWord; ///< stronger, for what differs within such a line
+    QColor addedWord;
 };
 DifferenceColours differenceColours(const QPalette &palette);
 

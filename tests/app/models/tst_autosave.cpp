@@ -142,7 +142,7 @@ void TestAutosave::tellsEachFailureAndTriesAgain_data()
     QTest::newRow("a folder in the file's place") << false << "blocked"
                                                   << "Cannot write file: %1";
     QTest::newRow("a file in the folder's place") << false << "gone"
-                                                  << "The project folder does not exist: %1";
+                                                  << "Cannot create project folder: %1";
     QTest::newRow("the bundle gone") << true << "gone"
                                      << "The project file is gone: %1";
     QTest::newRow("the bundle replaced by a folder")

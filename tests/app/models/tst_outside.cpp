@@ -593,6 +593,7 @@ void TestOutside::typedWordsTakePart()
 {
     // What is still in a field is handed in before the merge looks at the model.
     Desk desk;
+    desk.monitor->setPatience(60000);
     desk.write(0, QStringLiteral("Mine."));
     desk.othersWrite(1, QStringLiteral("Theirs."));
     QTRY_COMPARE(desk.kind(), Kind::Merge);
