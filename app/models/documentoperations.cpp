@@ -40,6 +40,7 @@ int DocumentOperations::positionOf(const Document &document) const
 ContentId DocumentOperations::insert(DocumentKind kind, const ContentId &parent, int position,
                                      const QString &title, const QString &body)
 {
+    m_workspace.flush(); // what was typed before is the earlier step
     auto document = std::make_unique<Document>(ContentId::create(), kind, title);
     const ContentId id = document->id();
     document->setParentId(parent);

@@ -43,6 +43,32 @@ TextEdit difference(QStringView before, QStringView after)
             after.mid(head, after.size() - tail - head).toString()};
 }
 
+TextEdit difference(QStringView before, QStringView after, qsizetype caret)
+{
+    TextEdit edit = difference(before, after);
+    const bool isRemoval = edit.inserted.isEmpty();
+    if (edit.isEmpty() || (!isRemoval && edit.removed > 0))
+        return edit;
+    const QStringView whole = isRemoval ? before : after;
+    const qsizetype length = isRemoval ? edit.removed : edit.inserted.size();
+    // The edit was found as far right as it fits; it may move left while it changes nothing.
+    qsizetype least = edit.position;
+    const qsizetype wanted = std::max<qsizetype>(0, isRemoval ? caret - length : caret);
+    while (least > wanted && whole[least - 1] == whole[least - 1 + length])
+        --least;
+    qsizetype position = edit.position;
+    if (least == wanted)
+        position = wanted;
+    else if (isRemoval && caret >= least && caret <= edit.position)
+        position = caret;
+    if (position < whole.size() && whole[position].isLowSurrogate())
+        return edit;
+    edit.position = position;
+    if (!isRemoval)
+        edit.inserted = after.sliced(position, length).toString();
+    return edit;
+}
+
 TextEdit rebased(const TextEdit &edit, const TextEdit &other)
 {
     const qsizetype editEnd = edit.position + edit.removed;

@@ -17,6 +17,9 @@ struct TextEdit
 
 /// The smallest single edit that makes one text of the other. It never cuts a surrogate pair.
 TextEdit difference(QStringView before, QStringView after);
+/// The same where the caret tells which of several equal edits is meant: in "banana" with one "an"
+/// less, the one that ends or begins at `caret`, a place of `before`.
+TextEdit difference(QStringView before, QStringView after, qsizetype caret);
 
 /// The edit as it applies after another one changed the same text first. Where the two overlap,
 /// the text that either put in stays, so that no side loses a word.

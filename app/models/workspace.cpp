@@ -1,5 +1,7 @@
 #include "app/models/workspace.h"
 
+#include <QtCore/QScopedValueRollback>
+
 namespace vl::app {
 
 Workspace::Workspace()
@@ -45,12 +47,14 @@ void Workspace::flush()
 void Workspace::undo()
 {
     flush();
+    const QScopedValueRollback<bool> stepping(m_isStepping, true);
     history().undo();
 }
 
 void Workspace::redo()
 {
     flush();
+    const QScopedValueRollback<bool> stepping(m_isStepping, true);
     history().redo();
 }
 

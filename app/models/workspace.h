@@ -38,6 +38,8 @@ public:
     /// Both flush first, so that what was typed last is what goes first.
     void undo();
     void redo();
+    /// Whether what changes now is an undone or redone step.
+    bool isStepping() const { return m_isStepping; }
 
     /// The selected objects and categories, in the order of the panel that selected them.
     const QList<core::ContentId> &selection() const { return m_selection; }
@@ -70,6 +72,7 @@ private:
 
     std::unique_ptr<OpenProject> m_current;
     QList<core::ContentId> m_selection;
+    bool m_isStepping = false;
 };
 
 /// Opens a group of the history for the life of this object.

@@ -103,6 +103,12 @@ QString LiveDocument::text() const
     return joined;
 }
 
+QString LiveDocument::textBetween(int from, int to) const
+{
+    const qsizetype start = toShown(from);
+    return text().sliced(start, toShown(to) - start);
+}
+
 void LiveDocument::setText(const QString &text)
 {
     m_document->setPlainText(QString());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/editortext.h"
+#include "app/models/writingdesk.h"
 #include "core/id.h"
 
 #include <QtCore/QObject>
@@ -11,16 +12,6 @@ class QTextDocument;
 namespace vl::desktop {
 
 class EditorLayout;
-
-/// Where a writer was in a text, in places of the shown text (UTF-16 units).
-struct EditorPlace
-{
-    qsizetype caret = 0;
-    qsizetype anchor = 0; ///< the other end of the selection
-    qsizetype top = 0;    ///< the start of the topmost line that shows
-
-    bool operator==(const EditorPlace &) const = default;
-};
 
 /// The text of one document as the editor holds it while others are written.
 ///
@@ -39,6 +30,8 @@ public:
 
     /// The shown text with "\n" between lines; unlike toPlainText() it keeps no-break spaces.
     QString text() const;
+    /// The part of it between two places of the document.
+    QString textBetween(int from, int to) const;
     void setText(const QString &text);
     /// Applies an edit in shown places; what is not touched keeps its layout. A cursor behind what
     /// was put in.
@@ -49,9 +42,9 @@ public:
     int toDocument(qsizetype shown) const;
     qsizetype toShown(int position) const;
 
-    QString body;          ///< the model's body that the text was last brought in step with
-    bool hasTyped = false; ///< the text differs from the body by what was typed since
-    EditorPlace place;     ///< while another document is open
+    QString body;            ///< the model's body that the text was last brought in step with
+    bool hasTyped = false;   ///< the text differs from the body by what was typed since
+    app::WritingPlace place; ///< while another document is open
 
 private:
     core::ContentId m_id;

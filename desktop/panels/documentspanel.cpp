@@ -165,6 +165,8 @@ void DocumentsPanel::showProject()
     updateEmptyState();
     m_filter->clear();
     m_tree->expandToDepth(0);
+    if (!m_context.workspace.selection().isEmpty())
+        return; // the one written last
     // Something to read is a better first sight than an empty editor.
     for (const core::DocumentTree::Place &place :
          m_context.workspace.project().documentTree().inOrder()) {

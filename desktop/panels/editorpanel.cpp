@@ -1,18 +1,32 @@
 #include "desktop/panels/editorpanel.h"
 
-#include "app/base/settings.h"
+#include "app/base/settingskeys.h"
 #include "app/base/wordcount.h"
 #include "app/models/documentoperations.h"
+#include "app/models/prompts.h"
 #include "app/models/workspace.h"
-#include "core/commands/documentcommands.h"
+#include "app/storage/assets.h"
+#include "core/content/document.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/editor/editorlayout.h"
 #include "desktop/editor/editorpictures.h"
+#include "desktop/editor/editorsession.h"
+#include "desktop/editor/findstrip.h"
 #include "desktop/panels/editortextwidget.h"
+#include "desktop/widgets/elidedlabel.h"
+#include "desktop/widgets/emptystate.h"
 #include "desktop/widgets/focusring.h"
+#include "desktop/widgets/grid.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QTextBlock>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
@@ -20,7 +34,34 @@ namespace vl::desktop {
 
 namespace {
 
-constexpr int pauseMilliseconds = 2000;
+/// The words between two places, from what each line knows of itself.
+qsizetype wordsBetween(const QTextDocument &document, int from, int to)
+{
+    const QTextBlock first = document.findBlock(from);
+    const QTextBlock last = document.findBlock(to);
+    if (first == last)
+        return app::countWords(
+            QStringView(first.text()).sliced(from - first.position(), to - from));
+    qsizetype words = app::countWords(QStringView(first.text()).sliced(from - first.position()))
+                      + app::countWords(QStringView(last.text()).first(to - last.position()));
+    for (QTextBlock block = first.next(); block.isValid() && block != last; block = block.next())
+        if (const EditorLine *line = EditorLine::of(block))
+            words += line->words();
+    return words;
+}
+
+/// A file as it is, or a copy of it whose name can stand in Markdown, which takes no blanks and no
+/// parentheses.
+QString withTellableName(const QString &file, const QTemporaryDir &dir)
+{
+    static const QRegularExpression untellable(QStringLiteral("[\\s()\\[\\]]+"));
+    QString name = QFileInfo(file).fileName();
+    if (!untellable.match(name).hasMatch())
+        return file;
+    name.replace(untellable, QStringLiteral("-"));
+    const QString copy = dir.filePath(name);
+    return QFile::copy(file, copy) ? copy : file;
+}
 
 } // namespace
 
@@ -28,62 +69,83 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     : QWidget(parent)
     , m_context(context)
     , m_text(new EditorTextWidget(this))
-    , m_pages(new QStackedWidget(this))
-    , m_title(new QLabel(this))
-    , m_counts(new QLabel(this))
+    , m_session(new EditorSession(context, m_text, this))
+    , m_strip(new FindStrip(context, m_session, m_text, this))
     , m_pictures(new EditorPictures(this))
+    , m_pages(new QStackedWidget(this))
+    , m_title(new ElidedLabel({}, this))
+    , m_counts(new QLabel(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-
     FocusRing::leaveTo(m_text);
     m_text->setAccessibleName(tr("Text of the document"));
-    auto *empty = new QLabel(tr("Select a document to write in it."), this);
-    empty->setAlignment(Qt::AlignCenter);
-    empty->setWordWrap(true);
-    m_pages->addWidget(empty);
+    m_pages->addWidget(makeEmptyPage());
     m_pages->addWidget(m_text);
+    layout->addWidget(m_strip);
     layout->addWidget(m_pages, 1);
     buildFooter(layout);
     setFocusProxy(m_text);
 
-    m_pause.setSingleShot(true);
-    m_pause.setInterval(pauseMilliseconds);
-    connect(&m_pause, &QTimer::timeout, this, &EditorPanel::handIn);
-    connect(m_text, &QPlainTextEdit::textChanged, this, [this] {
-        if (!m_live || m_isFollowing)
-            return;
-        m_live->hasTyped = true;
-        m_pause.start();
-        updateCounts();
-    });
-    connect(m_text, &EditorTextWidget::caretJumped, this, &EditorPanel::handIn);
-    connect(m_text, &EditorTextWidget::focusLost, this, &EditorPanel::handIn);
+    connect(m_session, &EditorSession::opened, this, &EditorPanel::showOpened);
+    connect(m_session, &EditorSession::titleChanged, this, &EditorPanel::showTitle);
+    connect(m_session, &EditorSession::edited, this, &EditorPanel::updateCounts);
     connect(m_text, &QPlainTextEdit::selectionChanged, this, &EditorPanel::updateCounts);
-
-    app::Workspace &workspace = m_context.workspace;
-    connect(&workspace, &app::Workspace::flushRequested, this, &EditorPanel::handIn);
-    connect(&workspace, &app::Workspace::selectionChanged, this, &EditorPanel::openSelected);
-    connect(&workspace, &app::Workspace::revealRequested, this, &EditorPanel::reveal);
-    connect(&workspace, &app::Workspace::changed, this, &EditorPanel::follow);
-    connect(&workspace, &app::Workspace::projectReplaced, this, &EditorPanel::forgetProject);
-    connect(&workspace, &app::Workspace::locationChanged, this,
-            [this] { m_pictures->setFolder(m_context.workspace.current().folder()); });
+    connect(m_text, &EditorTextWidget::menuRequested, this, &EditorPanel::showMenu);
+    connect(m_text, &EditorTextWidget::pictureFilesDropped, this, &EditorPanel::insertPictureFiles);
+    connect(m_text, &EditorTextWidget::picturePasted, this, &EditorPanel::insertPicture);
+    const auto readFolder = [this] {
+        m_pictures->setFolder(m_context.workspace.current().folder());
+    };
+    connect(&m_context.workspace, &app::Workspace::projectReplaced, this, readFolder);
+    connect(&m_context.workspace, &app::Workspace::locationChanged, this, readFolder);
     connect(&m_context.settings.changes(), &app::SettingsChanges::changed, this,
             [this](const QString &key) {
                 if (key.startsWith(QLatin1String("editor/")))
                     restyle();
             });
-    m_context.actions.bind("doc.split", this, &EditorPanel::splitAtCaret);
     m_text->setPictures(m_pictures);
+    bindActions();
     restyle();
-    forgetProject();
+    showOpened();
 }
 
 EditorPanel::~EditorPanel()
 {
-    m_text->showDocument(nullptr); // before the texts go
+    delete m_strip; // both look at the text field
+    delete m_session;
+}
+
+QWidget *EditorPanel::makeEmptyPage()
+{
+    auto *empty = new EmptyState(tr("Select a document to write in it."), tr("New Document"), this);
+    connect(empty, &EmptyState::activated, m_context.actions["doc.add"], &QAction::trigger);
+    return empty;
+}
+
+void EditorPanel::buildFooter(QLayout *layout)
+{
+    auto *footer = new QWidget(this);
+    auto *row = new QHBoxLayout(footer);
+    row->setContentsMargins(grid(2), grid(1), grid(2), grid(1));
+    row->setSpacing(grid(4));
+    m_title->setTextFormat(Qt::PlainText);
+    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_title->setAccessibleName(tr("Title of the document"));
+    m_counts->setAccessibleName(tr("Word count"));
+    row->addWidget(m_title, 1);
+    row->addWidget(m_counts);
+    layout->addWidget(footer);
+}
+
+void EditorPanel::bindActions()
+{
+    m_context.actions.bind("doc.split", this, &EditorPanel::splitAtCaret);
+    m_context.actions.bind("text.strong", this,
+                           [this] { m_text->toggleMarks(QStringLiteral("**")); });
+    m_context.actions.bind("text.emphasis", this,
+                           [this] { m_text->toggleMarks(QStringLiteral("*")); });
 }
 
 void EditorPanel::changeEvent(QEvent *event)
@@ -96,134 +158,31 @@ void EditorPanel::changeEvent(QEvent *event)
 void EditorPanel::restyle()
 {
     m_text->setStyle(std::make_shared<EditorStyle>(m_context.settings, palette()));
+    m_text->setTypographic(m_context.settings.flag(app::settings::editorSmartQuotes));
+    m_text->setTypewriter(m_context.settings.flag(app::settings::editorTypewriter));
 }
 
-void EditorPanel::buildFooter(QLayout *layout)
+void EditorPanel::showOpened()
 {
-    auto *footer = new QWidget(this);
-    auto *row = new QHBoxLayout(footer);
-    row->setContentsMargins(8, 4, 8, 4);
-    m_title->setTextFormat(Qt::PlainText);
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_title->setAccessibleName(tr("Title of the document"));
-    m_counts->setAccessibleName(tr("Word count"));
-    row->addWidget(m_title, 1);
-    row->addWidget(m_counts);
-    layout->addWidget(footer);
-}
-
-core::Document *EditorPanel::document() const
-{
-    return m_context.workspace.project().find<core::Document>(documentId());
-}
-
-void EditorPanel::openSelected()
-{
-    const QList<core::ContentId> &selection = m_context.workspace.selection();
-    if (selection.size() == 1
-        && m_context.workspace.project().find<core::Document>(selection.first()))
-        open(selection.first());
-}
-
-void EditorPanel::open(const core::ContentId &id)
-{
-    if (m_live && id == m_live->id())
-        return;
-    handIn();
-    m_text->notePlace();
-    m_pause.stop();
-
-    const auto *opened = m_context.workspace.project().find<core::Document>(id);
-    m_context.actions["doc.split"]->setEnabled(opened != nullptr);
-    m_live = nullptr;
-    if (opened) {
-        const bool isNew = !m_documents.find(id);
-        LiveDocument *live = m_documents.open(id);
-        if (isNew)
-            live->setText(app::shownText(opened->body()));
-        else if (live->body != opened->body())
-            live->apply(
-                app::difference(app::shownText(live->body), app::shownText(opened->body())));
-        live->body = opened->body();
-        m_live = live;
-    }
-    m_text->showDocument(m_live);
-    m_pages->setCurrentIndex(opened ? 1 : 0);
-    m_title->setText(opened ? opened->title() : QString());
+    const bool isOpen = m_session->live() != nullptr;
+    for (const char *id : {"doc.split", "text.strong", "text.emphasis", "edit.find", "edit.replace",
+                           "edit.findNext", "edit.findPrevious"})
+        m_context.actions[id]->setEnabled(isOpen);
+    m_pages->setCurrentIndex(isOpen ? 1 : 0);
+    showTitle();
     updateCounts();
 }
 
-void EditorPanel::reveal(const core::ContentId &id, qsizetype position, qsizetype length)
+void EditorPanel::showTitle()
 {
-    open(id); // the selection may have been there before, while something else was being written
-    const core::Document *shown = document();
-    if (!shown)
-        return;
-    m_text->select(app::shownPosition(shown->body(), position),
-                   app::shownPosition(shown->body(), position + length));
-    m_text->centerCursor();
-}
-
-void EditorPanel::handIn()
-{
-    if (m_isFollowing)
-        return;
-    m_pause.stop();
-    core::Document *edited = document();
-    if (!edited || !m_live->hasTyped)
-        return;
-    m_live->hasTyped = false;
-    const QString body = app::bodyAfterEdit(edited->body(), m_live->text());
-    if (body == edited->body())
-        return;
-    m_live->body = body; // so that the step is not taken for somebody else's
-    m_context.workspace.push<core::SetDocumentBodyCommand>(*edited, body);
-}
-
-void EditorPanel::follow(const core::ChangeSet &changes)
-{
-    if (!m_live || !changes.objects().contains(m_live->id()))
-        return;
-    const core::Document *changed = document();
-    if (!changed) {
-        m_live->hasTyped = false;
-        const core::ContentId gone = m_live->id();
-        open({});
-        m_documents.remove(gone);
-        return;
-    }
-    m_title->setText(changed->title());
-    if (changed->body() == m_live->body)
-        return;
-
-    const QString before = app::shownText(m_live->body);
-    const QString after = app::shownText(changed->body());
-    const app::TextEdit fromOutside = app::difference(before, after);
-    m_live->body = changed->body();
-    m_isFollowing = true;
-    if (m_live->hasTyped) {
-        m_live->apply(app::rebased(fromOutside, app::difference(before, m_live->text())));
-    } else {
-        m_text->setTextCursor(m_live->apply(fromOutside));
-        m_pause.stop();
-    }
-    m_isFollowing = false;
-    updateCounts();
-}
-
-void EditorPanel::forgetProject()
-{
-    if (m_live)
-        m_live->hasTyped = false;
-    open({});
-    m_documents.clear();
-    m_pictures->setFolder(m_context.workspace.current().folder());
+    const core::Document *shown = m_session->document();
+    m_title->setText(shown ? shown->title() : QString());
 }
 
 void EditorPanel::splitAtCaret()
 {
-    handIn();
-    const core::Document *cut = document();
+    m_session->handIn();
+    const core::Document *cut = m_session->document();
     if (!cut)
         return;
     const core::ContentId added =
@@ -235,17 +194,83 @@ void EditorPanel::splitAtCaret()
 
 void EditorPanel::updateCounts()
 {
-    if (!m_live) {
+    if (!m_session->live()) {
         m_counts->clear();
         return;
     }
-    const QString words =
-        tr("%1 words").arg(QLocale().toString(qlonglong(m_live->layout()->wordCount())));
-    const QString selected = m_text->textCursor().selectedText();
-    m_counts->setText(
-        selected.isEmpty()
-            ? words
-            : tr("%1 of %2").arg(QLocale().toString(qlonglong(app::countWords(selected))), words));
+    const auto number = [](qsizetype value) { return QLocale().toString(qlonglong(value)); };
+    QString words = tr("%1 words").arg(number(m_session->live()->layout()->wordCount()));
+    const QTextCursor cursor = m_text->textCursor();
+    if (cursor.hasSelection())
+        words = tr("%1 of %2")
+                    .arg(number(wordsBetween(*m_text->document(), cursor.selectionStart(),
+                                             cursor.selectionEnd())),
+                         words);
+    m_counts->setText(tr("Today %1 · %2", "words typed today, words of the document")
+                          .arg(number(m_session->wordsToday()), words));
+    m_counts->setToolTip(tr("Today: words typed less words deleted. Pasted text is not counted."));
+}
+
+void EditorPanel::showMenu(const QPoint &globalPosition)
+{
+    QMenu menu(this);
+    const bool hasSelection = m_text->textCursor().hasSelection();
+    const auto add = [&menu, this](const QString &text, const QKeySequence &keys, bool isEnabled,
+                                   auto slot) {
+        QAction *entry = menu.addAction(text);
+        entry->setShortcut(keys);
+        entry->setEnabled(isEnabled);
+        connect(entry, &QAction::triggered, m_text, slot);
+    };
+    menu.addAction(m_context.actions["edit.undo"]);
+    menu.addAction(m_context.actions["edit.redo"]);
+    menu.addSeparator();
+    add(tr("Cu&t"), QKeySequence::Cut, hasSelection, &EditorTextWidget::cutSelection);
+    add(tr("&Copy"), QKeySequence::Copy, hasSelection, &QPlainTextEdit::copy);
+    add(tr("&Paste"), QKeySequence::Paste, m_text->canPaste(), &QPlainTextEdit::paste);
+    add(tr("&Delete"), QKeySequence(), hasSelection, &EditorTextWidget::deleteSelection);
+    add(tr("Select &All"), QKeySequence::SelectAll, true, &QPlainTextEdit::selectAll);
+    menu.addSeparator();
+    for (const char *id : {"text.strong", "text.emphasis"})
+        menu.addAction(m_context.actions[id]);
+    menu.addSeparator();
+    for (const char *id : {"edit.find", "doc.split"})
+        menu.addAction(m_context.actions[id]);
+    menu.exec(globalPosition);
+}
+
+void EditorPanel::insertPictureFiles(const QStringList &files)
+{
+    const QString folder = m_context.workspace.current().folder();
+    if (folder.isEmpty()) {
+        m_context.prompts.showError(
+            tr("Insert Picture"),
+            tr("Save the project first. Pictures are kept in its folder, beside the text."));
+        return;
+    }
+    QStringList lines;
+    const QTemporaryDir renamed;
+    for (const QString &file : files) {
+        const app::Result<QString> path = app::importAsset(withTellableName(file, renamed), folder);
+        if (!path) {
+            m_context.prompts.showError(tr("Insert Picture"), path.message());
+            continue;
+        }
+        lines.append(QStringLiteral("![](%1)").arg(*path));
+    }
+    if (lines.isEmpty())
+        return;
+    const QTextCursor cursor = m_text->textCursor();
+    const QString before = cursor.atBlockStart() ? QString() : QStringLiteral("\n\n");
+    m_text->insertStep(before + lines.join(QStringLiteral("\n\n")) + QStringLiteral("\n\n"));
+}
+
+void EditorPanel::insertPicture(const QImage &image)
+{
+    const QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("picture.png"));
+    if (!image.isNull() && image.save(file))
+        insertPictureFiles({file});
 }
 
 } // namespace vl::desktop

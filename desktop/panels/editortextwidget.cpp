@@ -5,7 +5,6 @@
 #include "desktop/editor/livedocument.h"
 #include "desktop/widgets/grid.h"
 
-#include <QtCore/QMimeData>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
@@ -53,6 +52,8 @@ EditorTextWidget::EditorTextWidget(QWidget *parent)
             viewport()->update();
         if (!m_isEditing)
             Q_EMIT caretJumped();
+        else if (m_isTypewriter)
+            centerCursor();
     });
 }
 
@@ -100,7 +101,32 @@ void EditorTextWidget::showDocument(LiveDocument *live)
     m_edits =
         connect(document(), &QTextDocument::contentsChange, this, [this] { m_isEditing = true; });
     m_isEditing = false;
+    m_isPlacePending = !isVisible();
     goToPlace();
+}
+
+void EditorTextWidget::setHits(std::vector<app::SearchHit> hits)
+{
+    if (hits.empty() && m_hits.empty())
+        return;
+    m_hits = std::move(hits);
+    viewport()->update();
+}
+
+void EditorTextWidget::showCaretWithin()
+{
+    const QRect caret = cursorRect();
+    const int room = 3 * caret.height();
+    if (!viewport()->rect().adjusted(0, room, 0, -room).contains(caret.center()))
+        centerCursor();
+}
+
+void EditorTextWidget::setTypewriter(bool isOn)
+{
+    m_isTypewriter = isOn;
+    setCenterOnScroll(isOn); // the last line can come to the middle too
+    if (isOn)
+        centerCursor();
 }
 
 QString EditorTextWidget::text() const
@@ -140,7 +166,7 @@ void EditorTextWidget::goToPlace()
 {
     if (!m_live)
         return;
-    const EditorPlace place = m_live->place;
+    const app::WritingPlace place = m_live->place;
     select(place.anchor, place.caret);
     const int top = m_live->toDocument(place.top);
     const QTextBlock block = document()->findBlock(top);
@@ -233,18 +259,6 @@ bool EditorTextWidget::viewportEvent(QEvent *event)
     }
 }
 
-void EditorTextWidget::keyPressEvent(QKeyEvent *event)
-{
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && event->modifiers().testFlag(Qt::ShiftModifier)) {
-        // A line separator of the toolkit's own has no place in a text that other programs read.
-        textCursor().insertText(QStringLiteral("\n"));
-        ensureCursorVisible();
-        return;
-    }
-    QPlainTextEdit::keyPressEvent(event);
-}
-
 void EditorTextWidget::paintEvent(QPaintEvent *event)
 {
     if (!m_live)
@@ -277,6 +291,7 @@ void EditorTextWidget::paintBlock(QPainter &painter, const QTextBlock &block, co
         painter.fillRect(QRectF(offset.x(), offset.y(), viewport()->width(), line->height),
                          m_style->codeGround());
 
+    paintHits(painter, block, offset);
     const int start = block.position();
     QList<QTextLayout::FormatRange> selections;
     for (const QAbstractTextDocumentLayout::Selection &selection : context.selections) {
@@ -284,7 +299,9 @@ void EditorTextWidget::paintBlock(QPainter &painter, const QTextBlock &block, co
         const int to = qMin(block.length(), selection.cursor.selectionEnd() - start);
         if (from >= to)
             continue;
-        paintSelection(painter, block, offset, from, to);
+        paintGround(painter, block, offset, from, to,
+                    palette().color(hasFocus() ? QPalette::Active : QPalette::Inactive,
+                                    QPalette::Highlight));
         QTextLayout::FormatRange range{from, qMin(to, block.length() - 1) - from, {}};
         range.format.setForeground(selection.format.foreground());
         range.format.setBackground(Qt::NoBrush);
@@ -303,12 +320,10 @@ void EditorTextWidget::paintBlock(QPainter &painter, const QTextBlock &block, co
     layout->drawCursor(&painter, offset, caret, cursorWidth());
 }
 
-/// A selection covers the spacing between its lines.
-void EditorTextWidget::paintSelection(QPainter &painter, const QTextBlock &block,
-                                      const QPointF &offset, int from, int to)
+/// A selection or a hit covers the spacing between its lines.
+void EditorTextWidget::paintGround(QPainter &painter, const QTextBlock &block,
+                                   const QPointF &offset, int from, int to, const QColor &color)
 {
-    const QBrush ground =
-        palette().brush(hasFocus() ? QPalette::Active : QPalette::Inactive, QPalette::Highlight);
     const QTextLayout *layout = block.layout();
     const EditorLine *line = EditorLine::of(block);
     for (int i = 0; i < layout->lineCount(); ++i) {
@@ -327,7 +342,26 @@ void EditorTextWidget::paintSelection(QPainter &painter, const QTextBlock &block
             b = isLast ? b + grid(2) : row.x() + row.width();
         painter.fillRect(QRectF(QPointF(offset.x() + qMin(a, b), offset.y() + top),
                                 QPointF(offset.x() + qMax(a, b), offset.y() + bottom)),
-                         ground);
+                         color);
+    }
+}
+
+void EditorTextWidget::paintHits(QPainter &painter, const QTextBlock &block, const QPointF &offset)
+{
+    if (m_hits.empty())
+        return;
+    const qsizetype start = m_live->toShown(block.position());
+    const qsizetype end = start + block.length();
+    auto hit = std::lower_bound(m_hits.begin(), m_hits.end(), start,
+                                [](const app::SearchHit &found, qsizetype place) {
+                                    return found.position + found.length <= place;
+                                });
+    for (; hit != m_hits.end() && hit->position < end; ++hit) {
+        const int from = int(qMax<qsizetype>(0, hit->position - start));
+        const int to =
+            int(qMin<qsizetype>(block.length() - 1, hit->position + hit->length - start));
+        if (from < to)
+            paintGround(painter, block, offset, from, to, m_style->hitGround());
     }
 }
 
@@ -352,6 +386,15 @@ void EditorTextWidget::focusOutEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusOutEvent(event);
     Q_EMIT focusLost();
+}
+
+void EditorTextWidget::showEvent(QShowEvent *event)
+{
+    QPlainTextEdit::showEvent(event);
+    if (std::exchange(m_isPlacePending, false)) {
+        goToPlace();
+        m_isPlacePending = false;
+    }
 }
 
 void EditorTextWidget::resizeEvent(QResizeEvent *event)
@@ -380,25 +423,6 @@ void EditorTextWidget::centreColumn()
     const int room = width() - verticalScrollBar()->sizeHint().width() - column;
     const int side = qMax(leastMargin(), room / 2);
     setViewportMargins(side, leastMargin(), side, 0);
-}
-
-bool EditorTextWidget::canInsertFromMimeData(const QMimeData *source) const
-{
-    return source->hasText();
-}
-
-void EditorTextWidget::insertFromMimeData(const QMimeData *source)
-{
-    if (!m_live)
-        return;
-    QString text = source->text();
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    text.replace(u'\r', u'\n');
-    text.remove(QChar::Null);
-    QTextCursor cursor = textCursor();
-    m_live->insert(cursor, text);
-    setTextCursor(cursor);
-    ensureCursorVisible();
 }
 
 } // namespace vl::desktop

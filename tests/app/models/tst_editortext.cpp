@@ -13,6 +13,8 @@ private Q_SLOTS:
     void editKeepsTheRest_data();
     void editKeepsTheRest();
     void differenceRebuildsTheText();
+    void caretTellsTheEdit_data();
+    void caretTellsTheEdit();
     void rebasedEditsLoseNothing_data();
     void rebasedEditsLoseNothing();
 };
@@ -86,6 +88,43 @@ void TestEditorText::differenceRebuildsTheText()
         QVERIFY(edit.inserted.isEmpty() || !edit.inserted.front().isLowSurrogate());
         QVERIFY(edit.inserted.isEmpty() || !edit.inserted.back().isHighSurrogate());
     }
+}
+
+void TestEditorText::caretTellsTheEdit_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<int>("caret");
+    QTest::addColumn<int>("position");
+
+    QTest::newRow("undone typing ends at the caret") << "banana"
+                                                     << "bana" << 3 << 1;
+    QTest::newRow("at another place") << "banana"
+                                      << "bana" << 5 << 3;
+    QTest::newRow("undone deletion") << "bana"
+                                     << "banana" << 1 << 1;
+    QTest::newRow("undone deletion behind") << "bana"
+                                            << "banana" << 3 << 3;
+    QTest::newRow("the caret is elsewhere") << "banana"
+                                            << "bana" << 0 << 4;
+    QTest::newRow("one way only") << "abc"
+                                  << "ac" << 0 << 1;
+    QTest::newRow("replaced") << "abc"
+                              << "axc" << 0 << 1;
+    QTest::newRow("no half character")
+        << QStringLiteral("\U0001F600\U0001F600") << QStringLiteral("\U0001F600") << 3 << 2;
+}
+
+void TestEditorText::caretTellsTheEdit()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(int, caret);
+    QFETCH(int, position);
+
+    const TextEdit edit = difference(before, after, caret);
+    QCOMPARE(edit.position, qsizetype(position));
+    QCOMPARE(before.replace(edit.position, edit.removed, edit.inserted), after);
 }
 
 void TestEditorText::rebasedEditsLoseNothing_data()

@@ -1,0 +1,405 @@
+#include "app/base/settingskeys.h"
+#include "app/base/wordcount.h"
+#include "app/models/documentoperations.h"
+#include "core/commands/documentcommands.h"
+#include "desktop/editor/editorlayout.h"
+#include "desktop/editor/findstrip.h"
+#include "desktop/editor/livedocument.h"
+#include "desktop/panels/editortextwidget.h"
+#include "desktop/shell/mainwindow.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtCore/QRandomGenerator>
+#include <QtGui/QClipboard>
+#include <QtGui/QTextBlock>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+
+using namespace vl;
+using core::Document;
+
+namespace {
+
+struct Window
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    desktop::MainWindow window{settings, &prompts};
+    desktop::EditorTextWidget *text = window.findChild<desktop::EditorTextWidget *>();
+    desktop::FindStrip *strip = window.findChild<desktop::FindStrip *>();
+
+    explicit Window(bool isTypographic = false)
+    {
+        settings.set(app::settings::editorSmartQuotes, isTypographic);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("the window does not show");
+        window.activateWindow();
+    }
+    app::Workspace &workspace() { return window.workspace(); }
+    Document &add(const QString &body)
+    {
+        const auto id = app::DocumentOperations(workspace()).add(core::DocumentKind::Prose, {});
+        auto *document = workspace().project().find<Document>(id);
+        document->setBody(body);
+        workspace().select(QList<core::ContentId>());
+        workspace().select(id);
+        text->setFocus();
+        return *document;
+    }
+    void type(const QString &keys) { QTest::keyClicks(text, keys); }
+    void undo() { window.actions()["edit.undo"]->trigger(); }
+    void redo() { window.actions()["edit.redo"]->trigger(); }
+    QString count() const
+    {
+        for (const QLabel *label : strip->findChildren<QLabel *>())
+            if (label->accessibleName() == u"Hits")
+                return label->text();
+        return {};
+    }
+    QLineEdit *field(const QString &name) const
+    {
+        for (QLineEdit *field : strip->findChildren<QLineEdit *>())
+            if (field->accessibleName() == name)
+                return field;
+        return nullptr;
+    }
+};
+
+qsizetype countedWords(const desktop::LiveDocument &live)
+{
+    return live.layout()->wordCount();
+}
+
+} // namespace
+
+class TestEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void longLinesAreHeldInPieces();
+    void wordsAreCountedLineByLine();
+    void stylesFollowFences();
+    void undoPutsTheCaretBack();
+    void burstsEndAfterManyWords();
+    void undoReachesOtherDocuments();
+    void placesComeBack();
+    void pasteIsPlainAndItsOwnStep();
+    void typographyCanBeTakenBack();
+    void listsAndMarksByKey();
+    void findsAndReplaces();
+    void hostileTexts_data();
+    void hostileTexts();
+};
+
+void TestEditor::longLinesAreHeldInPieces()
+{
+    QRandomGenerator random(5);
+    desktop::LiveDocument live(core::ContentId::create());
+    QString text = QStringLiteral("short\n") + QStringLiteral("word ").repeated(40'000)
+                   + QStringLiteral("\n\u00e9nd\n") + QStringLiteral("\U0001F600").repeated(50'000);
+    live.setText(text);
+    QCOMPARE(live.text(), text);
+    QVERIFY(live.document()->blockCount() > 10);
+    for (int round = 0; round < 300; ++round) {
+        qsizetype at = random.bounded(int(text.size()));
+        qsizetype removed = qMin<qsizetype>(random.bounded(3) ? 2 : 40'000, text.size() - at);
+        if (at < text.size() && text[at].isLowSurrogate())
+            --at;
+        if (at + removed < text.size() && text[at + removed].isLowSurrogate())
+            ++removed;
+        const QString inserted = round % 7 == 0   ? QStringLiteral("x y ").repeated(20'000)
+                                 : round % 3 == 0 ? QStringLiteral("\n")
+                                                  : QStringLiteral("ab");
+        text.replace(at, removed, inserted);
+        const QTextCursor cursor = live.apply({at, removed, inserted});
+        QCOMPARE(live.toShown(cursor.position()), at + inserted.size());
+        QVERIFY(live.text() == text);
+        for (const qsizetype place : {qsizetype(0), text.size() / 2, text.size()})
+            QCOMPARE(live.toShown(live.toDocument(place)), place);
+    }
+    // What Return and typing do at the joints of the pieces.
+    for (int i = 0; i < 50; ++i) {
+        const QTextBlock block =
+            live.document()->findBlockByNumber(random.bounded(live.document()->blockCount()));
+        QTextCursor cursor(live.document());
+        cursor.setPosition(i % 2 ? block.position() : block.position() + block.length() - 1);
+        const qsizetype at = live.toShown(cursor.position());
+        cursor.insertText(i % 3 ? QStringLiteral("\n") : QStringLiteral("z"));
+        text.insert(at, i % 3 ? u'\n' : u'z');
+        QVERIFY(live.text() == text);
+    }
+}
+
+void TestEditor::wordsAreCountedLineByLine()
+{
+    QRandomGenerator random(11);
+    desktop::LiveDocument live(core::ContentId::create());
+    const QString alphabet = QStringLiteral("ab \n`\t");
+    for (int round = 0; round < 500; ++round) {
+        const int size = live.document()->characterCount() - 1;
+        const int at = random.bounded(size + 1);
+        QString inserted;
+        for (int i = random.bounded(9); i > 0; --i)
+            inserted += alphabet[random.bounded(int(alphabet.size()))];
+        live.apply({at, random.bounded(size - at + 1) / 3, inserted});
+        QCOMPARE(countedWords(live), app::countWords(live.text()));
+    }
+}
+
+void TestEditor::stylesFollowFences()
+{
+    Window desk;
+    desk.add(QStringLiteral("one\n*two*\n\nthree\n"));
+    const auto kindOf = [&](int number) {
+        const QTextBlock block = desk.text->document()->findBlockByNumber(number);
+        desk.text->document()->documentLayout()->blockBoundingRect(block);
+        return int(desktop::EditorLine::of(block)->kind);
+    };
+    using Kind = app::MarkdownLineKind;
+    QCOMPARE(kindOf(1), int(Kind::Paragraph));
+    desk.text->moveCursor(QTextCursor::Start);
+    desk.type(QStringLiteral("```"));
+    QTest::keyClick(desk.text, Qt::Key_Return);
+    QCOMPARE(kindOf(2), int(Kind::FencedCode));
+    QCOMPARE(kindOf(4), int(Kind::FencedCode));
+    desk.undo();
+    QCOMPARE(kindOf(1), int(Kind::Paragraph));
+}
+
+void TestEditor::undoPutsTheCaretBack()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("banana\nend"));
+    desk.text->select(1, 1);
+    desk.type(QStringLiteral("an"));
+    desk.undo();
+    QCOMPARE(document.body(), QStringLiteral("banana\nend"));
+    QCOMPARE(desk.text->caret(), qsizetype(1));
+    desk.redo();
+    QCOMPARE(desk.text->caret(), qsizetype(3));
+    // A selection that is typed over comes back by a step of its own.
+    desk.text->select(0, 8);
+    desk.type(QStringLiteral("x"));
+    desk.undo();
+    QCOMPARE(desk.text->text(), QStringLiteral("bananana\nend"));
+    desk.redo();
+    QCOMPARE(document.body(), QStringLiteral("x\nend"));
+}
+
+void TestEditor::burstsEndAfterManyWords()
+{
+    Window desk;
+    Document &document = desk.add(QString());
+    const auto steps = desk.workspace().history().undoCount();
+    for (int i = 0; i < 100; ++i)
+        desk.type(QStringLiteral("word "));
+    QCOMPARE(desk.workspace().history().undoCount(), steps + 2);
+    QCOMPARE(document.body(), QStringLiteral("word ").repeated(80));
+    desk.undo();
+    desk.undo();
+    QCOMPARE(desk.text->text(), QStringLiteral("word ").repeated(40));
+}
+
+void TestEditor::undoReachesOtherDocuments()
+{
+    Window desk;
+    Document &first = desk.add(QStringLiteral("First."));
+    desk.text->moveCursor(QTextCursor::End);
+    desk.type(QStringLiteral(" One."));
+    Document &second = desk.add(QStringLiteral("Second."));
+    desk.text->moveCursor(QTextCursor::End);
+    desk.type(QStringLiteral(" Two."));
+    desk.workspace().select(first.id());
+    desk.workspace().select(second.id());
+    desk.undo(); // what was typed in the second
+    QCOMPARE(desk.text->text(), QStringLiteral("Second."));
+    desk.undo(); // that it was added
+    desk.undo(); // what was typed in the first, which shows
+    QCOMPARE(first.body(), QStringLiteral("First."));
+    QCOMPARE(desk.text->text(), QStringLiteral("First."));
+    QCOMPARE(desk.workspace().history().redoCount(), qsizetype(3));
+    desk.redo();
+    QCOMPARE(first.body(), QStringLiteral("First. One."));
+    QCOMPARE(desk.text->text(), QStringLiteral("First. One."));
+    QCOMPARE(desk.text->caret(), qsizetype(11));
+}
+
+void TestEditor::placesComeBack()
+{
+    QString saved;
+    core::ContentId last;
+    QTemporaryDir dir;
+    {
+        Window desk;
+        Document &first = desk.add(QStringLiteral("A line of a text.\n").repeated(300));
+        desk.text->select(4000, 4003);
+        desk.text->centerCursor();
+        const int scroll = desk.text->verticalScrollBar()->value();
+        QVERIFY(scroll > 0);
+        Document &second = desk.add(QStringLiteral("Another one."));
+        desk.text->select(3, 3);
+        desk.workspace().select(first.id());
+        QCOMPARE(desk.text->textCursor().selectedText().size(), qsizetype(3));
+        QCOMPARE(desk.text->verticalScrollBar()->value(), scroll);
+        desk.workspace().select(second.id());
+        QCOMPARE(desk.text->caret(), qsizetype(3));
+        desk.workspace().select(first.id());
+        saved = dir.filePath(QStringLiteral("saved"));
+        desk.prompts.path = saved;
+        desk.window.actions()["file.saveAsFolder"]->trigger();
+        last = first.id();
+    }
+    Window desk;
+    QVERIFY(desk.window.openProject(saved));
+    QCOMPARE(desk.workspace().selection(), QList<core::ContentId>{last});
+    QCOMPARE(desk.text->caret(), qsizetype(4003));
+    QVERIFY(desk.text->viewport()->rect().contains(desk.text->cursorRect().center()));
+}
+
+void TestEditor::pasteIsPlainAndItsOwnStep()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("a"));
+    auto *data = new QMimeData;
+    data->setHtml(QStringLiteral("<h1>Rich</h1><img src='x'>"));
+    data->setText(QStringLiteral("Rich\r\ntext\u2029here"));
+    data->setImageData(QImage(10, 10, QImage::Format_RGB32));
+    QGuiApplication::clipboard()->setMimeData(data);
+    desk.text->moveCursor(QTextCursor::End);
+    desk.type(QStringLiteral("b"));
+    desk.text->paste();
+    desk.type(QStringLiteral("c"));
+    desk.workspace().flush();
+    QCOMPARE(document.body(), QStringLiteral("abRich\ntext\nherec"));
+    desk.undo();
+    desk.undo();
+    QCOMPARE(document.body(), QStringLiteral("ab"));
+
+    auto *picture = new QMimeData;
+    picture->setImageData(QImage(10, 10, QImage::Format_RGB32));
+    QGuiApplication::clipboard()->setMimeData(picture);
+    desk.text->paste(); // a project without a folder keeps no pictures, and says so
+    QCOMPARE(desk.prompts.errors.size(), 1);
+    desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
+    desk.window.actions()["file.saveAsFolder"]->trigger();
+    desk.text->paste();
+    desk.workspace().flush();
+    QVERIFY(document.body().contains(QStringLiteral("![](assets/picture.png)")));
+    QVERIFY(QFile::exists(desk.prompts.path + QStringLiteral("/assets/picture.png")));
+}
+
+void TestEditor::typographyCanBeTakenBack()
+{
+    Window desk(true);
+    desk.add(QString());
+    desk.type(QStringLiteral("\"So--`\"a\"`"));
+    QCOMPARE(desk.text->text(), QStringLiteral("“So—`\"a\"`"));
+    desk.type(QStringLiteral("..."));
+    QTest::keyClick(desk.text, Qt::Key_Backspace);
+    QVERIFY(desk.text->text().endsWith(QStringLiteral("...")));
+    QTest::keyClick(desk.text, Qt::Key_Backspace);
+    QVERIFY(desk.text->text().endsWith(QStringLiteral("`..")));
+}
+
+void TestEditor::listsAndMarksByKey()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("- one"));
+    desk.text->moveCursor(QTextCursor::End);
+    QTest::keyClick(desk.text, Qt::Key_Return);
+    desk.type(QStringLiteral("two"));
+    QTest::keyClick(desk.text, Qt::Key_Tab);
+    QTest::keyClick(desk.text, Qt::Key_Return);
+    QTest::keyClick(desk.text, Qt::Key_Return);
+    desk.type(QStringLiteral("three"));
+    desk.window.actions()["text.strong"]->trigger();
+    QCOMPARE(desk.text->text(), QStringLiteral("- one\n  - two\n**three**"));
+    desk.window.actions()["text.strong"]->trigger();
+    desk.workspace().flush();
+    QCOMPARE(document.body(), QStringLiteral("- one\n  - two\nthree"));
+}
+
+void TestEditor::findsAndReplaces()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("Tide and tide.\n\nNo tides, TIDE."));
+    desk.text->moveCursor(QTextCursor::Start);
+    desk.window.actions()["edit.replace"]->trigger();
+    QVERIFY(desk.strip->isVisible());
+    QTest::keyClicks(desk.field(QStringLiteral("Find")), QStringLiteral("tide"));
+    QTRY_COMPARE(desk.count(), QStringLiteral("1 of 4"));
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Return);
+    QCOMPARE(desk.count(), QStringLiteral("2 of 4"));
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(desk.count(), QStringLiteral("4 of 4"));
+    desk.window.actions()["edit.findNext"]->trigger();
+    QCOMPARE(desk.count(), QStringLiteral("1 of 4"));
+
+    QTest::keyClicks(desk.field(QStringLiteral("Replace with")), QStringLiteral("ebb"));
+    QTest::keyClick(desk.field(QStringLiteral("Replace with")), Qt::Key_Return);
+    QTRY_COMPARE(desk.count(), QStringLiteral("1 of 3"));
+    const auto steps = desk.workspace().history().undoCount();
+    for (QPushButton *button : desk.strip->findChildren<QPushButton *>())
+        if (button->text().contains(QStringLiteral("A&ll")))
+            button->click();
+    QCOMPARE(document.body(), QStringLiteral("ebb and ebb.\n\nNo ebbs, ebb."));
+    QCOMPARE(desk.workspace().history().undoCount(), steps + 1);
+    desk.undo();
+    QCOMPARE(desk.text->text(), QStringLiteral("ebb and tide.\n\nNo tides, TIDE."));
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);
+    QVERIFY(!desk.strip->isVisible());
+    QVERIFY(desk.text->hasFocus());
+}
+
+void TestEditor::hostileTexts_data()
+{
+    QTest::addColumn<QString>("body");
+    QTest::newRow("20 MB in one line") << QStringLiteral("word after word ").repeated(1'250'000);
+    QTest::newRow("5 MB without a blank") << QString(5'000'000, u'x');
+    QTest::newRow("right to left and joined emoji")
+        << QStringLiteral("\u05e9\u05dc\u05d5\u05dd *\u0645\u0631\u062d\u0628\u0627* "
+                          "\U0001F469\u200D\U0001F680 \u202Eabc\u202C e\u0301\u0301\u0301 ")
+               .repeated(2000);
+    QTest::newRow("unpaired surrogates and controls")
+        << QString(QChar(0xD800)) + QStringLiteral("a\u0000b\u0007\uFFFE") + QString(QChar(0xDC00))
+               + QStringLiteral("\nnext");
+    QTest::newRow("300 000 empty lines") << QString(300'000, u'\n');
+}
+
+void TestEditor::hostileTexts()
+{
+    QFETCH(QString, body);
+    Window desk;
+    Document &document = desk.add(body);
+    QVERIFY(desk.text->text() == app::shownText(body));
+    for (const QTextCursor::MoveOperation place : {QTextCursor::End, QTextCursor::Start}) {
+        desk.text->moveCursor(place);
+        desk.type(QStringLiteral("!?"));
+        QTest::keyClick(desk.text, Qt::Key_Backspace);
+        QCoreApplication::processEvents();
+    }
+    desk.workspace().flush();
+    QVERIFY(document.body() == u'!' + body + u'!');
+    desk.undo();
+    desk.undo();
+    QVERIFY(document.body() == body);
+    desk.text->selectAll();
+    QTest::keyClick(desk.text, Qt::Key_Delete);
+    desk.workspace().flush();
+    QCOMPARE(document.body(), QString());
+    desk.undo();
+    QVERIFY(document.body() == body);
+    QVERIFY(desk.text->text() == app::shownText(body));
+}
+
+QTEST_MAIN(TestEditor)
+#include "tst_editor.moc"
