@@ -339,6 +339,22 @@
         <source>Bac&amp;kups…</source>
         <translation>Bac&amp;kups…</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Find Next</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Find Previous</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -1848,6 +1864,105 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ExternalChangesModel</name>
+    <message>
+        <source>Project settings and lists</source>
+        <translation>Project settings and lists</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>What happened</translation>
+    </message>
+    <message>
+        <source>Decision</source>
+        <translation>Decision</translation>
+    </message>
+    <message>
+        <source>A sync client's second version of it</source>
+        <translation>A sync client's second version of it</translation>
+    </message>
+    <message>
+        <source>The same on both sides</source>
+        <translation>The same on both sides</translation>
+    </message>
+    <message>
+        <source>Changed by you</source>
+        <translation>Changed by you</translation>
+    </message>
+    <message>
+        <source>Changed on disk</source>
+        <translation>Changed on disk</translation>
+    </message>
+    <message>
+        <source>Changed by you and on disk</source>
+        <translation>Changed by you and on disk</translation>
+    </message>
+    <message>
+        <source>Added by you</source>
+        <translation>Added by you</translation>
+    </message>
+    <message>
+        <source>Added on disk</source>
+        <translation>Added on disk</translation>
+    </message>
+    <message>
+        <source>Added by you and on disk</source>
+        <translation>Added by you and on disk</translation>
+    </message>
+    <message>
+        <source>Deleted by you</source>
+        <translation>Deleted by you</translation>
+    </message>
+    <message>
+        <source>Deleted on disk</source>
+        <translation>Deleted on disk</translation>
+    </message>
+    <message>
+        <source>Changed by you, deleted on disk</source>
+        <translation>Changed by you, deleted on disk</translation>
+    </message>
+    <message>
+        <source>Deleted by you, changed on disk</source>
+        <translation>Deleted by you, changed on disk</translation>
+    </message>
+    <message>
+        <source>⚠ To be decided</source>
+        <translation>⚠ To be decided</translation>
+    </message>
+    <message>
+        <source>Keep your version</source>
+        <translation>Keep your version</translation>
+    </message>
+    <message>
+        <source>Stays deleted</source>
+        <translation>Stays deleted</translation>
+    </message>
+    <message>
+        <source>Take the on-disk version</source>
+        <translation>Take the on-disk version</translation>
+    </message>
+    <message>
+        <source>Delete it here too</source>
+        <translation>Delete it here too</translation>
+    </message>
+    <message>
+        <source>Both, merged</source>
+        <translation>Both, merged</translation>
+    </message>
+    <message>
+        <source>Both, edited by you</source>
+        <translation>Both, edited by you</translation>
+    </message>
+    <message>
+        <source>There are still lines with marks in the text.</source>
+        <translation>There are still lines with marks in the text.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::FileMerge</name>
     <message>
         <source>Cannot read file: %1</source>
@@ -2421,27 +2536,45 @@
     </message>
     <message numerus="yes">
         <source>%n cell(s)</source>
-        <translation><numerusform>%n cell</numerusform><numerusform>%n cells</numerusform></translation>
+        <translation>
+            <numerusform>%n cell</numerusform>
+            <numerusform>%n cells</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) of figures</source>
-        <translation><numerusform>%n row of figures</numerusform><numerusform>%n rows of figures</numerusform></translation>
+        <translation>
+            <numerusform>%n row of figures</numerusform>
+            <numerusform>%n rows of figures</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n pin(s)</source>
-        <translation><numerusform>%n pin</numerusform><numerusform>%n pins</numerusform></translation>
+        <translation>
+            <numerusform>%n pin</numerusform>
+            <numerusform>%n pins</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n region(s)</source>
-        <translation><numerusform>%n region</numerusform><numerusform>%n regions</numerusform></translation>
+        <translation>
+            <numerusform>%n region</numerusform>
+            <numerusform>%n regions</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n route(s)</source>
-        <translation><numerusform>%n route</numerusform><numerusform>%n routes</numerusform></translation>
+        <translation>
+            <numerusform>%n route</numerusform>
+            <numerusform>%n routes</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n event(s)</source>
-        <translation><numerusform>%n event</numerusform><numerusform>%n events</numerusform></translation>
+        <translation>
+            <numerusform>%n event</numerusform>
+            <numerusform>%n events</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -2461,7 +2594,10 @@
     </message>
     <message numerus="yes">
         <source>%n card(s)</source>
-        <translation><numerusform>%n card</numerusform><numerusform>%n cards</numerusform></translation>
+        <translation>
+            <numerusform>%n card</numerusform>
+            <numerusform>%n cards</numerusform>
+        </translation>
     </message>
     <message>
         <source>On %1</source>
@@ -2469,11 +2605,17 @@
     </message>
     <message numerus="yes">
         <source>%n word(s) in the lexicon</source>
-        <translation><numerusform>%n word in the lexicon</numerusform><numerusform>%n words in the lexicon</numerusform></translation>
+        <translation>
+            <numerusform>%n word in the lexicon</numerusform>
+            <numerusform>%n words in the lexicon</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n line(s) to roll</source>
-        <translation><numerusform>%n line to roll</numerusform><numerusform>%n lines to roll</numerusform></translation>
+        <translation>
+            <numerusform>%n line to roll</numerusform>
+            <numerusform>%n lines to roll</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 figures, %2 actions</source>
@@ -2513,15 +2655,24 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entity</numerusform><numerusform>%n entities</numerusform></translation>
+        <translation>
+            <numerusform>%n entity</numerusform>
+            <numerusform>%n entities</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n document(s)</source>
-        <translation><numerusform>%n document</numerusform><numerusform>%n documents</numerusform></translation>
+        <translation>
+            <numerusform>%n document</numerusform>
+            <numerusform>%n documents</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n object</numerusform><numerusform>%n objects</numerusform></translation>
+        <translation>
+            <numerusform>%n object</numerusform>
+            <numerusform>%n objects</numerusform>
+        </translation>
     </message>
     <message>
         <source>No entity is called so.</source>
@@ -2610,6 +2761,99 @@
     </message>
 </context>
 <context>
+    <name>vl::app::OutsideMonitor</name>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>Could not open the project file: %1</translation>
+    </message>
+    <message>
+        <source>Something else is being done to the project; try again.</source>
+        <translation>Something else is being done to the project; try again.</translation>
+    </message>
+    <message>
+        <source>The project changed again meanwhile; look at the changes once more.</source>
+        <translation>The project changed again meanwhile; look at the changes once more.</translation>
+    </message>
+    <message>
+        <source>Load on-disk version</source>
+        <translation>Load on-disk version</translation>
+    </message>
+    <message>
+        <source>Merge on-disk changes</source>
+        <translation>Merge on-disk changes</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OutsideOffer</name>
+    <message>
+        <source>The project's files are gone from the disk: %1</source>
+        <translation>The project's files are gone from the disk: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</source>
+        <translation>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
+        <translation><numerusform>%n project file changed outside Ivorel and cannot be read.</numerusform><numerusform>%n project files changed outside Ivorel and cannot be read.</numerusform></translation>
+    </message>
+    <message>
+        <source>Nothing of it is loaded. What you have here is whole, and saving keeps it.</source>
+        <translation>Nothing of it is loaded. What you have here is whole, and saving keeps it.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
+        <translation><numerusform>%n file changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform><numerusform>%n files changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform></translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>The project changed outside Ivorel since you opened it.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Ivorel since you opened it.</source>
+        <translation><numerusform>%n project file changed outside Ivorel since you opened it.</numerusform><numerusform>%n project files changed outside Ivorel since you opened it.</numerusform></translation>
+    </message>
+    <message>
+        <source>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author's changes don't surprise you.)</source>
+        <translation>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author's changes don't surprise you.)</translation>
+    </message>
+    <message>
+        <source>Loaded the on-disk version of the project.</source>
+        <translation>Loaded the on-disk version of the project.</translation>
+    </message>
+    <message>
+        <source>Keeping your version — your next save will overwrite the on-disk changes.</source>
+        <translation>Keeping your version — your next save will overwrite the on-disk changes.</translation>
+    </message>
+    <message>
+        <source>No external changes — the project on disk matches what you have open.</source>
+        <translation>No external changes — the project on disk matches what you have open.</translation>
+    </message>
+    <message>
+        <source>Merged the on-disk changes with yours.</source>
+        <translation>Merged the on-disk changes with yours.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
+        <translation><numerusform>%n media file in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform><numerusform>%n media files in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform></translation>
+    </message>
+    <message>
+        <source>Reloaded the project with the updated media files.</source>
+        <translation>Reloaded the project with the updated media files.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OutsideScan</name>
+    <message>
+        <source>The project file is not readable right now; try again.</source>
+        <translation>The project file is not readable right now; try again.</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>Could not refresh the project's working folder: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::PlainTextImport</name>
     <message>
         <source>Front Matter</source>
@@ -2686,7 +2930,10 @@
     </message>
     <message numerus="yes">
         <source>The name must not begin or end with a point, nor be longer than %n character(s).</source>
-        <translation><numerusform>The name must not begin or end with a point, nor be longer than %n character.</numerusform><numerusform>The name must not begin or end with a point, nor be longer than %n characters.</numerusform></translation>
+        <translation>
+            <numerusform>The name must not begin or end with a point, nor be longer than %n character.</numerusform>
+            <numerusform>The name must not begin or end with a point, nor be longer than %n characters.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The project needs a place.</source>
@@ -3803,6 +4050,13 @@ What is said.
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Long sentence (%1 words). Consider breaking it up.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::TextSearch</name>
+    <message>
+        <source>The expression takes too many steps.</source>
+        <translation>The expression takes too many steps.</translation>
     </message>
 </context>
 <context>
@@ -5153,7 +5407,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>Deleted %n document(s).</source>
-        <translation><numerusform>Deleted %n document.</numerusform><numerusform>Deleted %n documents.</numerusform></translation>
+        <translation>
+            <numerusform>Deleted %n document.</numerusform>
+            <numerusform>Deleted %n documents.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5255,6 +5512,114 @@ What is said.
     <message>
         <source>%1 of %2</source>
         <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>New Document</source>
+        <translation>New Document</translation>
+    </message>
+    <message>
+        <source>Today %1 · %2</source>
+        <comment>words typed today, words of the document</comment>
+        <translation>Today %1 · %2</translation>
+    </message>
+    <message>
+        <source>Today: words typed less words deleted. Pasted text is not counted.</source>
+        <translation>Today: words typed less words deleted. Pasted text is not counted.</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>Insert Picture</source>
+        <translation>Insert Picture</translation>
+    </message>
+    <message>
+        <source>Save the project first. Pictures are kept in its folder, beside the text.</source>
+        <translation>Save the project first. Pictures are kept in its folder, beside the text.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ExternalChangesDialog</name>
+    <message>
+        <source>&amp;Keep my version</source>
+        <translation>&amp;Keep my version</translation>
+    </message>
+    <message>
+        <source>&amp;Take on-disk version</source>
+        <translation>&amp;Take on-disk version</translation>
+    </message>
+    <message>
+        <source>&amp;Edit merged text…</source>
+        <translation>&amp;Edit merged text…</translation>
+    </message>
+    <message>
+        <source>&amp;Apply Resolution</source>
+        <translation>&amp;Apply Resolution</translation>
+    </message>
+    <message>
+        <source>External Changes</source>
+        <translation>External Changes</translation>
+    </message>
+    <message>
+        <source>These files changed outside Ivorel while the project was open. Decide which version counts. The project is backed up before anything is applied, and applying it is one step that you can undo.</source>
+        <translation>These files changed outside Ivorel while the project was open. Decide which version counts. The project is backed up before anything is applied, and applying it is one step that you can undo.</translation>
+    </message>
+    <message>
+        <source>Changed files</source>
+        <translation>Changed files</translation>
+    </message>
+    <message>
+        <source>Differences for the selected file — your version in red (−), the on-disk version in green (+):</source>
+        <translation>Differences for the selected file — your version in red (−), the on-disk version in green (+):</translation>
+    </message>
+    <message>
+        <source>Where both changed the text, your lines stand first and those on disk after them, with marks around them. Make one text of it and remove the marks:</source>
+        <translation>Where both changed the text, your lines stand first and those on disk after them, with marks around them. Make one text of it and remove the marks:</translation>
+    </message>
+    <message>
+        <source>Merged text</source>
+        <translation>Merged text</translation>
+    </message>
+    <message>
+        <source>&amp;Use this text</source>
+        <translation>&amp;Use this text</translation>
+    </message>
+    <message>
+        <source>&amp;Back to the differences</source>
+        <translation>&amp;Back to the differences</translation>
+    </message>
+    <message>
+        <source>The versions of this file cannot be edited into one text.</source>
+        <translation>The versions of this file cannot be edited into one text.</translation>
+    </message>
+    <message>
+        <source>⚠ %1</source>
+        <translation>⚠ %1</translation>
+    </message>
+    <message>
+        <source>Every file is decided.</source>
+        <translation>Every file is decided.</translation>
+    </message>
+    <message numerus="yes">
+        <source>⚠ %n file(s) still to be decided.</source>
+        <translation><numerusform>⚠ %n file still to be decided.</numerusform><numerusform>⚠ %n files still to be decided.</numerusform></translation>
     </message>
 </context>
 <context>
@@ -5521,6 +5886,82 @@ What is said.
             <numerusform>%n place had changed since the search and stayed as they are.</numerusform>
             <numerusform>%n places had changed since the search and stayed as they are.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::FindStrip</name>
+    <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Match case</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Whole words</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regular expression</translation>
+    </message>
+    <message>
+        <source>In the selection only</source>
+        <translation>In the selection only</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Hits</translation>
+    </message>
+    <message>
+        <source>Previous (Shift+Enter)</source>
+        <translation>Previous (Shift+Enter)</translation>
+    </message>
+    <message>
+        <source>Next (Enter)</source>
+        <translation>Next (Enter)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Close (Esc)</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Replace with</translation>
+    </message>
+    <message>
+        <source>&amp;Keep case</source>
+        <translation>&amp;Keep case</translation>
+    </message>
+    <message>
+        <source>“Tide” becomes “Ebb” and “TIDE” becomes “EBB”.</source>
+        <translation>“Tide” becomes “Ebb” and “TIDE” becomes “EBB”.</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Re&amp;place</translation>
+    </message>
+    <message>
+        <source>Replace A&amp;ll</source>
+        <translation>Replace A&amp;ll</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 replaced</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Not found</translation>
+    </message>
+    <message>
+        <source>more than %1</source>
+        <translation>more than %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>the hit that is shown, all hits</comment>
+        <translation>%1 of %2</translation>
     </message>
 </context>
 <context>
@@ -6017,6 +6458,57 @@ What is said.
     <message>
         <source>There are no documents in this backup.</source>
         <translation>There are no documents in this backup.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::SafeKeeping</name>
+    <message>
+        <source>External Changes</source>
+        <translation>External Changes</translation>
+    </message>
+    <message>
+        <source>The project is not saved yet: there is nothing on disk to compare it with.</source>
+        <translation>The project is not saved yet: there is nothing on disk to compare it with.</translation>
+    </message>
+    <message>
+        <source>&amp;Compare…</source>
+        <translation>&amp;Compare…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep My Version</source>
+        <translation>&amp;Keep My Version</translation>
+    </message>
+    <message>
+        <source>&amp;Load On-Disk Version</source>
+        <translation>&amp;Load On-Disk Version</translation>
+    </message>
+    <message>
+        <source>&amp;Merge and Reload</source>
+        <translation>&amp;Merge and Reload</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Save &amp;As…</translation>
+    </message>
+    <message>
+        <source>&amp;Check Again</source>
+        <translation>&amp;Check Again</translation>
+    </message>
+    <message>
+        <source>&amp;Reload Media</source>
+        <translation>&amp;Reload Media</translation>
+    </message>
+    <message>
+        <source>More than half of the project is gone from the disk.</source>
+        <translation>More than half of the project is gone from the disk.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) would be removed here as well. The project is backed up first.</source>
+        <translation><numerusform>%n file would be removed here as well. The project is backed up first.</numerusform><numerusform>%n files would be removed here as well. The project is backed up first.</numerusform></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
 </context>
 <context>

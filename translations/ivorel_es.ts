@@ -339,6 +339,22 @@
         <source>Bac&amp;kups…</source>
         <translation>Copias de se&amp;guridad…</translation>
     </message>
+    <message>
+        <source>Bold</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Cursiva</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Buscar siguiente</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Buscar anterior</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -1848,6 +1864,105 @@
     </message>
 </context>
 <context>
+    <name>vl::app::ExternalChangesModel</name>
+    <message>
+        <source>Project settings and lists</source>
+        <translation>Ajustes y listas del proyecto</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Qué pasó</translation>
+    </message>
+    <message>
+        <source>Decision</source>
+        <translation>Decisión</translation>
+    </message>
+    <message>
+        <source>A sync client's second version of it</source>
+        <translation>Una segunda versión suya, de un cliente de sincronización</translation>
+    </message>
+    <message>
+        <source>The same on both sides</source>
+        <translation>Igual en ambos lados</translation>
+    </message>
+    <message>
+        <source>Changed by you</source>
+        <translation>Cambiado por usted</translation>
+    </message>
+    <message>
+        <source>Changed on disk</source>
+        <translation>Cambiado en el disco</translation>
+    </message>
+    <message>
+        <source>Changed by you and on disk</source>
+        <translation>Cambiado por usted y en el disco</translation>
+    </message>
+    <message>
+        <source>Added by you</source>
+        <translation>Añadido por usted</translation>
+    </message>
+    <message>
+        <source>Added on disk</source>
+        <translation>Añadido en el disco</translation>
+    </message>
+    <message>
+        <source>Added by you and on disk</source>
+        <translation>Añadido por usted y en el disco</translation>
+    </message>
+    <message>
+        <source>Deleted by you</source>
+        <translation>Eliminado por usted</translation>
+    </message>
+    <message>
+        <source>Deleted on disk</source>
+        <translation>Eliminado en el disco</translation>
+    </message>
+    <message>
+        <source>Changed by you, deleted on disk</source>
+        <translation>Cambiado por usted, eliminado en el disco</translation>
+    </message>
+    <message>
+        <source>Deleted by you, changed on disk</source>
+        <translation>Eliminado por usted, cambiado en el disco</translation>
+    </message>
+    <message>
+        <source>⚠ To be decided</source>
+        <translation>⚠ Por decidir</translation>
+    </message>
+    <message>
+        <source>Keep your version</source>
+        <translation>Conservar su versión</translation>
+    </message>
+    <message>
+        <source>Stays deleted</source>
+        <translation>Sigue eliminado</translation>
+    </message>
+    <message>
+        <source>Take the on-disk version</source>
+        <translation>Tomar la versión del disco</translation>
+    </message>
+    <message>
+        <source>Delete it here too</source>
+        <translation>Eliminarlo también aquí</translation>
+    </message>
+    <message>
+        <source>Both, merged</source>
+        <translation>Ambos, fusionados</translation>
+    </message>
+    <message>
+        <source>Both, edited by you</source>
+        <translation>Ambos, editados por usted</translation>
+    </message>
+    <message>
+        <source>There are still lines with marks in the text.</source>
+        <translation>Aún hay líneas con marcas en el texto.</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::FileMerge</name>
     <message>
         <source>Cannot read file: %1</source>
@@ -2421,27 +2536,45 @@
     </message>
     <message numerus="yes">
         <source>%n cell(s)</source>
-        <translation><numerusform>%n celda</numerusform><numerusform>%n celdas</numerusform></translation>
+        <translation>
+            <numerusform>%n celda</numerusform>
+            <numerusform>%n celdas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) of figures</source>
-        <translation><numerusform>%n fila de cifras</numerusform><numerusform>%n filas de cifras</numerusform></translation>
+        <translation>
+            <numerusform>%n fila de cifras</numerusform>
+            <numerusform>%n filas de cifras</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n pin(s)</source>
-        <translation><numerusform>%n chincheta</numerusform><numerusform>%n chinchetas</numerusform></translation>
+        <translation>
+            <numerusform>%n chincheta</numerusform>
+            <numerusform>%n chinchetas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n region(s)</source>
-        <translation><numerusform>%n región</numerusform><numerusform>%n regiones</numerusform></translation>
+        <translation>
+            <numerusform>%n región</numerusform>
+            <numerusform>%n regiones</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n route(s)</source>
-        <translation><numerusform>%n ruta</numerusform><numerusform>%n rutas</numerusform></translation>
+        <translation>
+            <numerusform>%n ruta</numerusform>
+            <numerusform>%n rutas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n event(s)</source>
-        <translation><numerusform>%n acontecimiento</numerusform><numerusform>%n acontecimientos</numerusform></translation>
+        <translation>
+            <numerusform>%n acontecimiento</numerusform>
+            <numerusform>%n acontecimientos</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -2461,7 +2594,10 @@
     </message>
     <message numerus="yes">
         <source>%n card(s)</source>
-        <translation><numerusform>%n tarjeta</numerusform><numerusform>%n tarjetas</numerusform></translation>
+        <translation>
+            <numerusform>%n tarjeta</numerusform>
+            <numerusform>%n tarjetas</numerusform>
+        </translation>
     </message>
     <message>
         <source>On %1</source>
@@ -2469,11 +2605,17 @@
     </message>
     <message numerus="yes">
         <source>%n word(s) in the lexicon</source>
-        <translation><numerusform>%n palabra en el léxico</numerusform><numerusform>%n palabras en el léxico</numerusform></translation>
+        <translation>
+            <numerusform>%n palabra en el léxico</numerusform>
+            <numerusform>%n palabras en el léxico</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n line(s) to roll</source>
-        <translation><numerusform>%n línea que tirar</numerusform><numerusform>%n líneas que tirar</numerusform></translation>
+        <translation>
+            <numerusform>%n línea que tirar</numerusform>
+            <numerusform>%n líneas que tirar</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 figures, %2 actions</source>
@@ -2513,15 +2655,24 @@
     </message>
     <message numerus="yes">
         <source>%n entity(ies)</source>
-        <translation><numerusform>%n entidad</numerusform><numerusform>%n entidades</numerusform></translation>
+        <translation>
+            <numerusform>%n entidad</numerusform>
+            <numerusform>%n entidades</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n document(s)</source>
-        <translation><numerusform>%n documento</numerusform><numerusform>%n documentos</numerusform></translation>
+        <translation>
+            <numerusform>%n documento</numerusform>
+            <numerusform>%n documentos</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n object(s)</source>
-        <translation><numerusform>%n objeto</numerusform><numerusform>%n objetos</numerusform></translation>
+        <translation>
+            <numerusform>%n objeto</numerusform>
+            <numerusform>%n objetos</numerusform>
+        </translation>
     </message>
     <message>
         <source>No entity is called so.</source>
@@ -2610,6 +2761,99 @@
     </message>
 </context>
 <context>
+    <name>vl::app::OutsideMonitor</name>
+    <message>
+        <source>Could not open the project file: %1</source>
+        <translation>No se pudo abrir el archivo del proyecto: %1</translation>
+    </message>
+    <message>
+        <source>Something else is being done to the project; try again.</source>
+        <translation>Se está haciendo otra cosa con el proyecto; inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The project changed again meanwhile; look at the changes once more.</source>
+        <translation>El proyecto ha vuelto a cambiar entretanto; mire otra vez los cambios.</translation>
+    </message>
+    <message>
+        <source>Load on-disk version</source>
+        <translation>Cargar la versión del disco</translation>
+    </message>
+    <message>
+        <source>Merge on-disk changes</source>
+        <translation>Fusionar los cambios del disco</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OutsideOffer</name>
+    <message>
+        <source>The project's files are gone from the disk: %1</source>
+        <translation>Los archivos del proyecto ya no están en el disco: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</source>
+        <translation>Aquí no se elimina nada. Si el disco o la carpeta de sincronización vuelve, todo sigue como antes; si no, guarde para escribirlo todo allí de nuevo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
+        <translation><numerusform>%n archivo del proyecto cambió fuera de Ivorel y no se puede leer.</numerusform><numerusform>%n archivos del proyecto cambiaron fuera de Ivorel y no se pueden leer.</numerusform></translation>
+    </message>
+    <message>
+        <source>Nothing of it is loaded. What you have here is whole, and saving keeps it.</source>
+        <translation>No se carga nada de ello. Lo que tiene aquí está completo y guardar lo conserva.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
+        <translation><numerusform>%n archivo cambió fuera de Ivorel y se puede fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform><numerusform>%n archivos cambiaron fuera de Ivorel y se pueden fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform></translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>El proyecto cambió fuera de Ivorel desde que lo abrió.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Ivorel since you opened it.</source>
+        <translation><numerusform>%n archivo del proyecto cambió fuera de Ivorel desde que lo abrió.</numerusform><numerusform>%n archivos del proyecto cambiaron fuera de Ivorel desde que lo abrió.</numerusform></translation>
+    </message>
+    <message>
+        <source>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author's changes don't surprise you.)</source>
+        <translation>Vuelva a abrir el proyecto para cargar la versión del disco, o guarde para conservar la suya. (Es solo un aviso, para que los cambios de un cliente de sincronización o de un coautor no le sorprendan.)</translation>
+    </message>
+    <message>
+        <source>Loaded the on-disk version of the project.</source>
+        <translation>Se cargó la versión del proyecto que hay en el disco.</translation>
+    </message>
+    <message>
+        <source>Keeping your version — your next save will overwrite the on-disk changes.</source>
+        <translation>Se conserva su versión; la próxima vez que guarde se sobrescribirán los cambios del disco.</translation>
+    </message>
+    <message>
+        <source>No external changes — the project on disk matches what you have open.</source>
+        <translation>No hay cambios externos: el proyecto en el disco coincide con el que tiene abierto.</translation>
+    </message>
+    <message>
+        <source>Merged the on-disk changes with yours.</source>
+        <translation>Los cambios del disco se fusionaron con los suyos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
+        <translation><numerusform>%n archivo de medios del proyecto cambió en el disco (añadido, sustituido o eliminado por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlo actualizado.</numerusform><numerusform>%n archivos de medios del proyecto cambiaron en el disco (añadidos, sustituidos o eliminados por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlos actualizados.</numerusform></translation>
+    </message>
+    <message>
+        <source>Reloaded the project with the updated media files.</source>
+        <translation>El proyecto se volvió a cargar con los archivos de medios actualizados.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::OutsideScan</name>
+    <message>
+        <source>The project file is not readable right now; try again.</source>
+        <translation>El archivo del proyecto no se puede leer en este momento; inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project's working folder: %1</source>
+        <translation>No se pudo actualizar la carpeta de trabajo del proyecto: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::PlainTextImport</name>
     <message>
         <source>Front Matter</source>
@@ -2686,7 +2930,10 @@
     </message>
     <message numerus="yes">
         <source>The name must not begin or end with a point, nor be longer than %n character(s).</source>
-        <translation><numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n carácter.</numerusform><numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n caracteres.</numerusform></translation>
+        <translation>
+            <numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n carácter.</numerusform>
+            <numerusform>El nombre no puede empezar ni acabar con un punto, ni tener más de %n caracteres.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The project needs a place.</source>
@@ -3803,6 +4050,13 @@ Lo que se dice.
     <message>
         <source>Long sentence (%1 words). Consider breaking it up.</source>
         <translation>Frase larga (%1 palabras). Considere dividirla.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::TextSearch</name>
+    <message>
+        <source>The expression takes too many steps.</source>
+        <translation>La expresión requiere demasiados pasos.</translation>
     </message>
 </context>
 <context>
@@ -5153,7 +5407,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Deleted %n document(s).</source>
-        <translation><numerusform>Se eliminó %n documento.</numerusform><numerusform>Se eliminaron %n documentos.</numerusform></translation>
+        <translation>
+            <numerusform>Se eliminó %n documento.</numerusform>
+            <numerusform>Se eliminaron %n documentos.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5255,6 +5512,114 @@ Lo que se dice.
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>New Document</source>
+        <translation>Documento nuevo</translation>
+    </message>
+    <message>
+        <source>Today %1 · %2</source>
+        <comment>words typed today, words of the document</comment>
+        <translation>Hoy %1 · %2</translation>
+    </message>
+    <message>
+        <source>Today: words typed less words deleted. Pasted text is not counted.</source>
+        <translation>Hoy: palabras escritas menos palabras borradas. El texto pegado no cuenta.</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <source>Insert Picture</source>
+        <translation>Insertar imagen</translation>
+    </message>
+    <message>
+        <source>Save the project first. Pictures are kept in its folder, beside the text.</source>
+        <translation>Guarde primero el proyecto. Las imágenes se guardan en su carpeta, junto al texto.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ExternalChangesDialog</name>
+    <message>
+        <source>&amp;Keep my version</source>
+        <translation>&amp;Conservar mi versión</translation>
+    </message>
+    <message>
+        <source>&amp;Take on-disk version</source>
+        <translation>&amp;Tomar la versión del disco</translation>
+    </message>
+    <message>
+        <source>&amp;Edit merged text…</source>
+        <translation>&amp;Editar el texto fusionado…</translation>
+    </message>
+    <message>
+        <source>&amp;Apply Resolution</source>
+        <translation>&amp;Aplicar la resolución</translation>
+    </message>
+    <message>
+        <source>External Changes</source>
+        <translation>Cambios externos</translation>
+    </message>
+    <message>
+        <source>These files changed outside Ivorel while the project was open. Decide which version counts. The project is backed up before anything is applied, and applying it is one step that you can undo.</source>
+        <translation>Estos archivos cambiaron fuera de Ivorel mientras el proyecto estaba abierto. Decida qué versión vale. Antes de aplicar nada se hace una copia de seguridad del proyecto, y aplicarlo es un solo paso que puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Changed files</source>
+        <translation>Archivos cambiados</translation>
+    </message>
+    <message>
+        <source>Differences for the selected file — your version in red (−), the on-disk version in green (+):</source>
+        <translation>Diferencias del archivo seleccionado: su versión en rojo (−), la del disco en verde (+):</translation>
+    </message>
+    <message>
+        <source>Where both changed the text, your lines stand first and those on disk after them, with marks around them. Make one text of it and remove the marks:</source>
+        <translation>Donde ambos cambiaron el texto, sus líneas van primero y las del disco después, con marcas alrededor. Haga de ello un solo texto y quite las marcas:</translation>
+    </message>
+    <message>
+        <source>Merged text</source>
+        <translation>Texto fusionado</translation>
+    </message>
+    <message>
+        <source>&amp;Use this text</source>
+        <translation>&amp;Usar este texto</translation>
+    </message>
+    <message>
+        <source>&amp;Back to the differences</source>
+        <translation>&amp;Volver a las diferencias</translation>
+    </message>
+    <message>
+        <source>The versions of this file cannot be edited into one text.</source>
+        <translation>Las versiones de este archivo no se pueden editar en un solo texto.</translation>
+    </message>
+    <message>
+        <source>⚠ %1</source>
+        <translation>⚠ %1</translation>
+    </message>
+    <message>
+        <source>Every file is decided.</source>
+        <translation>Todos los archivos están decididos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>⚠ %n file(s) still to be decided.</source>
+        <translation><numerusform>⚠ Queda %n archivo por decidir.</numerusform><numerusform>⚠ Quedan %n archivos por decidir.</numerusform></translation>
     </message>
 </context>
 <context>
@@ -5521,6 +5886,82 @@ Lo que se dice.
             <numerusform>%n lugar había cambiado desde la búsqueda y se quedó como está.</numerusform>
             <numerusform>%n lugares habían cambiado desde la búsqueda y se quedaron como están.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::FindStrip</name>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Palabras completas</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Expresión regular</translation>
+    </message>
+    <message>
+        <source>In the selection only</source>
+        <translation>Solo en la selección</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Previous (Shift+Enter)</source>
+        <translation>Anterior (Mayús+Intro)</translation>
+    </message>
+    <message>
+        <source>Next (Enter)</source>
+        <translation>Siguiente (Intro)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Cerrar (Esc)</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Reemplazar con</translation>
+    </message>
+    <message>
+        <source>&amp;Keep case</source>
+        <translation>&amp;Conservar mayúsculas</translation>
+    </message>
+    <message>
+        <source>“Tide” becomes “Ebb” and “TIDE” becomes “EBB”.</source>
+        <translation>«Marea» pasa a «Reflujo» y «MAREA», a «REFLUJO».</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Reem&amp;plazar</translation>
+    </message>
+    <message>
+        <source>Replace A&amp;ll</source>
+        <translation>Reemplazar &amp;todo</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 reemplazados</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
+    </message>
+    <message>
+        <source>more than %1</source>
+        <translation>más de %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>the hit that is shown, all hits</comment>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
@@ -6017,6 +6458,57 @@ Lo que se dice.
     <message>
         <source>There are no documents in this backup.</source>
         <translation>No hay documentos en esta copia.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::SafeKeeping</name>
+    <message>
+        <source>External Changes</source>
+        <translation>Cambios externos</translation>
+    </message>
+    <message>
+        <source>The project is not saved yet: there is nothing on disk to compare it with.</source>
+        <translation>El proyecto aún no se ha guardado: no hay nada en el disco con que compararlo.</translation>
+    </message>
+    <message>
+        <source>&amp;Compare…</source>
+        <translation>&amp;Comparar…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep My Version</source>
+        <translation>&amp;Conservar mi versión</translation>
+    </message>
+    <message>
+        <source>&amp;Load On-Disk Version</source>
+        <translation>Ca&amp;rgar la versión del disco</translation>
+    </message>
+    <message>
+        <source>&amp;Merge and Reload</source>
+        <translation>&amp;Fusionar y volver a cargar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar c&amp;omo…</translation>
+    </message>
+    <message>
+        <source>&amp;Check Again</source>
+        <translation>&amp;Comprobar otra vez</translation>
+    </message>
+    <message>
+        <source>&amp;Reload Media</source>
+        <translation>&amp;Volver a cargar los medios</translation>
+    </message>
+    <message>
+        <source>More than half of the project is gone from the disk.</source>
+        <translation>Más de la mitad del proyecto ha desaparecido del disco.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) would be removed here as well. The project is backed up first.</source>
+        <translation><numerusform>%n archivo se eliminaría también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform><numerusform>%n archivos se eliminarían también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
     </message>
 </context>
 <context>
