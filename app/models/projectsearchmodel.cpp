@@ -1,5 +1,6 @@
 #include "app/models/projectsearchmodel.h"
 
+#include "app/models/objectpath.h"
 #include "app/models/workspace.h"
 #include "core/commands/command.h"
 #include "core/content/comment.h"
@@ -8,8 +9,6 @@
 #include "core/content/timeline.h"
 
 #include <QtConcurrent/QtConcurrentRun>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QPromise>
 
 #include <algorithm>
 
@@ -18,96 +17,6 @@ namespace vl::app {
 using namespace core;
 
 namespace {
-
-constexpr qsizetype contextBefore = 40; // UTF-16 units
-constexpr qsizetype contextAfter = 160;
-constexpr qsizetype longestShown = 400; // of a match
-constexpr int batchMilliseconds = 40;
-constexpr size_t batchFindings = 500;
-const QString ellipsis = QStringLiteral("…");
-const QString pathSeparator = QStringLiteral(" › ");
-
-/// A stretch of a text as one line: line ends as a sign, other white space and control characters
-/// as blanks.
-QString onOneLine(QStringView text)
-{
-    QString line = text.toString();
-    for (QChar &c : line) {
-        if (c == u'\n')
-            c = u'↵';
-        else if (c.isSpace() || c.category() == QChar::Other_Control)
-            c = u' ';
-    }
-    return line;
-}
-
-SearchBatch::Finding findingOf(const QString &text, std::size_t number, SearchMatch match)
-{
-    const qsizetype start = match.position;
-    const qsizetype end = start + match.length;
-    const qsizetype lineStart = start > 0 ? text.lastIndexOf(u'\n', start - 1) + 1 : 0;
-    const qsizetype lineEnd = text.indexOf(u'\n', end);
-    qsizetype from = std::max(lineStart, start - contextBefore);
-    if (from > lineStart) {
-        // From the start of a word, so that no word reads as another.
-        qsizetype word = from;
-        while (word < start && !text[word].isSpace())
-            ++word;
-        from = word < start ? word + 1 : from;
-        if (from < text.size() && text[from].isLowSurrogate())
-            ++from;
-    }
-    qsizetype to = std::min(lineEnd < 0 ? text.size() : lineEnd, end + contextAfter);
-    if (to < text.size() && text[to].isLowSurrogate())
-        --to;
-    SearchBatch::Finding finding;
-    finding.text = number;
-    finding.before = (from > lineStart ? ellipsis : QString())
-                     + onOneLine(QStringView(text).mid(from, std::max<qsizetype>(start - from, 0)));
-    finding.matched = onOneLine(QStringView(text).mid(start, std::min(match.length, longestShown)));
-    finding.after = onOneLine(QStringView(text).mid(end, std::max<qsizetype>(to - end, 0)));
-    finding.match = std::move(match);
-    return finding;
-}
-
-/// The search itself; runs on another thread.
-void search(QPromise<SearchBatch> &promise, std::shared_ptr<const std::vector<SearchText>> texts,
-            SearchPattern pattern)
-{
-    promise.setProgressRange(0, int(texts->size()));
-    SearchBatch batch;
-    int places = 0;
-    QElapsedTimer sinceBatch;
-    sinceBatch.start();
-    const auto hand = [&] {
-        if (!batch.findings.empty() || batch.isCut || batch.tooComplex)
-            promise.addResult(std::exchange(batch, {}));
-        sinceBatch.restart();
-    };
-    const auto isCancelled = [&promise] { return promise.isCanceled(); };
-    for (size_t i = 0; i < texts->size() && !promise.isCanceled() && !batch.isCut; ++i) {
-        const QString &text = (*texts)[i].text;
-        const auto receive = [&](SearchMatch match) {
-            batch.isCut = places == ProjectSearchModel::maximumPlaces;
-            if (batch.isCut)
-                return false;
-            ++places;
-            batch.findings.push_back(findingOf(text, i, std::move(match)));
-            if (batch.findings.size() >= batchFindings)
-                hand();
-            return true;
-        };
-        if (pattern.find(text, receive, isCancelled) == SearchPattern::Outcome::TooComplex) {
-            batch.tooComplex = i;
-            break;
-        }
-        if (sinceBatch.elapsed() > batchMilliseconds) {
-            promise.setProgressValue(int(i));
-            hand();
-        }
-    }
-    hand();
-}
 
 ProjectSearchModel::Kind kindOf(const Project &project, const ContentObject &object)
 {
@@ -130,22 +39,6 @@ ProjectSearchModel::Kind kindOf(const Project &project, const ContentObject &obj
     default:
         return Kind::Other;
     }
-}
-
-QString pathOf(const Project &project, const ContentId &id)
-{
-    constexpr int deepest = 64; // parents in a circle end somewhere
-    QStringList path;
-    if (const auto *document = project.find<Document>(id)) {
-        const auto *above = project.find<Document>(document->parentId());
-        for (; above && path.size() < deepest; above = project.find<Document>(above->parentId()))
-            path.prepend(above->title());
-    } else if (const auto *entity = project.find<Entity>(id)) {
-        const Category *above = project.taxonomy().find(entity->categoryId());
-        for (; above && path.size() < deepest; above = project.taxonomy().find(above->parentId))
-            path.prepend(above->name);
-    }
-    return path.join(pathSeparator);
 }
 
 } // namespace
@@ -245,7 +138,13 @@ void ProjectSearchModel::begin(const std::set<HitKey> &unticked)
             m_texts = std::make_shared<const std::vector<SearchText>>(
                 searchTexts(m_workspace.project(), m_scopes));
             m_isRunning = true;
-            m_watcher.setFuture(QtConcurrent::run(search, m_texts, *std::move(pattern)));
+            m_watcher.setFuture(QtConcurrent::run(
+                [](QPromise<SearchBatch> &promise,
+                   const std::shared_ptr<const std::vector<SearchText>> &texts,
+                   const SearchPattern &compiled) {
+                    runSearch(promise, *texts, compiled, maximumPlaces);
+                },
+                m_texts, *std::move(pattern)));
         } else {
             m_error = pattern.message();
         }
@@ -294,7 +193,7 @@ ProjectSearchModel::Group ProjectSearchModel::makeGroup(const SearchTarget &targ
     case SearchTarget::Kind::Object:
         if (const ContentObject *object = project.find(target.id)) {
             group.kind = kindOf(project, *object);
-            group.path = pathOf(project, target.id);
+            group.path = pathLine(objectPath(project, target.id));
             if (const auto *comment = contentCast<Comment>(object)) {
                 const auto *about = project.find<Document>(comment->targetId());
                 group.title = about ? tr("Comment on “%1”").arg(about->title()) : tr("Comment");
@@ -525,7 +424,7 @@ QVariant ProjectSearchModel::headerData(const Group &group, int role) const
     case Qt::AccessibleTextRole:
         return tr("%1: %n place(s)", nullptr, int(group.hits.size())).arg(group.title);
     case Qt::ToolTipRole:
-        return (group.path.isEmpty() ? group.title : group.path + pathSeparator + group.title)
+        return (group.path.isEmpty() ? group.title : pathLine({group.path, group.title}))
             .toHtmlEscaped();
     case Qt::CheckStateRole:
         if (!m_replacement || replaceable == 0)

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/models/projectsearchpattern.h"
-#include "app/models/projectsearchtexts.h"
+#include "app/models/projectsearchrun.h"
 
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QFutureWatcher>
@@ -17,22 +16,6 @@ class ChangeSet;
 namespace vl::app {
 
 class Workspace;
-
-/// What a search found in some of the texts; made on another thread.
-struct SearchBatch
-{
-    struct Finding
-    {
-        std::size_t text = 0; ///< which of the texts searched
-        SearchMatch match;
-        QString before; ///< what stands before it on its line, shortened
-        QString matched;
-        QString after;
-    };
-    std::vector<Finding> findings;
-    bool isCut = false;               ///< there was more than is listed
-    std::optional<size_t> tooComplex; ///< the text on which an expression was given up
-};
 
 /// A search through the whole project, and the replacing of what it found. It searches on another
 /// thread in a copy that shares its data; its rows are objects, each followed by the places found

@@ -1,5 +1,6 @@
 #include "app/models/quickopenindex.h"
 
+#include "app/models/objectpath.h"
 #include "app/models/workspace.h"
 #include "core/content/document.h"
 #include "core/content/entity.h"
@@ -16,7 +17,6 @@ using core::Entity;
 namespace {
 
 constexpr int aliasCost = 6;
-constexpr int deepestPath = 64; // parents in a circle end somewhere
 
 } // namespace
 
@@ -213,19 +213,7 @@ QString QuickOpenIndex::nameOf(const ContentId &id) const
 
 QStringList QuickOpenIndex::pathOf(const ContentId &id) const
 {
-    const core::Project &project = m_workspace.project();
-    QStringList path;
-    if (const auto *document = project.find<Document>(id)) {
-        const auto *above = project.find<Document>(document->parentId());
-        for (; above && path.size() < deepestPath;
-             above = project.find<Document>(above->parentId()))
-            path.prepend(above->title());
-    } else if (const auto *entity = project.find<Entity>(id)) {
-        const core::Category *above = project.taxonomy().find(entity->categoryId());
-        for (; above && path.size() < deepestPath; above = project.taxonomy().find(above->parentId))
-            path.prepend(above->name);
-    }
-    return path;
+    return objectPath(m_workspace.project(), id);
 }
 
 } // namespace vl::app

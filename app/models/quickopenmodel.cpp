@@ -1,5 +1,6 @@
 #include "app/models/quickopenmodel.h"
 
+#include "app/models/objectpath.h"
 #include "app/models/workspace.h"
 #include "core/content/document.h"
 #include "core/content/entity.h"
@@ -25,8 +26,6 @@ constexpr int recentWorth = 30;
 constexpr int commandCost = 8;
 constexpr int keywordCost = 24;
 constexpr int disabledCost = 40;
-
-const QString pathSeparator = QStringLiteral(" › ");
 
 /// How much more what was used lately is worth than what matches as well, by its place from 0.
 int recentBonus(qsizetype place)
@@ -360,7 +359,7 @@ QString QuickOpenModel::detailOf(const Row &row) const
     default:
         break;
     }
-    const QString path = m_index.pathOf(row.id).join(pathSeparator);
+    const QString path = pathLine(m_index.pathOf(row.id));
     const auto *entity = m_workspace.project().find<Entity>(row.id);
     if (row.alias < 0 || !entity || row.alias >= entity->aliases().size())
         return path;

@@ -43,7 +43,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     buttons->button(QDialogButtonBox::Close)->setFocus();
-    resize(grid(widthSteps), grid(heightSteps));
+    sizeDialog(this, widthSteps, heightSteps);
 }
 
 QWidget *AboutDialog::makeHead()

@@ -82,7 +82,7 @@ NewProjectDialog::NewProjectDialog(const QString &place, QWidget *parent)
         connect(field, &QLineEdit::textChanged, this, &NewProjectDialog::update);
     connect(m_file, &QRadioButton::toggled, this, &NewProjectDialog::update);
     m_name->setFocus();
-    resize(grid(widthSteps), grid(heightSteps));
+    sizeDialog(this, widthSteps, heightSteps);
     update();
 }
 

@@ -91,7 +91,7 @@ WelcomeDialog::WelcomeDialog(const Offers &offers, QWidget *parent)
         connect(list, &QListWidget::itemClicked, this, &WelcomeDialog::take);
     }
     steps->setFocus();
-    resize(grid(widthSteps), grid(heightSteps));
+    sizeDialog(this, widthSteps, heightSteps);
 }
 
 QWidget *WelcomeDialog::makeHead()

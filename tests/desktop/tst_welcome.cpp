@@ -1,0 +1,142 @@
+#include "app/base/settingskeys.h"
+#include "app/models/newproject.h"
+#include "desktop/dialogs/about.h"
+#include "desktop/dialogs/newproject.h"
+#include "desktop/dialogs/welcome.h"
+#include "desktop/shell/mainwindow.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTextEdit>
+
+using namespace vl;
+using desktop::NewProjectDialog;
+using desktop::WelcomeDialog;
+
+namespace {
+
+struct Window
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    desktop::MainWindow window{settings, &prompts};
+
+    Window()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        window.show();
+    }
+    template<typename Dialog>
+    Dialog *open(const char *action)
+    {
+        window.actions().action(action)->trigger();
+        return window.findChild<Dialog *>();
+    }
+};
+
+void everyControlHasAName(const QWidget &dialog)
+{
+    const auto widgets = dialog.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        const bool isField = qobject_cast<const QLineEdit *>(widget)
+                             || qobject_cast<const QAbstractItemView *>(widget);
+        if ((button || isField) && !qobject_cast<const QLineEdit *>(widget->parent()))
+            QVERIFY2(!widget->accessibleName().isEmpty() || (button && !button->text().isEmpty()),
+                     widget->metaObject()->className());
+    }
+}
+
+} // namespace
+
+class TestWelcome : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theWelcomeLeadsOn();
+    void missingProjectsAreNotOffered();
+    void aProjectIsMade();
+    void aboutTellsWhatItStandsOn();
+};
+
+void TestWelcome::theWelcomeLeadsOn()
+{
+    Window desk;
+    QVERIFY(!desk.settings.contains(QLatin1String(app::settings::welcomed.name)));
+    auto *welcome = desk.open<WelcomeDialog>("help.welcome");
+    QVERIFY(welcome && welcome->isVisible());
+    QVERIFY(desk.settings.contains(QLatin1String(app::settings::welcomed.name)));
+    everyControlHasAName(*welcome);
+    auto *steps = welcome->findChild<QListWidget *>(QStringLiteral("welcomeSteps"));
+    QVERIFY(steps);
+    QTest::keyClick(steps, Qt::Key_Return); // the first step is a new project
+    QVERIFY(!welcome->isVisible());
+    QVERIFY(desk.window.findChild<NewProjectDialog *>());
+}
+
+void TestWelcome::missingProjectsAreNotOffered()
+{
+    Window desk;
+    const auto made = app::ProjectMaker::make(
+        {QStringLiteral("novel"), QStringLiteral("Here"), desk.dir.path(), true});
+    QVERIFY(made);
+    desk.settings.addRecentProject(*made);
+    desk.settings.addRecentProject(desk.dir.filePath(QStringLiteral("Gone.vellum")));
+    auto *welcome = desk.open<WelcomeDialog>("help.welcome");
+    QVERIFY(welcome);
+    auto *recent = welcome->findChild<QListWidget *>(QStringLiteral("welcomeRecent"));
+    QCOMPARE(recent->count(), 2);
+    QVERIFY(!recent->item(0)->flags().testFlag(Qt::ItemIsEnabled));
+    QTest::mouseClick(recent->viewport(), Qt::LeftButton, {},
+                      recent->visualItemRect(recent->item(0)).center());
+    QVERIFY(welcome->isVisible());
+    QTest::mouseClick(recent->viewport(), Qt::LeftButton, {},
+                      recent->visualItemRect(recent->item(1)).center());
+    QCOMPARE(desk.window.workspace().current().name(), QStringLiteral("Here"));
+}
+
+void TestWelcome::aProjectIsMade()
+{
+    Window desk;
+    desk.settings.set(app::settings::newProjectPlace, desk.dir.path());
+    auto *dialog = desk.open<NewProjectDialog>("file.new");
+    QVERIFY(dialog);
+    everyControlHasAName(*dialog);
+    QPushButton *create = nullptr;
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        if (button->isDefault())
+            create = button;
+    QVERIFY(create && !create->isEnabled()); // it has no name yet
+    auto *name = qobject_cast<QLineEdit *>(dialog->focusWidget());
+    QVERIFY(name);
+    QTest::keyClicks(name, QStringLiteral("a/b"));
+    QVERIFY(!create->isEnabled());
+    name->setText(QStringLiteral("Tale"));
+    QVERIFY(create->isEnabled());
+    QTest::keyClick(name, Qt::Key_Return);
+    QCOMPARE(desk.prompts.errors, QStringList());
+    QCOMPARE(desk.window.workspace().current().path(),
+             desk.dir.filePath(QStringLiteral("Tale.vellum")));
+    QVERIFY(desk.window.workspace().project().size() > 8);
+}
+
+void TestWelcome::aboutTellsWhatItStandsOn()
+{
+    Window desk;
+    auto *about = desk.open<desktop::AboutDialog>("help.about");
+    QVERIFY(about);
+    everyControlHasAName(*about);
+    const auto *licences = about->findChild<QTextEdit *>();
+    QVERIFY(licences && licences->toPlainText().contains(QLatin1String("LGPL")));
+}
+
+QTEST_MAIN(TestWelcome)
+#include "tst_welcome.moc"
