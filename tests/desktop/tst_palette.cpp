@@ -3,6 +3,7 @@
 #include "core/commands/objectcommands.h"
 #include "core/content/entity.h"
 #include "desktop/dialogs/palette.h"
+#include "desktop/editor/editorsession.h"
 #include "desktop/panels/editorpanel.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
@@ -85,7 +86,7 @@ void TestPalette::enterOpensADocument()
     QTest::keyClick(field, Qt::Key_Return);
     QVERIFY(!desk.palette()->isVisible());
     QCOMPARE(desk.workspace.selection(), QList<ContentId>{storm});
-    QCOMPARE(desk.window.findChild<desktop::EditorPanel *>()->documentId(), storm);
+    QCOMPARE(desk.window.findChild<desktop::EditorPanel *>()->session()->documentId(), storm);
     // It opens empty again, with the place before as its first row.
     field = desk.openPalette();
     QVERIFY(field && field->text().isEmpty());
