@@ -8,10 +8,12 @@
 #include "app/storage/assets.h"
 #include "core/content/document.h"
 #include "desktop/actions/actionregistry.h"
+#include "desktop/editor/distractionfree.h"
 #include "desktop/editor/editorlayout.h"
 #include "desktop/editor/editorpictures.h"
 #include "desktop/editor/editorsession.h"
 #include "desktop/editor/findstrip.h"
+#include "desktop/editor/pageview.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/widgets/elidedlabel.h"
 #include "desktop/widgets/emptystate.h"
@@ -33,6 +35,10 @@
 namespace vl::desktop {
 
 namespace {
+
+constexpr int pageFillMilliseconds = 400;
+constexpr int emptyPage = 0;
+constexpr int textPage = 1;
 
 /// The words between two places, from what each line knows of itself.
 qsizetype wordsBetween(const QTextDocument &document, int from, int to)
@@ -73,6 +79,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     , m_strip(new FindStrip(context, m_session, m_text, this))
     , m_pictures(new EditorPictures(this))
     , m_pages(new QStackedWidget(this))
+    , m_pageView(new PageView(this))
     , m_title(new ElidedLabel({}, this))
     , m_counts(new QLabel(this))
 {
@@ -83,12 +90,26 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     m_text->setAccessibleName(tr("Text of the document"));
     m_pages->addWidget(makeEmptyPage());
     m_pages->addWidget(m_text);
+    m_pages->addWidget(m_pageView);
     layout->addWidget(m_strip);
     layout->addWidget(m_pages, 1);
     buildFooter(layout);
     setFocusProxy(m_text);
 
     connect(m_session, &EditorSession::opened, this, &EditorPanel::showOpened);
+    m_pageFill.setSingleShot(true);
+    m_pageFill.setInterval(pageFillMilliseconds);
+    connect(&m_pageFill, &QTimer::timeout, this, &EditorPanel::fillPages);
+    connect(m_session, &EditorSession::edited, this, [this] {
+        if (m_pages->currentWidget() == m_pageView)
+            m_pageFill.start();
+    });
+    connect(m_pageView, &PageView::placeChosen, this, [this](qsizetype place) {
+        m_context.actions["view.pageLayout"]->setChecked(false);
+        m_text->select(place, place);
+        m_text->centerCursor();
+        m_text->setFocus();
+    });
     connect(m_session, &EditorSession::titleChanged, this, &EditorPanel::showTitle);
     connect(m_session, &EditorSession::edited, this, &EditorPanel::updateCounts);
     connect(m_text, &QPlainTextEdit::selectionChanged, this, &EditorPanel::updateCounts);
@@ -113,6 +134,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
 
 EditorPanel::~EditorPanel()
 {
+    setDistractionFree(false);
     delete m_strip; // both look at the text field
     delete m_session;
 }
@@ -142,6 +164,14 @@ void EditorPanel::buildFooter(QLayout *layout)
 void EditorPanel::bindActions()
 {
     m_context.actions.bind("doc.split", this, &EditorPanel::splitAtCaret);
+    // On and off, as their ticks say.
+    for (const auto &[id, slot] :
+         {std::pair("view.distractionFree", &EditorPanel::setDistractionFree),
+          std::pair("view.pageLayout", &EditorPanel::showPages)}) {
+        m_context.actions[id]->setCheckable(true);
+        m_context.actions.bind(id, this, [] {});
+        connect(m_context.actions[id], &QAction::toggled, this, slot);
+    }
     m_context.actions.bind("text.strong", this,
                            [this] { m_text->toggleMarks(QStringLiteral("**")); });
     m_context.actions.bind("text.emphasis", this,
@@ -159,7 +189,9 @@ void EditorPanel::restyle()
 {
     m_text->setStyle(std::make_shared<EditorStyle>(m_context.settings, palette()));
     m_text->setTypographic(m_context.settings.flag(app::settings::editorSmartQuotes));
-    m_text->setTypewriter(m_context.settings.flag(app::settings::editorTypewriter));
+    m_text->setTypewriter(m_distractionFree
+                          || m_context.settings.flag(app::settings::editorTypewriter));
+    setUpPages();
 }
 
 void EditorPanel::showOpened()
@@ -168,7 +200,17 @@ void EditorPanel::showOpened()
     for (const char *id : {"doc.split", "text.strong", "text.emphasis", "edit.find", "edit.replace",
                            "edit.findNext", "edit.findPrevious"})
         m_context.actions[id]->setEnabled(isOpen);
-    m_pages->setCurrentIndex(isOpen ? 1 : 0);
+    for (const char *id : {"view.distractionFree", "view.pageLayout"})
+        m_context.actions[id]->setEnabled(isOpen);
+    if (m_distractionFree && !isOpen)
+        m_context.actions["view.distractionFree"]->setChecked(false);
+    const bool showsPages = m_context.actions["view.pageLayout"]->isChecked();
+    if (!m_distractionFree && !(isOpen && showsPages))
+        m_pages->setCurrentIndex(isOpen ? textPage : emptyPage);
+    else if (!m_distractionFree)
+        m_pages->setCurrentWidget(m_pageView);
+    m_pageView->clear();
+    fillPages();
     showTitle();
     updateCounts();
 }
@@ -208,6 +250,8 @@ void EditorPanel::updateCounts()
                          words);
     m_counts->setText(tr("Today %1 · %2", "words typed today, words of the document")
                           .arg(number(m_session->wordsToday()), words));
+    if (m_distractionFree)
+        m_distractionFree->setFoot(m_counts->text());
     m_counts->setToolTip(tr("Today: words typed less words deleted. Pasted text is not counted."));
 }
 
@@ -271,6 +315,66 @@ void EditorPanel::insertPicture(const QImage &image)
     const QString file = dir.filePath(QStringLiteral("picture.png"));
     if (!image.isNull() && image.save(file))
         insertPictureFiles({file});
+}
+
+void EditorPanel::setDistractionFree(bool isOn)
+{
+    if (isOn == (m_distractionFree != nullptr) || (isOn && !m_session->live()))
+        return;
+    m_text->notePlace();
+    if (isOn) {
+        m_context.actions["view.pageLayout"]->setChecked(false);
+        m_pages->setCurrentIndex(emptyPage);
+        m_distractionFree = new DistractionFree(m_context.actions, m_strip, m_text, this);
+        connect(m_distractionFree, &DistractionFree::leaveRequested, this,
+                [this] { m_context.actions["view.distractionFree"]->setChecked(false); });
+        m_distractionFree->setGeometry(screen()->geometry());
+        m_distractionFree->showFullScreen();
+    } else {
+        static_cast<QVBoxLayout *>(layout())->insertWidget(0, m_strip);
+        m_pages->insertWidget(textPage, m_text);
+        m_pages->setCurrentIndex(m_session->live() ? textPage : emptyPage);
+        std::exchange(m_distractionFree, nullptr)->deleteLater();
+        window()->activateWindow();
+    }
+    m_text->show();
+    m_text->goToPlace();
+    m_text->setTypewriter(isOn || m_context.settings.flag(app::settings::editorTypewriter));
+    m_text->setFocus();
+    updateCounts();
+}
+
+void EditorPanel::showPages(bool isOn)
+{
+    if (!m_session->live())
+        return;
+    if (isOn) {
+        m_context.actions["view.distractionFree"]->setChecked(false);
+        m_session->handIn();
+        m_pages->setCurrentWidget(m_pageView);
+        fillPages();
+        m_pageView->goTo(m_text->caret());
+        m_pageView->setFocus();
+        setFocusProxy(m_pageView);
+    } else {
+        m_pages->setCurrentIndex(textPage);
+        m_pageView->clear();
+        setFocusProxy(m_text);
+        m_text->setFocus();
+    }
+}
+
+void EditorPanel::fillPages()
+{
+    const core::Document *shown = m_session->document();
+    if (shown && m_context.actions["view.pageLayout"]->isChecked())
+        m_pageView->setText(shown->title(), m_session->live()->text());
+}
+
+void EditorPanel::setUpPages()
+{
+    const EditorStyle *style = m_text->style();
+    m_pageView->setSetup(PageSetup::standard(style->font().family(), style->lineSpacing()));
 }
 
 } // namespace vl::desktop

@@ -3,6 +3,7 @@
 #include "core/id.h"
 #include "desktop/panels/panelcontext.h"
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
 class QLabel;
@@ -11,10 +12,12 @@ class QStackedWidget;
 
 namespace vl::desktop {
 
+class DistractionFree;
 class EditorPictures;
 class EditorSession;
 class EditorTextWidget;
 class FindStrip;
+class PageView;
 
 /// Where the selected document is written: its text, a strip to find and replace in it, and its
 /// numbers at the foot.
@@ -44,6 +47,10 @@ private:
     void showMenu(const QPoint &globalPosition);
     void insertPictureFiles(const QStringList &files);
     void insertPicture(const QImage &image);
+    void setDistractionFree(bool isOn);
+    void showPages(bool isOn);
+    void fillPages();
+    void setUpPages();
 
     PanelContext m_context;
     EditorTextWidget *m_text;
@@ -51,6 +58,9 @@ private:
     FindStrip *m_strip;
     EditorPictures *m_pictures;
     QStackedWidget *m_pages;
+    PageView *m_pageView;
+    QTimer m_pageFill; ///< fills the pages anew after a pause of the edits
+    DistractionFree *m_distractionFree = nullptr; ///< while it has the text
     QLabel *m_title;
     QLabel *m_counts;
 };

@@ -5,6 +5,7 @@
 #include "desktop/editor/editorlayout.h"
 #include "desktop/editor/findstrip.h"
 #include "desktop/editor/livedocument.h"
+#include "desktop/editor/pagelayout.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
 #include "tests/support/fakeprompts.h"
@@ -95,6 +96,10 @@ private Q_SLOTS:
     void typographyCanBeTakenBack();
     void listsAndMarksByKey();
     void findsAndReplaces();
+    void distractionFreeGivesTheTextBack();
+    void pagesHoldEveryRowOnce_data();
+    void pagesHoldEveryRowOnce();
+    void pagesPrintWhatIsMeant();
     void hostileTexts_data();
     void hostileTexts();
 };
@@ -358,6 +363,108 @@ void TestEditor::findsAndReplaces()
     QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);
     QVERIFY(!desk.strip->isVisible());
     QVERIFY(desk.text->hasFocus());
+}
+
+void TestEditor::distractionFreeGivesTheTextBack()
+{
+    Window desk;
+    desk.add(QStringLiteral("A line of a text.\n").repeated(300));
+    desk.text->select(4000, 4003);
+    desk.text->centerCursor();
+    const QWidget *home = desk.text->parentWidget();
+    const int scroll = desk.text->verticalScrollBar()->value();
+    QAction *action = desk.window.actions()["view.distractionFree"];
+    action->trigger();
+    QVERIFY(desk.text->window() != &desk.window);
+    QVERIFY(desk.text->window()->isFullScreen());
+    QVERIFY(desk.text->viewport()->rect().contains(desk.text->cursorRect().center()));
+    desk.type(QStringLiteral("new"));
+    QTest::keyClick(desk.text, Qt::Key_F, Qt::ControlModifier); // the window's keys work
+    QVERIFY(desk.strip->isVisible());
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);
+    QVERIFY(action->isChecked());
+    QTest::keyClick(desk.text, Qt::Key_Escape);
+    QVERIFY(!action->isChecked());
+    QCOMPARE(desk.text->parentWidget(), home);
+    QCOMPARE(desk.text->window(), &desk.window);
+    QVERIFY(desk.text->isVisible());
+    QCOMPARE(desk.text->caret(), qsizetype(4003));
+    QVERIFY(qAbs(desk.text->verticalScrollBar()->value() - scroll) < 30);
+    QVERIFY(desk.text->text().contains(QStringLiteral("new")));
+    action->trigger(); // a document that goes takes the mode along
+    desk.workspace().undo();
+    desk.workspace().undo();
+    QVERIFY(!action->isChecked());
+    QVERIFY(!action->isEnabled());
+}
+
+void TestEditor::pagesHoldEveryRowOnce_data()
+{
+    QTest::addColumn<QString>("text");
+    const QString sentence = QStringLiteral("The lamps were lit from the water upward. ");
+    QTest::newRow("prose") << (sentence.repeated(9) + QStringLiteral("\n\n")).repeated(120);
+    QTest::newRow("one paragraph") << sentence.repeated(2000);
+    QTest::newRow("headings") << (QStringLiteral("# Heading\n") + sentence.repeated(3)
+                                  + QStringLiteral("\n\n"))
+                                     .repeated(80);
+    QTest::newRow("without a blank") << QString(100'000, u'x');
+    QTest::newRow("empty") << QString();
+}
+
+void TestEditor::pagesHoldEveryRowOnce()
+{
+    QFETCH(QString, text);
+    const desktop::PageSetup setup = desktop::PageSetup::standard(QStringLiteral("serif"), 1.5);
+    const auto paragraphs = desktop::printedParagraphs(text, setup);
+    std::vector<desktop::Page> pages;
+    const std::atomic_bool isCancelled = false;
+    desktop::fillPages(
+        paragraphs, setup, [&](desktop::Page page) { pages.push_back(std::move(page)); },
+        isCancelled);
+    QVERIFY(!pages.empty());
+
+    int paragraph = -1;
+    int row = 0;
+    int rows = 0;
+    qreal step = 0;
+    for (const desktop::Page &page : pages) {
+        qreal y = -1;
+        for (size_t i = 0; i < page.size(); ++i) {
+            if (page[i].paragraph != paragraph) {
+                QCOMPARE(row, rows); // the one before is whole
+                QCOMPARE(page[i].paragraph, ++paragraph);
+                QTextLayout layout;
+                step = desktop::layOutParagraph(layout, paragraphs[size_t(paragraph)], setup);
+                rows = qMax(1, layout.lineCount());
+                row = 0;
+            }
+            QCOMPARE(page[i].row, row++);
+            QVERIFY(page[i].y > y && page[i].y + step <= setup.room().height() + 0.01);
+            y = page[i].y;
+            // No first or last row alone.
+            if (i == 0 && rows > 2)
+                QVERIFY(page[i].row != rows - 1);
+            if (i + 1 == page.size() && rows > 2)
+                QVERIFY(page[i].row != 0);
+            if (i + 1 == page.size() && &page != &pages.back())
+                QVERIFY(!paragraphs[size_t(paragraph)].keepsWithNext);
+        }
+    }
+    QCOMPARE(row, rows);
+    QCOMPARE(paragraph + 1, int(paragraphs.size()));
+}
+
+void TestEditor::pagesPrintWhatIsMeant()
+{
+    const desktop::PageSetup setup = desktop::PageSetup::standard(QStringLiteral("serif"), 1.5);
+    const QString text = QStringLiteral(
+        "# A *title*\nOne\n**two**[^n]\n\n> three[^m] a[^n]\n\n- four\n\n***\n\n[^n]: note\nfive");
+    QStringList printed;
+    for (const desktop::PrintedParagraph &paragraph : desktop::printedParagraphs(text, setup)) {
+        printed.append(paragraph.text);
+        QVERIFY(paragraph.source >= 0 && paragraph.source < text.size());
+    }
+    QCOMPARE(printed.join(u'|'), QStringLiteral("A title|One two1|three2 a1|• four|***|five"));
 }
 
 void TestEditor::hostileTexts_data()
