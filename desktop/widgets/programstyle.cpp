@@ -1,5 +1,6 @@
 #include "desktop/widgets/programstyle.h"
 
+#include "desktop/shell/icons.h"
 #include "desktop/shell/theme.h"
 #include "desktop/widgets/grid.h"
 
@@ -92,10 +93,45 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const
 {
+    const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
     if (element == CE_FocusFrame)
         painter->fillRect(option->rect, focusColour(option->palette));
+    else if (element == CE_MenuItem && entry)
+        drawMenuItem(*entry, painter, widget);
     else
         QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void ProgramStyle::drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter,
+                                const QWidget *widget) const
+{
+    // The style asks for the icon of a button under the mouse, which has another ground.
+    const bool isLit = entry.state.testFlag(State_Selected) && entry.state.testFlag(State_Enabled);
+    if (isLit && !entry.icon.isNull()) {
+        const int side = pixelMetric(PM_SmallIconSize, &entry, widget);
+        entry.icon = QIcon(entry.icon.pixmap(
+            QSize(side, side), painter->device()->devicePixelRatio(), QIcon::Selected));
+    }
+    QProxyStyle::drawControl(CE_MenuItem, &entry, painter, widget);
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption *option,
+                                 const QWidget *widget) const
+{
+    switch (which) {
+    case SP_MessageBoxInformation:
+        return icon(QStringLiteral("info"));
+    case SP_MessageBoxQuestion:
+        return icon(QStringLiteral("question"));
+    case SP_MessageBoxWarning:
+        return icon(QStringLiteral("warning"));
+    case SP_MessageBoxCritical:
+        return icon(QStringLiteral("error"));
+    case SP_LineEditClearButton:
+        return icon(QStringLiteral("close"));
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
 }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,

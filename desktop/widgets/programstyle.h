@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QStyleOption>
 
 namespace vl::desktop {
 
@@ -22,6 +23,12 @@ public:
                        const QWidget *widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget) const override;
+    /// The boxes and fields of the toolkit take their pictures from the program's own family.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                       const QWidget *widget) const override;
+
+private:
+    void drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter, const QWidget *widget) const;
 };
 
 } // namespace vl::desktop
