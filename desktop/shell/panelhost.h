@@ -49,6 +49,7 @@ private:
     void place(ads::CDockWidget *dock, const PanelRow &row);
     void placeStrays();
     void sizeAreas();
+    void dress();
     void fetchFloating();
     void stretchCentre();
 
