@@ -1,12 +1,15 @@
 #include "desktop/panels/codexpanel.h"
 
+#include "app/models/codexmerge.h"
 #include "app/models/codexmodel.h"
 #include "app/models/codexoperations.h"
 #include "app/models/objecttexts.h"
 #include "app/models/prompts.h"
+#include "app/models/referencesmodel.h"
 #include "app/models/workspace.h"
 #include "core/content/entity.h"
 #include "core/projectrecords.h"
+#include "desktop/dialogs/codexdialogs.h"
 #include "desktop/dialogs/fielddialog.h"
 #include "desktop/dialogs/pickdialog.h"
 #include "desktop/panels/rowdelegate.h"
@@ -140,9 +143,9 @@ void CodexPanel::makeEntries()
     addMore(tr("Toggle Pin"), Needs::Entities, &CodexPanel::togglePin);
     addMore(tr("Edit Tags…"), Needs::Entities, &CodexPanel::editTags);
     addMore(tr("Save Entity as Template…"), Needs::OneEntity, &CodexPanel::saveAsTemplate);
-    addMore(tr("Manage Entity Templates…"), Needs::NotYet, &CodexPanel::manageTemplates);
-    addMore(tr("Merge Entity Into…"), Needs::NotYet, &CodexPanel::mergeInto);
-    addMore(tr("Split Entity…"), Needs::NotYet, &CodexPanel::split);
+    addMore(tr("Manage Entity Templates…"), Needs::Template, &CodexPanel::manageTemplates);
+    addMore(tr("Merge Entity Into…"), Needs::OneEntity, &CodexPanel::mergeInto);
+    addMore(tr("Split Entity…"), Needs::OneEntity, &CodexPanel::split);
     addMore(tr("State Over Time…"), Needs::NotYet, &CodexPanel::nothing);
     addMore(tr("Draft Details with AI…"), Needs::NotYet, &CodexPanel::nothing);
 }
@@ -251,7 +254,8 @@ bool CodexPanel::eventFilter(QObject *watched, QEvent *event)
         return QWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
     const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (watched == m_tree && isEnter) {
+    // Enter that ends the editing of a name comes by here, too.
+    if (watched == m_tree && isEnter && m_tree->hasFocus()) {
         openInInspector();
         return true;
     }
@@ -488,11 +492,72 @@ void CodexPanel::saveAsTemplate()
     m_context.notices.offerUndo(tr("The template “%1” was saved.").arg(app::rowText(name)));
 }
 
-void CodexPanel::manageTemplates() {}
+void CodexPanel::manageTemplates()
+{
+    const auto kept = askTemplates(m_context.workspace.project().entityTemplates(), window());
+    if (kept)
+        operations().setTemplates(*kept);
+}
 
-void CodexPanel::mergeInto() {}
+void CodexPanel::mergeInto()
+{
+    const Ids ids = operations().entitiesOf(selectedIds());
+    if (ids.isEmpty())
+        return;
+    const core::Project &project = m_context.workspace.project();
+    app::ReferencesModel others(m_context.workspace);
+    others.refresh();
+    QStringList names;
+    Ids targets;
+    for (int row = 0; row < others.rowCount(); ++row) {
+        const QModelIndex index = others.index(row);
+        if (others.idAt(index) == ids.first())
+            continue;
+        names.append(index.data().toString());
+        targets.append(others.idAt(index));
+    }
+    const QString source = app::rowText(project.find<core::Entity>(ids.first())->name());
+    const int chosen = PickDialog::pick(tr("Merge Entity Into"), tr("Merge “%1” into:").arg(source),
+                                        names, tr("Continue"), window());
+    if (chosen < 0)
+        return;
+    const ContentId target = targets.at(chosen);
+    app::CodexMerge merge(m_context.workspace);
+    const auto taken =
+        askMerge(source, names.at(chosen), merge.conflicts(ids.first(), target), window());
+    if (!taken)
+        return;
+    merge.merge(ids.first(), target, *taken);
+    reveal({target});
+    m_context.notices.offerUndo(tr("“%1” was merged.").arg(source));
+}
 
-void CodexPanel::split() {}
+void CodexPanel::split()
+{
+    const core::Project &project = m_context.workspace.project();
+    const auto *entity = project.find<core::Entity>(currentId());
+    if (!entity)
+        return;
+    QList<std::pair<QString, QString>> values;
+    QHash<QString, QString> labels;
+    for (const core::FieldDefinition &field : app::codexFields(project, entity->categoryId()))
+        labels.insert(field.key, field.label);
+    for (const auto &[key, value] : entity->values()) {
+        if (value.isEmpty())
+            continue;
+        const core::ContentObject *object = project.find(ContentId::fromString(value));
+        values.append(
+            {key, tr("%1: %2").arg(labels.value(key, key),
+                                   app::rowText(object ? app::titleOf(*object) : value))});
+    }
+    const ContentId id = entity->id();
+    const auto choice = askSplit(app::rowText(entity->name()), values, entity->aliases(), window());
+    if (!choice)
+        return;
+    const ContentId part =
+        app::CodexMerge(m_context.workspace).split(id, choice->name, choice->keys, choice->aliases);
+    reveal({part});
+}
 
 void CodexPanel::cut()
 {

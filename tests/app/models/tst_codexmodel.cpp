@@ -1,9 +1,11 @@
+#include "app/models/codexmerge.h"
 #include "app/models/codexmodel.h"
 #include "app/models/codexoperations.h"
 #include "app/models/workspace.h"
 #include "core/commands/codexcommands.h"
 #include "core/commands/objectcommands.h"
 #include "core/content/task.h"
+#include "core/content/timeline.h"
 
 #include <QtCore/QMimeData>
 #include <QtCore/QRandomGenerator>
@@ -97,6 +99,8 @@ private Q_SLOTS:
     void tagsOfSeveral();
     void templatesFillNewEntities();
     void pastesWhatWasCutOrCopied();
+    void mergesTwoIntoOne();
+    void splitsOneIntoTwo();
     void followsAnyHistory_data();
     void followsAnyHistory();
 };
@@ -524,6 +528,87 @@ void TestCodexModel::pastesWhatWasCutOrCopied()
     foreign.setText(QStringLiteral("text"));
     QVERIFY(!operations.canPaste(&foreign));
     QVERIFY(operations.paste(&foreign, places).isEmpty());
+}
+
+void TestCodexModel::mergesTwoIntoOne()
+{
+    Codex codex(world());
+    core::Project &project = codex.workspace.project();
+    Entity &ann = codex.entity(QStringLiteral("ann"));
+    Entity &bob = codex.entity(QStringLiteral("bob"));
+    Entity &zed = codex.entity(QStringLiteral("zed"));
+    const QString annId = ann.id().toString();
+    ann.setValues({{QStringLiteral("age"), QStringLiteral("7")},
+                   {QStringLiteral("eyes"), QStringLiteral("grey")},
+                   {QStringLiteral("job"), QStringLiteral("cook")}});
+    bob.setValues({{QStringLiteral("age"), QStringLiteral("9")},
+                   {QStringLiteral("eyes"), QStringLiteral("blue")}});
+    ann.setTags({QStringLiteral("t")});
+    ann.setAliases({QStringLiteral("bob"), QStringLiteral("Annie")});
+    ann.setAiExcluded(true);
+    zed.setValue(QStringLiteral("friend"), annId);
+    zed.setTimedValues({{QStringLiteral("friend"), annId, 5}});
+    core::TimelineEventData data;
+    data.participants = {ann.id(), bob.id()};
+    data.locationId = ann.id();
+    const auto eventId = ContentId::create();
+    project.add(std::make_unique<core::TimelineEvent>(eventId, data));
+    project.setPlotThreads({{QStringLiteral("p"), {}, ann.id(), {}}});
+    project.pin(ann.id(), true);
+
+    app::CodexMerge merge(codex.workspace);
+    QCOMPARE(merge.conflicts(ann.id(), bob.id()).size(), 2);
+    QVERIFY(merge.conflicts(ann.id(), ann.id()).isEmpty());
+    merge.merge(ann.id(), bob.id(), {QStringLiteral("eyes")});
+    QCOMPARE(codex.workspace.history().undoCount(), 1);
+    QVERIFY(!project.contains(codex.ids.value(QStringLiteral("ann"))));
+    QCOMPARE(bob.value(QStringLiteral("age")).value_or(QString()), QStringLiteral("9"));
+    QCOMPARE(bob.value(QStringLiteral("eyes")).value_or(QString()), QStringLiteral("grey"));
+    QCOMPARE(bob.value(QStringLiteral("job")).value_or(QString()), QStringLiteral("cook"));
+    QCOMPARE(bob.aliases().join(u' '), QStringLiteral("ann Annie"));
+    QVERIFY(bob.isAiExcluded() && bob.tags().contains(QStringLiteral("t")));
+    QCOMPARE(zed.value(QStringLiteral("friend")).value_or(QString()), bob.id().toString());
+    QCOMPARE(zed.timedValues().first().value, bob.id().toString());
+    const core::TimelineEventData &event = project.find<core::TimelineEvent>(eventId)->data();
+    QCOMPARE(event.participants, QList<ContentId>{bob.id()});
+    QCOMPARE(event.locationId, bob.id());
+    QCOMPARE(project.plotThreads().first().characterId, bob.id());
+    QVERIFY(project.isPinned(bob.id()));
+
+    codex.workspace.undo();
+    QCOMPARE(ann.name(), QStringLiteral("ann"));
+    QCOMPARE(bob.value(QStringLiteral("eyes")).value_or(QString()), QStringLiteral("blue"));
+    QCOMPARE(zed.value(QStringLiteral("friend")).value_or(QString()), annId);
+    QCOMPARE(project.find<core::TimelineEvent>(eventId)->data().participants, data.participants);
+    QVERIFY(project.isPinned(ann.id()) && !project.isPinned(bob.id()));
+}
+
+void TestCodexModel::splitsOneIntoTwo()
+{
+    Codex codex(world());
+    Entity &ann = codex.entity(QStringLiteral("ann"));
+    ann.setValues({{QStringLiteral("age"), QStringLiteral("7")},
+                   {QStringLiteral("job"), QStringLiteral("cook")}});
+    ann.setAliases({QStringLiteral("Annie"), QStringLiteral("The Cook")});
+    ann.setTimedValues({{QStringLiteral("job"), QStringLiteral("maid"), 1},
+                        {QStringLiteral("age"), QStringLiteral("8"), 2}});
+    app::CodexMerge merge(codex.workspace);
+    QVERIFY(merge.split(ann.id(), QStringLiteral(" "), {}, {}).isNull());
+    const ContentId id = merge.split(ann.id(), QStringLiteral("Cook"), {QStringLiteral("job")},
+                                     {QStringLiteral("The Cook")});
+    const auto *part = codex.workspace.project().find<Entity>(id);
+    QVERIFY(part);
+    QCOMPARE(part->categoryId(), ann.categoryId());
+    QCOMPARE(part->value(QStringLiteral("job")).value_or(QString()), QStringLiteral("cook"));
+    QCOMPARE(part->timedValues().size(), 1);
+    QCOMPARE(part->aliases().join(u' '), QStringLiteral("The Cook"));
+    QVERIFY(ann.value(QStringLiteral("job")).value_or(QString()).isEmpty());
+    QCOMPARE(ann.timedValues().size(), 1);
+    QCOMPARE(ann.aliases().join(u' '), QStringLiteral("Annie"));
+    codex.workspace.undo();
+    QCOMPARE(ann.value(QStringLiteral("job")).value_or(QString()), QStringLiteral("cook"));
+    QCOMPARE(ann.timedValues().size(), 2);
+    QVERIFY(!codex.workspace.project().contains(id));
 }
 
 void TestCodexModel::followsAnyHistory_data()
