@@ -27,8 +27,36 @@ using core::ContentId;
 
 namespace {
 
-constexpr int roomForStatus = 36; // characters of the panel's width
-constexpr int roomForWords = 22;
+constexpr int roomForStatus = 46; // characters of the panel's width
+constexpr int roomForWords = 24;
+
+/// The documents whose title holds a text, with those above them. A new text is told as one new
+/// layout: row by row, thousands that come and go would take seconds.
+class TitleFilter final : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setText(const QString &text)
+    {
+        m_text = text;
+        invalidate();
+    }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        return m_text.isEmpty()
+               || sourceModel()
+                      ->index(row, DocumentsModel::TitleColumn, parent)
+                      .data()
+                      .toString()
+                      .contains(m_text, Qt::CaseInsensitive);
+    }
+
+private:
+    QString m_text;
+};
 
 } // namespace
 
@@ -36,12 +64,10 @@ DocumentsPanel::DocumentsPanel(const PanelContext &context, QWidget *parent)
     : QWidget(parent)
     , m_context(context)
     , m_model(new DocumentsModel(context.workspace, this))
-    , m_filtered(new QSortFilterProxyModel(this))
+    , m_filtered(new TitleFilter(this))
 {
     m_filtered->setSourceModel(m_model);
     m_filtered->setRecursiveFilteringEnabled(true);
-    m_filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_filtered->setFilterKeyColumn(DocumentsModel::TitleColumn);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
@@ -84,11 +110,7 @@ void DocumentsPanel::buildToolBar(QLayout *layout)
     m_filter->setClearButtonEnabled(true);
     if (auto *clear = m_filter->findChild<QToolButton *>())
         clear->setAccessibleName(tr("Clear the filter"));
-    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &text) {
-        m_filtered->setFilterFixedString(text);
-        if (!text.isEmpty())
-            m_tree->expandAll();
-    });
+    connect(m_filter, &QLineEdit::textChanged, this, &DocumentsPanel::applyFilter);
     bar->addWidget(m_filter, 1);
     static_cast<QVBoxLayout *>(layout)->addLayout(bar);
 }
@@ -132,6 +154,34 @@ void DocumentsPanel::buildTree(QLayout *layout)
     connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
     connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DocumentsPanel::selectInWorkspace);
+    // A click on what is selected here makes it the selection of the window again.
+    connect(m_tree, &QAbstractItemView::clicked, this, &DocumentsPanel::selectInWorkspace);
+}
+
+void DocumentsPanel::applyFilter(const QString &text)
+{
+    const auto places = m_context.workspace.project().documentTree().inOrder();
+    const auto row = [this](const ContentId &id) {
+        return m_filtered->mapFromSource(m_model->indexOf(id));
+    };
+    if (!m_isFiltered) {
+        m_openBranches.clear();
+        for (const core::DocumentTree::Place &place : places)
+            if (m_tree->isExpanded(row(place.document->id())))
+                m_openBranches.insert(place.document->id());
+    }
+    m_isFiltered = !text.isEmpty();
+    static_cast<TitleFilter *>(m_filtered)->setText(text);
+    if (m_isFiltered) {
+        m_tree->expandAll();
+        selectFromWorkspace();
+        return;
+    }
+    // All branches were opened to show what matched; now they stand as before.
+    m_tree->collapseAll();
+    for (const ContentId &id : std::as_const(m_openBranches))
+        m_tree->setExpanded(row(id), true);
+    selectFromWorkspace();
 }
 
 void DocumentsPanel::resizeEvent(QResizeEvent *event)
@@ -286,11 +336,13 @@ void DocumentsPanel::removeSelected()
     if (ids.isEmpty())
         return;
     DocumentOperations operations(m_context.workspace);
-    if (m_context.prompts.confirm(operations.removalQuestion(ids),
-                                  tr("Edit › Undo will restore it."), tr("Delete"))) {
-        operations.remove(ids);
-        m_context.notices.offerUndo(tr("Deleted %n document(s).", nullptr, int(ids.size())));
-    }
+    const int count = int(operations.withAllBelow(ids).size());
+    if (!m_context.prompts.confirm(operations.removalQuestion(ids),
+                                   tr("Edit › Undo will restore it."),
+                                   tr("Delete %n Document(s)", nullptr, count)))
+        return;
+    operations.remove(ids);
+    m_context.notices.offerUndo(tr("Deleted %n document(s).", nullptr, count));
 }
 
 QList<ContentId> DocumentsPanel::selectedIds() const

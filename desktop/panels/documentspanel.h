@@ -4,6 +4,7 @@
 #include "desktop/panels/panelcontext.h"
 
 #include <QtCore/QList>
+#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
 
 class QLineEdit;
@@ -34,6 +35,7 @@ private:
     void buildTree(QLayout *layout);
     void bindActions();
     QWidget *makeEmptyState();
+    void applyFilter(const QString &text);
     void showProject();
     void updateEmptyState();
     void updateActions();
@@ -55,6 +57,8 @@ private:
     QLineEdit *m_filter = nullptr;
     QTreeView *m_tree = nullptr;
     QStackedWidget *m_pages = nullptr;
+    QSet<core::ContentId> m_openBranches; ///< as they were before the filter opened them all
+    bool m_isFiltered = false;
     bool m_isFollowing = false; ///< while one side's selection is carried over to the other
 };
 
