@@ -98,6 +98,10 @@ void FieldEditor::setControl(QWidget *control, QWidget *focused)
     m_label->setBuddy(target);
     // No mark of a shortcut is meant in a label that the user named.
     m_label->setText(QString(m_field.label).replace(u'&', QLatin1String("&&")));
+    // A control under the wheel must not take the focus by it, and the turns of the wheel then.
+    for (QWidget *part : {control, target})
+        if (part->focusPolicy() == Qt::WheelFocus)
+            part->setFocusPolicy(Qt::StrongFocus);
     target->installEventFilter(this);
     setFocusProxy(target);
     // A check box bears its label itself.

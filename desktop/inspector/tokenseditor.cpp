@@ -38,9 +38,10 @@ public:
     void show(const QString &token)
     {
         const QString shown = app::rowText(token);
-        setText(fontMetrics()
-                    .elidedText(shown, Qt::ElideMiddle, grid(lineSteps * 3))
-                    .replace(u'&', QLatin1String("&&")));
+        setText(QStringLiteral("\u00a0%1\u00a0")
+                    .arg(fontMetrics()
+                             .elidedText(shown, Qt::ElideMiddle, grid(lineSteps * 3))
+                             .replace(u'&', QLatin1String("&&"))));
         setAccessibleName(tr("Remove “%1”").arg(shown));
         setToolTip(tr("%1: press to remove.").arg(shown));
         setVisible(true);

@@ -59,6 +59,12 @@ InspectorPanel::InspectorPanel(const PanelContext &context, QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setAccessibleName(tr("Inspector"));
     m_scroll->setFocusPolicy(Qt::NoFocus);
+    // All forms lie in it, one of them shown: to move a form to and fro costs more than to show it.
+    auto *forms = new QWidget;
+    auto *formColumn = new QVBoxLayout(forms);
+    formColumn->setContentsMargins(0, 0, 0, 0);
+    m_scroll->setWidget(forms);
+    forms->setAutoFillBackground(false); // the ground is that of the panel
     column->addWidget(m_scroll, 1);
     m_pages->addWidget(whole);
     setFocusPolicy(Qt::StrongFocus);
@@ -99,18 +105,13 @@ void InspectorPanel::showForm()
         m_pages->setCurrentIndex(0);
         return;
     }
+    QWidget *before = m_forms.empty() ? nullptr : m_forms.back()->page;
     Form &form = formFor(fields);
-    if (m_scroll->widget() != form.page) {
-        if (QWidget *before = m_scroll->takeWidget()) {
-            before->setParent(this);
-            before->hide();
-        }
-    }
     for (FieldEditor *editor : form.editors)
         editor->reload();
-    if (m_scroll->widget() != form.page) {
-        m_scroll->setWidget(form.page);
-        form.page->setAutoFillBackground(false); // the ground is that of the panel
+    if (before != form.page) {
+        if (before)
+            before->hide();
         form.page->show();
     }
     m_pages->setCurrentIndex(1);
@@ -134,8 +135,6 @@ InspectorPanel::Form &InspectorPanel::formFor(const QList<app::InspectorField> &
         return *m_forms.back();
     }
     if (m_forms.size() >= keptForms) {
-        if (m_scroll->widget() == m_forms.front()->page)
-            m_scroll->takeWidget();
         // One of its editors may be the one that asks for another form.
         m_forms.front()->page->hide();
         m_forms.front()->page->deleteLater();
@@ -149,8 +148,9 @@ InspectorPanel::Form &InspectorPanel::formFor(const QList<app::InspectorField> &
 
 void InspectorPanel::build(Form &form)
 {
-    form.page = new QWidget(this);
+    form.page = new QWidget(m_scroll->widget());
     form.page->hide();
+    m_scroll->widget()->layout()->addWidget(form.page);
     auto *column = new QVBoxLayout(form.page);
     column->setContentsMargins(grid(3), grid(1), grid(3), grid(4));
     column->setSpacing(grid(2));

@@ -1,0 +1,247 @@
+#include "app/models/codexoperations.h"
+#include "core/commands/codexcommands.h"
+#include "core/commands/documentcommands.h"
+#include "desktop/inspector/fieldeditor.h"
+#include "desktop/shell/mainwindow.h"
+#include "tests/support/fakeprompts.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QClipboard>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTreeView>
+
+using namespace vl;
+using core::ContentId;
+using core::Entity;
+
+namespace {
+
+struct Window
+{
+    QTemporaryDir dir;
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    test::FakePrompts prompts;
+    desktop::MainWindow window{settings, &prompts};
+    QTreeView *tree = window.findChild<QTreeView *>(QStringLiteral("codexTree"));
+    app::Workspace &workspace = window.workspace();
+    app::CodexOperations codex{workspace};
+    ContentId people = codex.addCategory({}, QStringLiteral("People"));
+    ContentId ann = codex.addEntity(people, QStringLiteral("Ann"));
+    ContentId bob = codex.addEntity(people, QStringLiteral("Bob"));
+
+    Window()
+    {
+        using core::FieldType;
+        for (const FieldType type :
+             {FieldType::Text, FieldType::Number, FieldType::Boolean, FieldType::Date,
+              FieldType::Reference, FieldType::Choice, FieldType::Url}) {
+            core::FieldDefinition field;
+            field.label = core::fieldTypeTexts.text(type);
+            field.type = type;
+            codex.addField(people, field);
+        }
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("the window does not show");
+        tree->expandAll();
+    }
+    Entity &entity(const ContentId &id) const { return *workspace.project().find<Entity>(id); }
+    /// The control of a field of the form that is shown.
+    template<typename Control>
+    Control *control(const char *key) const
+    {
+        for (auto *editor : window.findChildren<desktop::FieldEditor *>())
+            if (editor->key() == QLatin1String(key) && editor->isVisible())
+                return qobject_cast<Control *>(editor->focusProxy());
+        return nullptr;
+    }
+    QStringList rows() const
+    {
+        QStringList list;
+        for (QModelIndex index = tree->model()->index(0, 0); index.isValid();
+             index = tree->indexBelow(index))
+            list.append(index.data().toString());
+        return list;
+    }
+};
+
+} // namespace
+
+class TestCodexPanel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theTreeRenamesDeletesAndCopies();
+    void theFilterKeepsBranchesAndSelection();
+    void everyControlOfEveryFormHasAName();
+    void typingIsHandedIn();
+    void undoGoesThroughTheForm();
+    void theWheelChangesNothing();
+};
+
+void TestCodexPanel::theTreeRenamesDeletesAndCopies()
+{
+    Window desk;
+    desk.workspace.select(desk.ann);
+    QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Ann"));
+    desk.tree->setFocus();
+    QTest::keyClick(desk.tree, Qt::Key_F2);
+    auto *field = desk.tree->viewport()->findChild<QLineEdit *>();
+    QVERIFY(field);
+    field->setText(QStringLiteral("Zoe"));
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_COMPARE(desk.rows().join(u' '), QStringLiteral("People Bob Zoe"));
+    QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Zoe"));
+
+    QTRY_VERIFY(desk.tree->hasFocus()); // once the editor of the name has gone
+    QTest::keyClick(desk.tree, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(desk.tree, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(desk.rows().join(u' '), QStringLiteral("People Bob Zoe Zoe (copy)"));
+    QTest::keyClick(desk.tree, Qt::Key_Delete); // the answer is no
+    QCOMPARE(desk.rows().size(), 4);
+    QCOMPARE(desk.prompts.questions.last(), QStringLiteral("Delete “Zoe (copy)”?"));
+    desk.prompts.confirms = true;
+    QTest::keyClick(desk.tree, Qt::Key_Delete);
+    QCOMPARE(desk.rows().size(), 3);
+    desk.workspace.select(desk.people);
+    QTest::keyClick(desk.tree, Qt::Key_Delete);
+    QCOMPARE(desk.rows().join(u' '), QStringLiteral("Bob Zoe"));
+    desk.workspace.undo();
+    QCOMPARE(desk.workspace.project().find<Entity>(desk.bob)->categoryId(), desk.people);
+}
+
+void TestCodexPanel::theFilterKeepsBranchesAndSelection()
+{
+    Window desk;
+    const ContentId places = desk.codex.addCategory({}, QStringLiteral("Places"));
+    desk.codex.addEntity(places, QStringLiteral("Bobtown"));
+    desk.workspace.select(desk.ann);
+    desk.tree->collapseAll();
+    desk.tree->expand(desk.tree->model()->index(0, 0));
+    auto *filter = desk.tree->parentWidget()->parentWidget()->findChild<QLineEdit *>();
+    QVERIFY(filter);
+    QTest::keyClicks(filter, QStringLiteral("bob"));
+    QCOMPARE(desk.rows().join(u' '), QStringLiteral("People Bob Places Bobtown"));
+    QTest::keyClick(filter, Qt::Key_Escape);
+    QCOMPARE(desk.rows().join(u' '), QStringLiteral("People Ann Bob Places"));
+    QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Ann"));
+}
+
+void TestCodexPanel::everyControlOfEveryFormHasAName()
+{
+    Window desk;
+    const auto *document =
+        new core::Document(ContentId::create(), core::DocumentKind::Prose, QStringLiteral("d"));
+    const ContentId documentId = document->id();
+    desk.workspace.project().add(
+        std::unique_ptr<core::ContentObject>(const_cast<core::Document *>(document)));
+    const QList<QList<ContentId>> selections{
+        {desk.ann}, {desk.people}, {documentId}, {desk.ann, desk.bob}, {desk.ann, documentId}};
+    for (const QList<ContentId> &ids : selections) {
+        desk.workspace.select(ids);
+        int seen = 0;
+        for (QWidget *widget : desk.window.findChildren<QWidget *>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus
+                || widget->objectName().startsWith(QLatin1String("qt_"))
+                || QLatin1String(widget->metaObject()->className())
+                       .startsWith(QLatin1String("ads::"))
+                || !(qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
+                     || qobject_cast<QComboBox *>(widget) || qobject_cast<QPlainTextEdit *>(widget)
+                     || qobject_cast<QAbstractItemView *>(widget)))
+                continue;
+            ++seen;
+            const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                     widget->metaObject()->className());
+        }
+        QVERIFY(seen > 8);
+    }
+}
+
+void TestCodexPanel::typingIsHandedIn()
+{
+    Window desk;
+    desk.workspace.select(desk.ann);
+    auto *text = desk.control<QPlainTextEdit>("field:text");
+    QVERIFY(text);
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("tall"));
+    QVERIFY(!desk.entity(desk.ann).value(QStringLiteral("text")));
+    desk.workspace.select(desk.bob); // another selection
+    QCOMPARE(desk.entity(desk.ann).value(QStringLiteral("text")).value_or(QString()),
+             QStringLiteral("tall"));
+    QVERIFY(!desk.entity(desk.bob).value(QStringLiteral("text")));
+
+    auto *name = desk.control<QLineEdit>("name");
+    QVERIFY(name);
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("Robert"));
+    desk.workspace.flush(); // as before a save
+    QCOMPARE(desk.entity(desk.bob).name(), QStringLiteral("Robert"));
+    QTest::keyClicks(name, QStringLiteral("!"));
+    QTest::keyClick(name, Qt::Key_Escape); // taken back
+    QCOMPARE(name->text(), QStringLiteral("Robert"));
+
+    auto *birth = desk.control<QLineEdit>("birth");
+    QVERIFY(birth);
+    birth->setFocus();
+    QTest::keyClicks(birth, QStringLiteral("3 March 1270"));
+    QTest::keyClick(birth, Qt::Key_Return);
+    QCOMPARE(birth->text(), QStringLiteral("3 March, Year 1270"));
+    birth->selectAll();
+    QTest::keyClicks(birth, QStringLiteral("never"));
+    name->setFocus();
+    QCOMPARE(birth->text(), QStringLiteral("never")); // refused, not lost
+    QVERIFY(desk.entity(desk.bob).lifespan().birthInstant);
+
+    desk.workspace.select({desk.ann, desk.bob});
+    name = desk.control<QLineEdit>("name");
+    QVERIFY(name);
+    QCOMPARE(name->text(), QString());
+    QCOMPARE(name->placeholderText(), QStringLiteral("(mixed)"));
+}
+
+void TestCodexPanel::undoGoesThroughTheForm()
+{
+    Window desk;
+    desk.workspace.select(desk.ann);
+    auto *name = desk.control<QLineEdit>("name");
+    QVERIFY(name);
+    name->setFocus();
+    QTest::keyClick(name, Qt::Key_End);
+    QTest::keyClicks(name, QStringLiteral("abel"));
+    QTest::keyClick(name, Qt::Key_Return);
+    QCOMPARE(desk.entity(desk.ann).name(), QStringLiteral("Annabel"));
+    name->setCursorPosition(2);
+    desk.workspace.undo();
+    QCOMPARE(name->text(), QStringLiteral("Ann"));
+    QVERIFY(name->hasFocus());
+    QCOMPARE(name->cursorPosition(), 2);
+    desk.workspace.redo();
+    QCOMPARE(name->text(), QStringLiteral("Annabel"));
+    QCOMPARE(name, desk.control<QLineEdit>("name")); // no form was made anew
+}
+
+void TestCodexPanel::theWheelChangesNothing()
+{
+    Window desk;
+    desk.workspace.select(desk.ann);
+    auto *box = desk.control<QComboBox>("field:boolean");
+    QVERIFY(box);
+    const QPointF inside = box->rect().center();
+    QWheelEvent wheel(inside, box->mapToGlobal(inside), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &wheel);
+    QVERIFY(!box->hasFocus());
+    QVERIFY(!desk.entity(desk.ann).value(QStringLiteral("boolean")));
+}
+
+QTEST_MAIN(TestCodexPanel)
+#include "tst_codexpanel.moc"
