@@ -199,10 +199,15 @@ QString ExternalChangesModel::editableText(int row) const
     return m_rows[std::size_t(row)].markedText;
 }
 
+void ExternalChangesModel::keepText(int row, const QString &text)
+{
+    m_rows[std::size_t(row)].markedText = text;
+}
+
 Result<> ExternalChangesModel::chooseText(int row, const QString &text)
 {
     Row &chosen = m_rows[std::size_t(row)];
-    chosen.markedText = text; // what was typed is there again when the text is opened again
+    keepText(row, text); // it is there again when the text is opened again
     for (const QStringView line : QStringView(text).split(u'\n'))
         if (line.startsWith(beginMark) || line == middleMark || line.startsWith(endMark))
             return failure(tr("There are still lines with marks in the text."));

@@ -55,6 +55,8 @@ public:
     /// That text: between the lines "<<<<<<<", "=======" and ">>>>>>>" stand the user's lines, then
     /// those on disk; or what the user last made of it.
     QString editableText(int row) const;
+    /// Keeps what the user made of the text so far, and decides nothing.
+    void keepText(int row, const QString &text);
     /// Decides for the user's own text. Fails while marker lines are left in it.
     Result<> chooseText(int row, const QString &text);
 

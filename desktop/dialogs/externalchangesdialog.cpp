@@ -158,8 +158,18 @@ int ExternalChangesDialog::row() const
     return m_files->currentIndex().row();
 }
 
+void ExternalChangesDialog::reject()
+{
+    if (m_editedRow >= 0)
+        showFile();
+    else
+        QDialog::reject();
+}
+
 void ExternalChangesDialog::showFile()
 {
+    if (m_editedRow >= 0)
+        m_model.keepText(std::exchange(m_editedRow, -1), m_text->toPlainText());
     m_pages->setCurrentIndex(0);
     const int current = row();
     const bool isThere = current >= 0;
@@ -187,7 +197,8 @@ void ExternalChangesDialog::chooseTheirs()
 
 void ExternalChangesDialog::edit()
 {
-    m_text->setPlainText(m_model.editableText(row()));
+    m_editedRow = row();
+    m_text->setPlainText(m_model.editableText(m_editedRow));
     m_textFault->hide();
     m_pages->setCurrentIndex(1);
     m_text->setFocus();
@@ -195,7 +206,7 @@ void ExternalChangesDialog::edit()
 
 void ExternalChangesDialog::useText()
 {
-    const app::Result<> used = m_model.chooseText(row(), m_text->toPlainText());
+    const app::Result<> used = m_model.chooseText(m_editedRow, m_text->toPlainText());
     if (used) {
         showFile();
         goOn();

@@ -27,6 +27,9 @@ public:
     /// The entries as they were decided.
     std::vector<app::ReconcileEntry> resolution() const { return m_model.resolution(); }
 
+    /// Leaves the text that is being edited first, which stays as it is.
+    void reject() override;
+
 private:
     void buildFiles();
     QWidget *buildDifferences();
@@ -52,6 +55,7 @@ private:
     QPushButton *m_theirs;
     QPushButton *m_edit;
     QPushButton *m_apply;
+    int m_editedRow = -1; ///< of the file whose text is being edited
 };
 
 } // namespace vl::desktop

@@ -99,6 +99,7 @@ void MainWindow::buildCentre()
     m_appearance = new Appearance(m_settings, this);
     m_panels = new PanelHost(
         centre, PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices});
+    layout->setStretch(layout->count() - 1, 1); // what the questions do not need is the panels'
     m_layouts = new Layouts(*m_panels, m_settings, m_prompts, *m_notices, this);
 }
 

@@ -87,7 +87,8 @@ void SafeKeeping::askAbout(const app::OutsideOffer &offer)
 {
     using Kind = app::OutsideOffer::Kind;
     QList<NoticeAction> answers;
-    const NoticeAction compare{tr("&Compare…"), [this] { review(); }};
+    const NoticeAction compare{offer.conflicts > 0 ? tr("&Compare and Merge…") : tr("&Compare…"),
+                               [this] { review(); }};
     const NoticeAction keep{tr("&Keep My Version"), [this] { m_outside.keepMine(); }};
     switch (offer.kind) {
     case Kind::None:
