@@ -1505,6 +1505,17 @@
     </message>
 </context>
 <context>
+    <name>vl::app::CodexMerge</name>
+    <message>
+        <source>Merge entities</source>
+        <translation>Merge entities</translation>
+    </message>
+    <message>
+        <source>Split entity</source>
+        <translation>Split entity</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::CodexModel</name>
     <message>
         <source>Untitled</source>
@@ -2795,7 +2806,10 @@
     </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
-        <translation><numerusform>%n project file changed outside Ivorel and cannot be read.</numerusform><numerusform>%n project files changed outside Ivorel and cannot be read.</numerusform></translation>
+        <translation>
+            <numerusform>%n project file changed outside Ivorel and cannot be read.</numerusform>
+            <numerusform>%n project files changed outside Ivorel and cannot be read.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Nothing of it is loaded. What you have here is whole, and saving keeps it.</source>
@@ -2803,7 +2817,10 @@
     </message>
     <message numerus="yes">
         <source>%n file(s) changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
-        <translation><numerusform>%n file changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform><numerusform>%n files changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform></translation>
+        <translation>
+            <numerusform>%n file changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform>
+            <numerusform>%n files changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The project changed outside Ivorel since you opened it.</source>
@@ -2811,7 +2828,10 @@
     </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel since you opened it.</source>
-        <translation><numerusform>%n project file changed outside Ivorel since you opened it.</numerusform><numerusform>%n project files changed outside Ivorel since you opened it.</numerusform></translation>
+        <translation>
+            <numerusform>%n project file changed outside Ivorel since you opened it.</numerusform>
+            <numerusform>%n project files changed outside Ivorel since you opened it.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author's changes don't surprise you.)</source>
@@ -2835,7 +2855,10 @@
     </message>
     <message numerus="yes">
         <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
-        <translation><numerusform>%n media file in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform><numerusform>%n media files in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform></translation>
+        <translation>
+            <numerusform>%n media file in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform>
+            <numerusform>%n media files in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reloaded the project with the updated media files.</source>
@@ -4958,6 +4981,73 @@ What is said.
     </message>
 </context>
 <context>
+    <name>vl::desktop::CodexDialogs</name>
+    <message>
+        <source>Merge Entities</source>
+        <translation>Merge Entities</translation>
+    </message>
+    <message>
+        <source>“%1” becomes a part of “%2”: its name stays as an alias, and what refers to it refers to “%2”.</source>
+        <translation>“%1” becomes a part of “%2”: its name stays as an alias, and what refers to it refers to “%2”.</translation>
+    </message>
+    <message>
+        <source>“%1” becomes a part of “%2”. Where both have a value, which one stays?</source>
+        <translation>“%1” becomes a part of “%2”. Where both have a value, which one stays?</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Merge</translation>
+    </message>
+    <message>
+        <source>Split Entity</source>
+        <translation>Split Entity</translation>
+    </message>
+    <message>
+        <source>A part of “%1” becomes an entity of its own. What does it take along?</source>
+        <translation>A part of “%1” becomes an entity of its own. What does it take along?</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Name of the new entity</source>
+        <translation>Name of the new entity</translation>
+    </message>
+    <message>
+        <source>Fields and aliases</source>
+        <translation>Fields and aliases</translation>
+    </message>
+    <message>
+        <source>Alias: %1</source>
+        <translation>Alias: %1</translation>
+    </message>
+    <message>
+        <source>Manage Entity Templates</source>
+        <translation>Manage Entity Templates</translation>
+    </message>
+    <message>
+        <source>Rename a template in the list; drag to put it elsewhere.</source>
+        <translation>Rename a template in the list; drag to put it elsewhere.</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Entity templates</source>
+        <translation>Entity templates</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Re&amp;move</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::CodexPanel</name>
     <message>
         <source>Category…</source>
@@ -5171,6 +5261,26 @@ What is said.
         <source>The template “%1” was saved.</source>
         <translation>The template “%1” was saved.</translation>
     </message>
+    <message>
+        <source>Merge Entity Into</source>
+        <translation>Merge Entity Into</translation>
+    </message>
+    <message>
+        <source>Merge “%1” into:</source>
+        <translation>Merge “%1” into:</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>“%1” was merged.</source>
+        <translation>“%1” was merged.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::DamagedProjectDialog</name>
@@ -5328,6 +5438,17 @@ What is said.
     </message>
 </context>
 <context>
+    <name>vl::desktop::DistractionFree</name>
+    <message>
+        <source>Distraction-Free Mode</source>
+        <translation>Distraction-Free Mode</translation>
+    </message>
+    <message>
+        <source>Word count</source>
+        <translation>Word count</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DocumentsPanel</name>
     <message>
         <source>New ▾</source>
@@ -5401,16 +5522,16 @@ What is said.
         <source>Edit › Undo will restore it.</source>
         <translation>Edit › Undo will restore it.</translation>
     </message>
-    <message>
-        <source>Delete</source>
-        <translation>Delete</translation>
-    </message>
     <message numerus="yes">
         <source>Deleted %n document(s).</source>
         <translation>
             <numerusform>Deleted %n document.</numerusform>
             <numerusform>Deleted %n documents.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Document(s)</source>
+        <translation><numerusform>Delete %n Document</numerusform><numerusform>Delete %n Documents</numerusform></translation>
     </message>
 </context>
 <context>
@@ -5619,7 +5740,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>⚠ %n file(s) still to be decided.</source>
-        <translation><numerusform>⚠ %n file still to be decided.</numerusform><numerusform>⚠ %n files still to be decided.</numerusform></translation>
+        <translation>
+            <numerusform>⚠ %n file still to be decided.</numerusform>
+            <numerusform>⚠ %n files still to be decided.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6223,6 +6347,17 @@ What is said.
     </message>
 </context>
 <context>
+    <name>vl::desktop::PageView</name>
+    <message>
+        <source>Pages of the document</source>
+        <translation>Pages of the document</translation>
+    </message>
+    <message>
+        <source>Laying out the pages…</source>
+        <translation>Laying out the pages…</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Palette</name>
     <message>
         <source>Command palette</source>
@@ -6504,11 +6639,18 @@ What is said.
     </message>
     <message numerus="yes">
         <source>%n file(s) would be removed here as well. The project is backed up first.</source>
-        <translation><numerusform>%n file would be removed here as well. The project is backed up first.</numerusform><numerusform>%n files would be removed here as well. The project is backed up first.</numerusform></translation>
+        <translation>
+            <numerusform>%n file would be removed here as well. The project is backed up first.</numerusform>
+            <numerusform>%n files would be removed here as well. The project is backed up first.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Remove</source>
         <translation>Remove</translation>
+    </message>
+    <message>
+        <source>&amp;Compare and Merge…</source>
+        <translation>&amp;Compare and Merge…</translation>
     </message>
 </context>
 <context>

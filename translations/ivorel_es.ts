@@ -1505,6 +1505,17 @@
     </message>
 </context>
 <context>
+    <name>vl::app::CodexMerge</name>
+    <message>
+        <source>Merge entities</source>
+        <translation>Fusionar entidades</translation>
+    </message>
+    <message>
+        <source>Split entity</source>
+        <translation>Dividir entidad</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::CodexModel</name>
     <message>
         <source>Untitled</source>
@@ -2795,7 +2806,10 @@
     </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
-        <translation><numerusform>%n archivo del proyecto cambió fuera de Ivorel y no se puede leer.</numerusform><numerusform>%n archivos del proyecto cambiaron fuera de Ivorel y no se pueden leer.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo del proyecto cambió fuera de Ivorel y no se puede leer.</numerusform>
+            <numerusform>%n archivos del proyecto cambiaron fuera de Ivorel y no se pueden leer.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Nothing of it is loaded. What you have here is whole, and saving keeps it.</source>
@@ -2803,7 +2817,10 @@
     </message>
     <message numerus="yes">
         <source>%n file(s) changed outside Ivorel and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
-        <translation><numerusform>%n archivo cambió fuera de Ivorel y se puede fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform><numerusform>%n archivos cambiaron fuera de Ivorel y se pueden fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo cambió fuera de Ivorel y se puede fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform>
+            <numerusform>%n archivos cambiaron fuera de Ivorel y se pueden fusionar con sus cambios sin guardar. ¿Fusionar y volver a cargar ahora? Antes se hace una copia de seguridad de su proyecto actual.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The project changed outside Ivorel since you opened it.</source>
@@ -2811,7 +2828,10 @@
     </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel since you opened it.</source>
-        <translation><numerusform>%n archivo del proyecto cambió fuera de Ivorel desde que lo abrió.</numerusform><numerusform>%n archivos del proyecto cambiaron fuera de Ivorel desde que lo abrió.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo del proyecto cambió fuera de Ivorel desde que lo abrió.</numerusform>
+            <numerusform>%n archivos del proyecto cambiaron fuera de Ivorel desde que lo abrió.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author's changes don't surprise you.)</source>
@@ -2835,7 +2855,10 @@
     </message>
     <message numerus="yes">
         <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
-        <translation><numerusform>%n archivo de medios del proyecto cambió en el disco (añadido, sustituido o eliminado por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlo actualizado.</numerusform><numerusform>%n archivos de medios del proyecto cambiaron en el disco (añadidos, sustituidos o eliminados por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlos actualizados.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo de medios del proyecto cambió en el disco (añadido, sustituido o eliminado por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlo actualizado.</numerusform>
+            <numerusform>%n archivos de medios del proyecto cambiaron en el disco (añadidos, sustituidos o eliminados por un coautor o un cliente de sincronización). Guarde o vuelva a abrir el proyecto para usarlos actualizados.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reloaded the project with the updated media files.</source>
@@ -4958,6 +4981,73 @@ Lo que se dice.
     </message>
 </context>
 <context>
+    <name>vl::desktop::CodexDialogs</name>
+    <message>
+        <source>Merge Entities</source>
+        <translation>Fusionar entidades</translation>
+    </message>
+    <message>
+        <source>“%1” becomes a part of “%2”: its name stays as an alias, and what refers to it refers to “%2”.</source>
+        <translation>«%1» pasa a formar parte de «%2»: su nombre queda como alias y lo que se refiere a ella se refiere a «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” becomes a part of “%2”. Where both have a value, which one stays?</source>
+        <translation>«%1» pasa a formar parte de «%2». Donde ambas tienen un valor, ¿cuál se queda?</translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation>Fusionar</translation>
+    </message>
+    <message>
+        <source>Split Entity</source>
+        <translation>Dividir entidad</translation>
+    </message>
+    <message>
+        <source>A part of “%1” becomes an entity of its own. What does it take along?</source>
+        <translation>Una parte de «%1» pasa a ser una entidad propia. ¿Qué se lleva?</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividir</translation>
+    </message>
+    <message>
+        <source>Name of the new entity</source>
+        <translation>Nombre de la entidad nueva</translation>
+    </message>
+    <message>
+        <source>Fields and aliases</source>
+        <translation>Campos y alias</translation>
+    </message>
+    <message>
+        <source>Alias: %1</source>
+        <translation>Alias: %1</translation>
+    </message>
+    <message>
+        <source>Manage Entity Templates</source>
+        <translation>Gestionar las plantillas de entidad</translation>
+    </message>
+    <message>
+        <source>Rename a template in the list; drag to put it elsewhere.</source>
+        <translation>Cambie el nombre de una plantilla en la lista; arrástrela para ponerla en otro sitio.</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Entity templates</source>
+        <translation>Plantillas de entidad</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Cambiar el nombre</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::CodexPanel</name>
     <message>
         <source>Category…</source>
@@ -5171,6 +5261,26 @@ Lo que se dice.
         <source>The template “%1” was saved.</source>
         <translation>Se guardó la plantilla «%1».</translation>
     </message>
+    <message>
+        <source>Merge Entity Into</source>
+        <translation>Fusionar la entidad con</translation>
+    </message>
+    <message>
+        <source>Merge “%1” into:</source>
+        <translation>Fusionar «%1» con:</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>“%1” was merged.</source>
+        <translation>«%1» se ha fusionado.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::DamagedProjectDialog</name>
@@ -5328,6 +5438,17 @@ Lo que se dice.
     </message>
 </context>
 <context>
+    <name>vl::desktop::DistractionFree</name>
+    <message>
+        <source>Distraction-Free Mode</source>
+        <translation>Modo sin distracciones</translation>
+    </message>
+    <message>
+        <source>Word count</source>
+        <translation>Número de palabras</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DocumentsPanel</name>
     <message>
         <source>New ▾</source>
@@ -5401,16 +5522,16 @@ Lo que se dice.
         <source>Edit › Undo will restore it.</source>
         <translation>Edición › Deshacer lo recupera.</translation>
     </message>
-    <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
-    </message>
     <message numerus="yes">
         <source>Deleted %n document(s).</source>
         <translation>
             <numerusform>Se eliminó %n documento.</numerusform>
             <numerusform>Se eliminaron %n documentos.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n Document(s)</source>
+        <translation><numerusform>Eliminar %n documento</numerusform><numerusform>Eliminar %n documentos</numerusform></translation>
     </message>
 </context>
 <context>
@@ -5619,7 +5740,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>⚠ %n file(s) still to be decided.</source>
-        <translation><numerusform>⚠ Queda %n archivo por decidir.</numerusform><numerusform>⚠ Quedan %n archivos por decidir.</numerusform></translation>
+        <translation>
+            <numerusform>⚠ Queda %n archivo por decidir.</numerusform>
+            <numerusform>⚠ Quedan %n archivos por decidir.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6223,6 +6347,17 @@ Lo que se dice.
     </message>
 </context>
 <context>
+    <name>vl::desktop::PageView</name>
+    <message>
+        <source>Pages of the document</source>
+        <translation>Páginas del documento</translation>
+    </message>
+    <message>
+        <source>Laying out the pages…</source>
+        <translation>Componiendo las páginas…</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::Palette</name>
     <message>
         <source>Command palette</source>
@@ -6504,11 +6639,18 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>%n file(s) would be removed here as well. The project is backed up first.</source>
-        <translation><numerusform>%n archivo se eliminaría también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform><numerusform>%n archivos se eliminarían también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform></translation>
+        <translation>
+            <numerusform>%n archivo se eliminaría también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform>
+            <numerusform>%n archivos se eliminarían también aquí. Antes se hace una copia de seguridad del proyecto.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Remove</source>
         <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;Compare and Merge…</source>
+        <translation>&amp;Comparar y fusionar…</translation>
     </message>
 </context>
 <context>
