@@ -49,10 +49,21 @@ ads::DockWidgetArea areaOf(DockSide side)
     return ads::CenterDockWidgetArea;
 }
 
-void focusInto(QWidget *panel)
+/// Gives the focus to what the panel wants it for, else to its first control, else to its dock.
+void focusInto(ads::CDockWidget *dock)
 {
-    if (QWidget *first = panel->focusProxy() ? panel->focusProxy() : panel->nextInFocusChain())
-        first->setFocus(Qt::TabFocusReason);
+    QWidget *panel = dock->widget();
+    const auto takesFocus = [panel](const QWidget *widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled()
+               && widget->isVisibleTo(panel);
+    };
+    QWidget *target = panel->focusProxy();
+    if (!target || !takesFocus(target)) {
+        target = panel->nextInFocusChain();
+        while (target != panel && !(panel->isAncestorOf(target) && takesFocus(target)))
+            target = target->nextInFocusChain();
+    }
+    (target == panel ? dock : target)->setFocus(Qt::TabFocusReason);
 }
 
 void nameButtons(ads::CDockWidget *dock)
@@ -155,8 +166,10 @@ void PanelHost::placeStrays()
 void PanelHost::sizeAreas()
 {
     const int width = m_manager->window()->width();
-    const int left = std::clamp(width * 23 / 100, grid(60), grid(84));
-    const int right = std::clamp(width * 22 / 100, grid(60), grid(88));
+    // Large texts must not push the manuscript out between the sides.
+    const int most = width * 28 / 100;
+    const int left = qMin(std::clamp(width * 23 / 100, grid(60), grid(84)), most);
+    const int right = qMin(std::clamp(width * 22 / 100, grid(60), grid(88)), most);
     QList<int> sizes;
     const auto isShown = [this](DockSide side) {
         return m_areas[side] && !m_areas[side]->isHidden();
@@ -244,7 +257,7 @@ void PanelHost::showPanel(const QString &objectName)
     if (ads::CDockWidget *dock = m_manager->findDockWidget(objectName)) {
         dock->toggleView(true);
         dock->setAsCurrentTab();
-        dock->widget()->setFocus(Qt::ShortcutFocusReason);
+        focusInto(dock);
     }
 }
 
@@ -254,7 +267,7 @@ void PanelHost::focusFirst()
         for (const PanelRow &row : panelCatalogue()) {
             ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
             if (row.side == side && dock && !dock->isClosed()) {
-                focusInto(dock->widget());
+                focusInto(dock);
                 return;
             }
         }
@@ -269,7 +282,7 @@ void PanelHost::moveFocus(int step)
         ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
         if (!dock || dock->isClosed() || !dock->isVisible())
             continue;
-        if (focused && dock->isAncestorOf(focused))
+        if (focused && (dock == focused || dock->isAncestorOf(focused)))
             current = qsizetype(open.size());
         open.push_back(dock);
     }
@@ -278,7 +291,7 @@ void PanelHost::moveFocus(int step)
     const auto count = qsizetype(open.size());
     const qsizetype next =
         current < 0 ? (step > 0 ? 0 : count - 1) : (current + step + count) % count;
-    focusInto(open[size_t(next)]->widget());
+    focusInto(open[size_t(next)]);
 }
 
 QRect reachableFrame(const QRect &frame, const QList<QRect> &screens)

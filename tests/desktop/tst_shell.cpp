@@ -1,4 +1,5 @@
 #include "app/base/settingskeys.h"
+#include "desktop/panels/catalogue.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
 #include "desktop/shell/maintoolbar.h"
@@ -64,6 +65,9 @@ private Q_SLOTS:
     void layoutsAreKeptUnderTheirNames();
     void aLayoutThatDoesNotFitGivesTheFirst_data();
     void aLayoutThatDoesNotFitGivesTheFirst();
+    void theFirstLayoutGivesTheTextItsRoom_data();
+    void theFirstLayoutGivesTheTextItsRoom();
+    void theKeyboardReachesEveryPanel();
     void windowsAreBroughtBack_data();
     void windowsAreBroughtBack();
     void ownKeysStandOverBuiltInOnes_data();
@@ -191,6 +195,65 @@ void TestShell::aLayoutThatDoesNotFitGivesTheFirst()
     desk.open();
     QVERIFY(desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->isChecked());
     QVERIFY(desk.entry(QStringLiteral("&View"), QStringLiteral("Editor"))->isChecked());
+}
+
+void TestShell::theFirstLayoutGivesTheTextItsRoom_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("least"); // of the editor's width, in pixels
+    QTest::newRow("small screen") << QSize(1280, 800) << 600;
+    QTest::newRow("large screen") << QSize(1920, 1080) << 1000;
+}
+
+void TestShell::theFirstLayoutGivesTheTextItsRoom()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, least);
+    Desk desk;
+    desk.open();
+    desk.window->resize(size);
+    desk.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(desk.window.get()));
+    desk.action("view.resetLayout")->trigger();
+    QCoreApplication::processEvents();
+    const auto area = [&](const char *panel) {
+        const auto *dock = desk.window->findChild<QWidget *>(QLatin1String(panel));
+        return dock ? QRect(dock->mapTo(desk.window.get(), QPoint()), dock->size()) : QRect();
+    };
+    const QRect text = area("editor");
+    QVERIFY2(text.width() >= least, qPrintable(QString::number(text.width())));
+    QVERIFY(area("manuscript").isValid() && area("codex").isValid());
+    QVERIFY(area("manuscript").right() < text.left());
+    QVERIFY(area("manuscript").bottom() < area("codex").top());
+    QCOMPARE(area("codex").left(), area("manuscript").left());
+    QVERIFY(!area("inspector").isValid() || area("inspector").left() > text.right());
+}
+
+void TestShell::theKeyboardReachesEveryPanel()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    desk.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(desk.window.get()));
+    const auto visited = [&](const char *action) {
+        QSet<QString> panels;
+        for (size_t i = 0; i < desktop::panelCatalogue().size(); ++i) {
+            desk.action(action)->trigger();
+            for (const QWidget *widget = QApplication::focusWidget(); widget;
+                 widget = widget->parentWidget())
+                for (const desktop::PanelRow &row : desktop::panelCatalogue())
+                    if (widget->objectName() == QLatin1String(row.objectName))
+                        panels.insert(widget->objectName());
+        }
+        return panels;
+    };
+    QSet<QString> open;
+    for (const desktop::PanelRow &row : desktop::panelCatalogue())
+        if (row.firstState == desktop::FirstState::Open)
+            open.insert(QLatin1String(row.objectName));
+    QCOMPARE(visited("view.nextPanel"), open);
+    QCOMPARE(visited("view.previousPanel"), open);
 }
 
 void TestShell::windowsAreBroughtBack_data()
