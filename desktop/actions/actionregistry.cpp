@@ -3,6 +3,7 @@
 #include "app/base/settings.h"
 #include "desktop/shell/icons.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QMenu>
 
 #include <algorithm>
@@ -23,9 +24,8 @@ constexpr std::pair<std::string_view, const char *> icons[] = {
     {"file.backUp", "backup"},
     {"edit.undo", "undo"},
     {"edit.redo", "redo"},
-    {"edit.find", "find"},
-    {"edit.replace", "replace"},
-    {"edit.findInProject", "filter"},
+    {"edit.find", "replace"},
+    {"edit.findInProject", "find"},
     {"edit.preferences", "settings"},
     {"doc.add", "document"},
     {"doc.addNote", "note"},

@@ -4,6 +4,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/widgets/grid.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QPainter>
 #include <QtWidgets/QButtonGroup>

@@ -4,6 +4,7 @@
 #include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHBoxLayout>
@@ -14,6 +15,8 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 namespace vl::desktop {
 

@@ -166,10 +166,21 @@ void PanelHost::placeStrays()
 void PanelHost::sizeAreas()
 {
     const int width = m_manager->window()->width();
-    // Large texts must not push the manuscript out between the sides.
+    const auto needOf = [this](std::initializer_list<DockSide> sides) {
+        int need = 0;
+        for (const PanelRow &row : panelCatalogue())
+            if (const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+                dock && !dock->isClosed()
+                && std::find(sides.begin(), sides.end(), row.side) != sides.end())
+                need = qMax(need, dock->widget()->minimumSizeHint().width());
+        return need;
+    };
+    // Large texts must not push the manuscript out between the sides, nor be cut themselves.
     const int most = width * 28 / 100;
-    const int left = qMin(std::clamp(width * 23 / 100, grid(60), grid(84)), most);
-    const int right = qMin(std::clamp(width * 22 / 100, grid(60), grid(88)), most);
+    const int left = qMax(qMin(std::clamp(width * 23 / 100, grid(60), grid(84)), most),
+                          needOf({DockSide::Left, DockSide::LeftBelow}));
+    const int right = qMax(qMin(std::clamp(width * 22 / 100, grid(60), grid(88)), most),
+                           needOf({DockSide::Right}));
     QList<int> sizes;
     const auto isShown = [this](DockSide side) {
         return m_areas[side] && !m_areas[side]->isHidden();
