@@ -2,7 +2,7 @@
 // interface thread, with one changed document and with nothing changed, and how long it takes from
 // the end of the quiet time until one outside change is noticed and reconciled.
 //
-// bench_autosave [objects of the saves] [files of the look]
+// bench_autosave [objects of the saves] [files of the look] [saves]
 
 #include "app/base/files.h"
 #include "app/models/autosavecontroller.h"
@@ -27,7 +27,7 @@ namespace {
 
 using namespace vl;
 
-constexpr int rounds = 100;
+int rounds = 100;
 
 double milliseconds(qint64 nanoseconds)
 {
@@ -39,8 +39,8 @@ void print(const char *what, const char *name, int objects, std::vector<double> 
     std::sort(times.begin(), times.end());
     std::printf("%-34s %-7s %6d objects: %.3f ms (median), %.3f ms (99th percentile), %.3f ms "
                 "(most)\n",
-                what, name, objects, times[times.size() / 2], times[times.size() * 99 / 100 - 1],
-                times.back());
+                what, name, objects, times[times.size() / 2],
+                times[std::max<std::size_t>(times.size() * 99 / 100, 1) - 1], times.back());
 }
 
 /// Notes how long each event holds the thread; the sum of all while it is told to.
@@ -187,6 +187,7 @@ int main(int argc, char *argv[])
     QStandardPaths::setTestModeEnabled(true);
     const int objects = argc > 1 ? QByteArray(argv[1]).toInt() : 50000;
     const int files = argc > 2 ? QByteArray(argv[2]).toInt() : 10000;
+    rounds = argc > 3 ? QByteArray(argv[3]).toInt() : rounds;
     const QTemporaryDir dir(QStringLiteral("/dev/shm/ivorel-bench-XXXXXX"));
     qputenv("XDG_DATA_HOME", dir.path().toLocal8Bit());
     const QString paths[] = {
