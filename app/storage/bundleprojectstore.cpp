@@ -11,6 +11,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QThreadPool>
 
 #include <algorithm>
 #include <map>
@@ -103,6 +104,9 @@ public:
             save.readPaths.append(file.path);
         const Result<> done = write(outside);
         written = std::make_shared<const ProjectFiles>(std::move(save.files));
+        // Thousands of small texts are let go here rather than on the interface thread.
+        save.readPaths.clear();
+        m_files.base.reset();
         return done;
     }
 
@@ -235,7 +239,8 @@ public:
         }
         if (!succeeded)
             return;
-        m_base = pending.written;
+        QThreadPool::globalInstance()->start(
+            [old = std::exchange(m_base, pending.written)]() mutable { old.reset(); });
         m_isOwnForm = true;
         m_carryFrom.clear();
     }
