@@ -47,12 +47,14 @@ InspectorPanel::InspectorPanel(const PanelContext &context, QWidget *parent)
     auto *column = new QVBoxLayout(whole);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    m_heading->setContentsMargins(grid(3), grid(2), grid(3), grid(2));
     QFont bold = m_heading->font();
     bold.setBold(true);
     m_heading->setFont(bold);
     m_heading->setAccessibleName(tr("What is selected"));
-    column->addWidget(m_heading);
+    auto *headingRow = new QHBoxLayout;
+    headingRow->setContentsMargins(grid(3), grid(2), grid(3), grid(2));
+    headingRow->addWidget(m_heading);
+    column->addLayout(headingRow);
     m_scroll->setWidgetResizable(true);
     m_scroll->viewport()->setAutoFillBackground(false);
     m_scroll->setFrameShape(QFrame::NoFrame);
