@@ -132,6 +132,7 @@ QString DocumentOperations::removalQuestion(const QList<ContentId> &ids) const
 
 void DocumentOperations::remove(const QList<ContentId> &ids)
 {
+    m_workspace.flush(); // what was typed in them goes along, and comes back with them
     QList<ContentId> all = withAllBelow(ids);
     if (all.isEmpty())
         return;

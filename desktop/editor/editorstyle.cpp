@@ -144,9 +144,4 @@ QColor EditorStyle::hitGround() const
     return mix(m_palette.color(QPalette::Highlight), m_palette.color(QPalette::Base), 0.25);
 }
 
-QColor EditorStyle::currentHitGround() const
-{
-    return mix(m_palette.color(QPalette::Highlight), m_palette.color(QPalette::Base), 0.5);
-}
-
 } // namespace vl::desktop

@@ -31,7 +31,6 @@ public:
     QColor quoteBarColor() const;
     QColor codeGround() const;
     QColor hitGround() const;
-    QColor currentHitGround() const;
 
 private:
     QFont m_font;

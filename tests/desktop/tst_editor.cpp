@@ -91,6 +91,7 @@ private Q_SLOTS:
     void undoPutsTheCaretBack();
     void burstsEndAfterManyWords();
     void undoReachesOtherDocuments();
+    void removedDocumentsKeepWhatWasTyped();
     void placesComeBack();
     void pasteIsPlainAndItsOwnStep();
     void typographyCanBeTakenBack();
@@ -235,6 +236,20 @@ void TestEditor::undoReachesOtherDocuments()
     QCOMPARE(first.body(), QStringLiteral("First. One."));
     QCOMPARE(desk.text->text(), QStringLiteral("First. One."));
     QCOMPARE(desk.text->caret(), qsizetype(11));
+}
+
+void TestEditor::removedDocumentsKeepWhatWasTyped()
+{
+    Window desk;
+    Document &document = desk.add(QStringLiteral("First."));
+    const core::ContentId id = document.id();
+    desk.text->moveCursor(QTextCursor::End);
+    desk.type(QStringLiteral(" Typed."));
+    app::DocumentOperations(desk.workspace()).remove({id});
+    QVERIFY(!desk.workspace().project().find<Document>(id));
+    desk.undo();
+    QCOMPARE(desk.workspace().project().find<Document>(id)->body(),
+             QStringLiteral("First. Typed."));
 }
 
 void TestEditor::placesComeBack()
