@@ -26,6 +26,8 @@ UpdateStatus::UpdateStatus(UpdateCheck &check, QWidget *parent)
     , m_progress(new QProgressBar(this))
     , m_cancel(new QToolButton(this))
 {
+    // At the right end, however much room the rest of the line leaves.
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     m_install->setFlat(true);
     m_text->setTextFormat(Qt::PlainText);
     m_progress->setAccessibleName(tr("Progress of the download"));
