@@ -9,6 +9,14 @@
 
 namespace vl::app {
 
+/// What stands in an editor and is no step of the history yet.
+struct PendingText
+{
+    core::ContentId documentId;
+    QString shownText; ///< as the widget holds it; see shownText()
+};
+using PendingTexts = QList<PendingText>;
+
 /// What all panels share: the open project and the objects selected in it.
 class Workspace final : public QObject
 {
@@ -60,6 +68,10 @@ Q_SIGNALS:
     void saved();
     void saveFailed(const QString &message);
     void flushRequested();
+    /// Something was typed that is not handed in yet.
+    void typed();
+    /// Editors add what they hold and have not handed in; nothing changes by it.
+    void peekRequested(vl::app::PendingTexts &texts);
     void selectionChanged();
     void inspectRequested();
     /// The document is selected already when this comes.

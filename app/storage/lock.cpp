@@ -50,10 +50,21 @@ QString textOfFile(const QString &path)
 /// When a process began; empty when there is none of that number or the system does not tell.
 QString startOf(qint64 process)
 {
-    // The name of the program stands in brackets and may hold anything; the start is the 20th field
-    // behind it.
+    // The name of the program stands in brackets and may hold anything; behind it the first field
+    // is the state, the 20th the start. One that has ended and whom nobody asked after is no more.
     const QString text = textOfFile(QStringLiteral("/proc/%1/stat").arg(process));
-    return text.mid(text.lastIndexOf(u')') + 1).simplified().section(u' ', 19, 19);
+    const QString fields = text.mid(text.lastIndexOf(u')') + 1).simplified();
+    const bool hasEnded = fields.startsWith(u'Z') || fields.startsWith(u'X');
+    return hasEnded ? QString() : fields.section(u' ', 19, 19);
+}
+
+QString userName()
+{
+    for (const char *variable : {"USER", "LOGNAME", "USERNAME"}) {
+        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
+            return name;
+    }
+    return QFileInfo(QStringLiteral("/proc/self")).owner();
 }
 
 /// The identifier of the machine is private to it; what is written where others read is a sum.
@@ -87,7 +98,7 @@ LockHolder LockHolder::current()
 {
     LockHolder self;
     self.host = QSysInfo::machineHostName();
-    self.user = qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME"));
+    self.user = userName();
     self.process = QCoreApplication::applicationPid();
     self.since = QDateTime::currentDateTimeUtc();
     self.machine = hidden(QSysInfo::machineUniqueId());

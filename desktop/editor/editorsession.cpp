@@ -50,6 +50,10 @@ EditorSession::EditorSession(const PanelContext &context, EditorTextWidget *text
 
     app::Workspace &workspace = m_context.workspace;
     connect(&workspace, &app::Workspace::flushRequested, this, &EditorSession::handIn);
+    connect(&workspace, &app::Workspace::peekRequested, this, [this](app::PendingTexts &texts) {
+        if (m_live && m_live->hasTyped)
+            texts.append({m_live->id(), m_live->text()});
+    });
     connect(&workspace, &app::Workspace::selectionChanged, this, &EditorSession::openSelected);
     connect(&workspace, &app::Workspace::revealRequested, this, &EditorSession::reveal);
     connect(&workspace, &app::Workspace::changed, this, &EditorSession::follow);
@@ -137,6 +141,7 @@ void EditorSession::noteEdit()
     if (!m_isFollowing) {
         m_live->hasTyped = true;
         m_pause.start();
+        Q_EMIT m_context.workspace.typed();
         if (m_text->isTyping())
             m_desk.day().type(QDate::currentDate(), added);
         m_burstWords += qMax<qsizetype>(0, added);

@@ -190,6 +190,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     m_settings.setBytes(geometryKey, saveGeometry());
     m_layouts->saveSession();
+    m_care->closing();
     event->accept();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/backupkeeper.h"
+#include "app/models/journalkeeper.h"
 #include "desktop/panels/panelcontext.h"
 
 #include <QtCore/QObject>
@@ -25,8 +26,16 @@ public:
     ProjectCare(const PanelContext &context, app::ProjectFlows &flows, QWidget *window);
     ~ProjectCare() override;
 
+    /// The window closes; what the user did not save is given up.
+    void closing() { m_journal.giveUp(); }
+
 private:
     void listen();
+    void askAboutCrash();
+    void askAboutUntitled();
+    void recover(const QStringList &journals, const QStringList &paths);
+    void compareRecovered();
+    void restoreUntitled();
     void backUpNow();
     void showBackups();
     void openCopy(const QString &backupPath);
@@ -36,6 +45,7 @@ private:
     app::ProjectFlows &m_flows;
     QWidget *m_window;
     app::BackupKeeper m_backups;
+    app::JournalKeeper m_journal;
     QPointer<BackupsDialog> m_list; ///< while it is shown
 };
 
