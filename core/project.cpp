@@ -42,6 +42,8 @@ std::unique_ptr<ContentObject> Project::take(const ContentId &id)
     const auto found = m_objects.find(id);
     if (found == m_objects.end())
         return nullptr;
+    if (m_takeListener)
+        m_takeListener(*found->second);
     std::unique_ptr<ContentObject> object = std::move(found->second);
     m_objects.erase(found);
     std::vector<ContentObject *> &sameKind = m_byKind.at(std::size_t(object->kind()));

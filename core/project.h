@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -30,6 +31,11 @@ public:
     bool add(std::unique_ptr<ContentObject> &&object);
     /// Hands the object over to the caller; null for an unknown id.
     std::unique_ptr<ContentObject> take(const ContentId &id);
+    /// Has each object shown before it is taken out; null for nobody.
+    void setTakeListener(std::function<void(const ContentObject &)> listener)
+    {
+        m_takeListener = std::move(listener);
+    }
     /// The object, still owned by the project; null for an unknown id.
     ContentObject *find(const ContentId &id) const;
     /// The same, as its class; null too when it is of another kind.
@@ -142,6 +148,7 @@ private:
     QList<Reckoning> m_reckonings;
     TimelineViewSettings m_timelineView;
     QList<TimelineViewPreset> m_timelineViewPresets;
+    std::function<void(const ContentObject &)> m_takeListener;
 };
 
 } // namespace vl::core

@@ -52,6 +52,7 @@ constexpr ActionRow rows[] = {
     {"edit.find", QT_TRANSLATE_NOOP("Actions", "&Find && Replace…"), Menu::Edit, QKeySequence::Find, "", true},
     {"edit.replace", QT_TRANSLATE_NOOP("Actions", "&Replace…"), Menu::Edit, QKeySequence::Replace, "", false},
     {"edit.findInProject", QT_TRANSLATE_NOOP("Actions", "Find in &Project…"), Menu::Edit, noKey, "Ctrl+Shift+F", false},
+    {"edit.recentlyDeleted", QT_TRANSLATE_NOOP("Actions", "Recently &Deleted…"), Menu::Edit, noKey, "", false},
     {"edit.preferences", QT_TRANSLATE_NOOP("Actions", "&Preferences…"), Menu::Edit, QKeySequence::Preferences, "", true},
 
     {"doc.add", QT_TRANSLATE_NOOP("Actions", "Document…"), Menu::None, noKey, "Ctrl+Shift+N", false},

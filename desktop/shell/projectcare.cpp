@@ -1,12 +1,14 @@
 #include "desktop/shell/projectcare.h"
 
 #include "app/models/backupoperations.h"
+#include "app/models/newcontents.h"
 #include "app/models/projectflows.h"
 #include "app/models/prompts.h"
 #include "app/models/recovery.h"
 #include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/backupsdialog.h"
+#include "desktop/dialogs/recentlydeleteddialog.h"
 #include "desktop/dialogs/recoverydialog.h"
 #include "desktop/dialogs/restoredocumentdialog.h"
 #include "desktop/shell/notices.h"
@@ -28,11 +30,13 @@ ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, 
     , m_window(window)
     , m_backups(context.workspace, app::StorageLocations::standard())
     , m_journal(context.workspace, app::StorageLocations::standard())
+    , m_deleted(context.workspace, app::StorageLocations::standard())
 {
     listen();
     askAboutUntitled();
     context.actions.bind("file.backUp", this, &ProjectCare::backUpNow);
     context.actions.bind("file.backups", this, &ProjectCare::showBackups);
+    context.actions.bind("edit.recentlyDeleted", this, &ProjectCare::showRecentlyDeleted);
 }
 
 ProjectCare::~ProjectCare() = default;
@@ -154,6 +158,19 @@ void ProjectCare::restoreUntitled()
         paths.append(file.change.path);
     if (recovery.restore(workspace, paths))
         m_journal.removeFoundUntitled();
+}
+
+void ProjectCare::showRecentlyDeleted()
+{
+    m_context.workspace.flush();
+    RecentlyDeletedDialog dialog(m_deleted.groups(), m_window);
+    if (dialog.exec() != QDialog::Accepted || !dialog.chosenGroup())
+        return;
+    if (m_deleted.restore(*dialog.chosenGroup(), dialog.chosenPath())) {
+        if (const core::ContentId id = app::objectIdOf(dialog.chosenPath()); !id.isNull())
+            m_context.workspace.select(id);
+        m_context.notices.offerUndo(tr("What was deleted is restored."));
+    }
 }
 
 void ProjectCare::backUpNow()

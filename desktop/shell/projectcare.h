@@ -2,6 +2,7 @@
 
 #include "app/models/backupkeeper.h"
 #include "app/models/journalkeeper.h"
+#include "app/models/recentlydeleted.h"
 #include "desktop/panels/panelcontext.h"
 
 #include <QtCore/QObject>
@@ -36,6 +37,7 @@ private:
     void recover(const QStringList &journals, const QStringList &paths);
     void compareRecovered();
     void restoreUntitled();
+    void showRecentlyDeleted();
     void backUpNow();
     void showBackups();
     void openCopy(const QString &backupPath);
@@ -46,6 +48,7 @@ private:
     QWidget *m_window;
     app::BackupKeeper m_backups;
     app::JournalKeeper m_journal;
+    app::RecentlyDeleted m_deleted;
     QPointer<BackupsDialog> m_list; ///< while it is shown
 };
 

@@ -1,0 +1,127 @@
+#include "app/storage/deleted.h"
+
+#include "app/base/files.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QUuid>
+
+#include <algorithm>
+
+namespace vl::app {
+
+namespace {
+
+const QString timeFormat = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+constexpr int timeSize = 19;
+
+struct DeletedText
+{
+    Q_DECLARE_TR_FUNCTIONS(vl::app::DeletedStore)
+};
+
+} // namespace
+
+DeletedStore::DeletedStore(const QString &key, const StorageLocations &locations)
+    : m_folder(locations.workingFolder() + u'/' + key + QStringLiteral(".deleted"))
+    , m_locations(locations)
+{
+}
+
+Result<> DeletedStore::add(const DeletedStep &step) const
+{
+    const QString failed = DeletedText::tr("What was deleted could not be kept: %1");
+    if (!makePrivateFolder(m_folder))
+        return failure(withPath(failed, m_folder));
+    QJsonArray files;
+    for (const ProjectFile &file : step.files)
+        files.append(QJsonObject{{QLatin1String("path"), file.path},
+                                 {QLatin1String("text"), QString::fromUtf8(file.bytes)}});
+    const QJsonObject json{{QLatin1String("label"), step.label}, {QLatin1String("files"), files}};
+    QDateTime now = m_locations.now().toUTC();
+    if (!now.isValid() || now.date().year() < 1970 || now.date().year() > 9999)
+        now = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
+    const QString path =
+        QStringLiteral("%1/%2-%3.json")
+            .arg(m_folder, now.toString(timeFormat), QUuid::createUuid().toString(QUuid::Id128));
+    return writeFile(path, QJsonDocument(json).toJson(QJsonDocument::Compact), {failed, failed},
+                     Durability::Atomic);
+}
+
+/// The latest first.
+QStringList DeletedStore::fileNames() const
+{
+    QStringList names = QDir(m_folder).entryList({QStringLiteral("*.json")}, QDir::Files);
+    names.removeIf([this](const QString &name) {
+        return name.size() <= timeSize || name.at(timeSize) != u'-'
+               || !QDateTime::fromString(name.left(timeSize), timeFormat).isValid();
+    });
+    std::sort(names.begin(), names.end(), std::greater<>());
+    return names;
+}
+
+QDateTime DeletedStore::timeIn(const QString &fileName) const
+{
+    QDateTime time = QDateTime::fromString(fileName.left(timeSize), timeFormat);
+    time.setTimeSpec(Qt::UTC);
+    return time > m_locations.now() ? QDateTime() : time;
+}
+
+std::vector<DeletedStep> DeletedStore::list() const
+{
+    std::vector<DeletedStep> steps;
+    for (const QString &name : fileNames()) {
+        const Result<QByteArray> bytes = readRegularFile(m_folder + u'/' + name, QString());
+        if (!bytes)
+            continue;
+        const QJsonObject json = QJsonDocument::fromJson(*bytes).object();
+        DeletedStep step;
+        step.file = m_folder + u'/' + name;
+        step.time = timeIn(name);
+        step.label = json.value(QLatin1String("label")).toString();
+        for (const QJsonValue file : json.value(QLatin1String("files")).toArray())
+            step.files.push_back({file[QLatin1String("path")].toString(),
+                                  file[QLatin1String("text")].toString().toUtf8()});
+        if (!step.files.empty())
+            steps.push_back(std::move(step));
+    }
+    return steps;
+}
+
+void DeletedStore::remove(const DeletedStep &step) const
+{
+    removeFile(step.file, Durability::Atomic);
+}
+
+void DeletedStore::thin() const
+{
+    const QDateTime now = m_locations.now();
+    int count = 0;
+    for (const QString &name : fileNames()) {
+        const QDateTime time = timeIn(name);
+        if (++count > mostSteps || (time.isValid() && time.daysTo(now) > keptDays))
+            removeFile(m_folder + u'/' + name, Durability::Atomic);
+    }
+}
+
+void DeletedStore::copyFrom(const DeletedStore &other) const
+{
+    const QStringList names = other.fileNames();
+    if (names.isEmpty() || other.m_folder == m_folder || !makePrivateFolder(m_folder))
+        return;
+    for (const QString &name : names) {
+        const Result<QByteArray> bytes = readRegularFile(other.m_folder + u'/' + name, QString());
+        if (bytes)
+            (void)writeFile(m_folder + u'/' + name, *bytes, {}, Durability::Atomic);
+    }
+}
+
+void DeletedStore::clear() const
+{
+    QDir(m_folder).removeRecursively();
+}
+
+} // namespace vl::app

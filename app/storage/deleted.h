@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/base/result.h"
+#include "app/storage/projectfiles.h"
+#include "app/storage/workingcopy.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace vl::app {
+
+/// What one step took out of a project.
+struct DeletedStep
+{
+    QString file;       ///< where it is kept; empty until it is
+    QDateTime time;     ///< UTC; invalid when unknown, or in the future
+    QString label;      ///< the name of the step
+    ProjectFiles files; ///< of the objects and categories, as they were
+};
+
+/// What was deleted from a project, kept for a while beside its working copy, never among its own
+/// files. Works on files alone; each step is a file of its own.
+class DeletedStore
+{
+public:
+    /// How long it is kept, in days, and how many steps at most.
+    static constexpr int keptDays = 30;
+    static constexpr int mostSteps = 500;
+
+    /// The key names the project; see projectKey().
+    DeletedStore(const QString &key, const StorageLocations &locations);
+
+    Result<> add(const DeletedStep &step) const;
+    /// The latest first. What cannot be read is left out.
+    std::vector<DeletedStep> list() const;
+    void remove(const DeletedStep &step) const;
+    /// Removes what is too old, or too much.
+    void thin() const;
+    /// Takes over what another store keeps, for a project that was saved at a new place.
+    void copyFrom(const DeletedStore &other) const;
+    /// Removes everything.
+    void clear() const;
+
+private:
+    QStringList fileNames() const;
+    QDateTime timeIn(const QString &fileName) const;
+
+    QString m_folder;
+    StorageLocations m_locations;
+};
+
+} // namespace vl::app
