@@ -38,7 +38,6 @@ NoticeBar::NoticeBar(QWidget *parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum); // the panels have the rest
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     hide();
