@@ -49,6 +49,7 @@ void NoticeBar::ask(const QString &id, const QString &text, const QList<NoticeAc
     QWidget *row = makeRow(id, text, answers);
     m_rows.emplace(id, row);
     m_layout->addWidget(row);
+    row->show(); // at once, also where another question stands already
     show();
     QAccessibleEvent alert(row, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

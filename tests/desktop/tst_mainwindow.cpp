@@ -23,6 +23,8 @@ namespace {
 struct Window
 {
     QTemporaryDir dir;
+    /// What the program keeps beside its projects goes with the test.
+    bool isApart = qputenv("XDG_DATA_HOME", QFile::encodeName(dir.path()));
     app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
     test::FakePrompts prompts;
     desktop::MainWindow window{settings, &prompts};
