@@ -2,6 +2,7 @@
 
 #include "app/base/wordcount.h"
 #include "app/models/documentoperations.h"
+#include "app/models/objecttexts.h"
 #include "app/models/workspace.h"
 #include "core/commands/documentcommands.h"
 
@@ -31,6 +32,19 @@ QList<core::ContentId> idsFrom(const QMimeData *data)
 }
 
 } // namespace
+
+struct DocumentsModel::Node
+{
+    core::ContentId id;
+    Node *parent = nullptr;
+    std::vector<std::unique_ptr<Node>> children; ///< all, in order
+    std::vector<Node *> shown;                   ///< those that are rows
+    int row = -1;                                ///< among them, -1 while hidden
+    bool passes = true;                          ///< the filter, by itself
+    mutable QString searched;                    ///< null until a filter asks for it
+    qsizetype words = 0;
+    qsizetype treeWords = 0;
+};
 
 DocumentsModel::DocumentsModel(Workspace &workspace, QObject *parent)
     : QAbstractItemModel(parent)
@@ -76,10 +90,19 @@ void DocumentsModel::reset()
             above->treeWords += node->words;
         path[path.size() - 2]->children.push_back(std::move(node));
     }
+    filterAll();
     endResetModel();
 }
 
 void DocumentsModel::apply(const core::ChangeSet &changes)
+{
+    if (isFiltered() && changesRows(changes))
+        changeLayout([&] { follow(changes); });
+    else
+        follow(changes);
+}
+
+void DocumentsModel::follow(const core::ChangeSet &changes)
 {
     std::vector<core::Document *> present;
     for (const auto &[id, change] : changes.objects()) {
@@ -103,6 +126,44 @@ void DocumentsModel::apply(const core::ChangeSet &changes)
     }
 }
 
+bool DocumentsModel::changesRows(const core::ChangeSet &changes) const
+{
+    return std::any_of(changes.objects().begin(), changes.objects().end(), [&](const auto &entry) {
+        const auto &[id, change] = entry;
+        const Node *node = m_nodes.value(id);
+        if (change == core::ChangeSet::Change::Removed)
+            return node != nullptr;
+        const auto *document = m_workspace.project().find<core::Document>(id);
+        if (!document || !node)
+            return document != nullptr;
+        Node now;
+        now.id = id;
+        return node->passes != passes(now) || node->parent != wantedParent(*document)
+               || placeOf(*node) != wantedRow(*document, *node->parent);
+    });
+}
+
+template<typename Work>
+void DocumentsModel::changeLayout(const Work &work)
+{
+    Q_EMIT layoutAboutToBeChanged();
+    const QModelIndexList before = persistentIndexList();
+    std::vector<core::ContentId> ids;
+    ids.reserve(size_t(before.size()));
+    for (const QModelIndex &index : before)
+        ids.push_back(idAt(index));
+    m_isQuiet = true;
+    work();
+    filterAll();
+    m_isQuiet = false;
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after.append(indexOf(ids[size_t(i)], before[i].column()));
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged();
+}
+
 void DocumentsModel::removeNode(Node &node)
 {
     // Documents below it that stay in the project come to the top level, in reach.
@@ -110,25 +171,25 @@ void DocumentsModel::removeNode(Node &node)
         Node &child = *node.children.back();
         if (const core::Document *below = document(child)) {
             const int row = wantedRow(*below, *m_root);
-            beginMoveRows(indexOf(node), rowOf(child), rowOf(child), {}, row);
-            std::unique_ptr<Node> taken = std::move(node.children.back());
-            node.children.pop_back();
+            if (!m_isQuiet)
+                beginMoveRows(indexOf(node), child.row, child.row, {}, row);
+            std::unique_ptr<Node> taken = take(child);
             changeWords(&node, -taken->treeWords);
             changeWords(m_root.get(), taken->treeWords);
-            taken->parent = m_root.get();
-            m_root->children.insert(m_root->children.begin() + row, std::move(taken));
-            endMoveRows();
+            put(*m_root, row, std::move(taken));
+            if (!m_isQuiet)
+                endMoveRows();
         } else {
             removeNode(child);
         }
     }
-    Node *parent = node.parent;
-    const int row = rowOf(node);
-    changeWords(parent, -node.treeWords);
-    beginRemoveRows(indexOf(*parent), row, row);
+    changeWords(node.parent, -node.treeWords);
+    if (!m_isQuiet)
+        beginRemoveRows(indexOf(*node.parent), node.row, node.row);
     m_nodes.remove(node.id);
-    parent->children.erase(parent->children.begin() + row);
-    endRemoveRows();
+    take(node).reset();
+    if (!m_isQuiet)
+        endRemoveRows();
 }
 
 void DocumentsModel::insertNode(const core::Document &document)
@@ -137,12 +198,13 @@ void DocumentsModel::insertNode(const core::Document &document)
     const int row = wantedRow(document, *parent);
     auto node = std::make_unique<Node>();
     node->id = document.id();
-    node->parent = parent;
     Node *added = node.get();
-    beginInsertRows(indexOf(*parent), row, row);
+    if (!m_isQuiet)
+        beginInsertRows(indexOf(*parent), row, row);
     m_nodes.insert(document.id(), added);
-    parent->children.insert(parent->children.begin() + row, std::move(node));
-    endInsertRows();
+    put(*parent, row, std::move(node));
+    if (!m_isQuiet)
+        endInsertRows();
     adoptLostChildren(*added);
 }
 
@@ -160,26 +222,57 @@ void DocumentsModel::placeNode(Node &node)
     const core::Document *moved = document(node);
     Node *from = node.parent;
     Node *to = wantedParent(*moved);
-    const int row = rowOf(node);
+    const int row = placeOf(node);
     const int wanted = wantedRow(*moved, *to);
     if (from == to && row == wanted)
         return;
     // Rows are told as they stand before the move.
     const int destination = from == to && wanted > row ? wanted + 1 : wanted;
-    beginMoveRows(indexOf(*from), row, row, indexOf(*to), destination);
-    std::unique_ptr<Node> taken = std::move(from->children[size_t(row)]);
-    from->children.erase(from->children.begin() + row);
+    if (!m_isQuiet)
+        beginMoveRows(indexOf(*from), row, row, indexOf(*to), destination);
+    std::unique_ptr<Node> taken = take(node);
     if (from != to) {
         changeWords(from, -node.treeWords);
         changeWords(to, node.treeWords);
     }
-    node.parent = to;
-    to->children.insert(to->children.begin() + wanted, std::move(taken));
-    endMoveRows();
+    put(*to, wanted, std::move(taken));
+    if (!m_isQuiet)
+        endMoveRows();
+}
+
+std::unique_ptr<DocumentsModel::Node> DocumentsModel::take(Node &node)
+{
+    Node &parent = *node.parent;
+    const auto place = parent.children.begin() + placeOf(node);
+    std::unique_ptr<Node> taken = std::move(*place);
+    parent.children.erase(place);
+    if (const int row = std::exchange(node.row, -1); row >= 0) {
+        parent.shown.erase(parent.shown.begin() + row);
+        renumber(parent, row);
+    }
+    return taken;
+}
+
+void DocumentsModel::put(Node &parent, int row, std::unique_ptr<Node> node)
+{
+    node->parent = &parent;
+    // While rows are hidden a new layout follows, which finds them all again.
+    if (parent.shown.size() == parent.children.size()) {
+        parent.shown.insert(parent.shown.begin() + row, node.get());
+        renumber(parent, row);
+    }
+    parent.children.insert(parent.children.begin() + row, std::move(node));
+}
+
+void DocumentsModel::renumber(Node &parent, int firstRow)
+{
+    for (size_t row = size_t(firstRow); row < parent.shown.size(); ++row)
+        parent.shown[row]->row = int(row);
 }
 
 void DocumentsModel::refresh(Node &node)
 {
+    node.searched = QString();
     const qsizetype words = countWords(document(node)->body());
     const qsizetype difference = words - node.words;
     node.words = words;
@@ -201,7 +294,10 @@ void DocumentsModel::changeWords(Node *node, qsizetype difference)
 
 void DocumentsModel::emitRow(const Node &node, int firstColumn, int lastColumn)
 {
-    Q_EMIT dataChanged(indexOf(node, firstColumn), indexOf(node, lastColumn));
+    // The rows of a hidden branch are nowhere to be seen.
+    const QModelIndex first = m_isQuiet ? QModelIndex() : indexOf(node, firstColumn);
+    if (first.isValid())
+        Q_EMIT dataChanged(first, first.siblingAtColumn(lastColumn));
 }
 
 DocumentsModel::Node *DocumentsModel::wantedParent(const core::Document &document) const
@@ -237,7 +333,76 @@ bool DocumentsModel::standsBefore(const core::Document &a, const core::Document 
     return a.sortIndex() != b.sortIndex() ? a.sortIndex() < b.sortIndex() : a.id() < b.id();
 }
 
+// --- the filter
+
+void DocumentsModel::setFilter(const QString &text)
+{
+    const QStringList terms = searchText(text).simplified().split(u' ', Qt::SkipEmptyParts);
+    if (terms == m_terms)
+        return;
+    changeLayout([&] { m_terms = terms; });
+}
+
+bool DocumentsModel::passes(const Node &node) const
+{
+    if (m_terms.isEmpty())
+        return true;
+    const core::Document *shown = document(node);
+    if (shown && node.searched.isNull())
+        node.searched = searchText(titleText(*shown));
+    return std::all_of(m_terms.begin(), m_terms.end(),
+                       [&](const QString &term) { return node.searched.contains(term); });
+}
+
+void DocumentsModel::filterAll()
+{
+    // Every document stands in the list before those below it.
+    std::vector<Node *> nodes{m_root.get()};
+    nodes.reserve(size_t(m_nodes.size()) + 1);
+    for (size_t i = 0; i < nodes.size(); ++i)
+        for (const auto &child : nodes[i]->children)
+            nodes.push_back(child.get());
+    for (auto each = nodes.rbegin(); each != nodes.rend(); ++each) {
+        Node &node = **each;
+        node.passes = passes(node);
+        node.shown.clear();
+        for (const auto &child : node.children) {
+            const bool isShown = child->passes || !child->shown.empty();
+            child->row = isShown ? int(node.shown.size()) : -1;
+            if (isShown)
+                node.shown.push_back(child.get());
+        }
+    }
+}
+
+QModelIndex DocumentsModel::firstMatch() const
+{
+    std::vector<const Node *> stack{m_root.get()};
+    while (!stack.empty()) {
+        const Node *node = stack.back();
+        stack.pop_back();
+        if (node != m_root.get() && node->passes)
+            return indexOf(*node);
+        stack.insert(stack.end(), node->shown.rbegin(), node->shown.rend());
+    }
+    return {};
+}
+
+QList<core::ContentId> DocumentsModel::branches() const
+{
+    QList<core::ContentId> ids;
+    for (const Node *node : m_nodes)
+        if (!node->shown.empty())
+            ids.append(node->id);
+    return ids;
+}
+
 // --- rows
+
+QString DocumentsModel::titleText(const core::Document &document)
+{
+    return document.title().isEmpty() ? tr("Untitled") : document.title();
+}
 
 const core::Document *DocumentsModel::document(const Node &node) const
 {
@@ -249,7 +414,7 @@ DocumentsModel::Node *DocumentsModel::nodeAt(const QModelIndex &index) const
     return index.isValid() ? static_cast<Node *>(index.internalPointer()) : m_root.get();
 }
 
-int DocumentsModel::rowOf(const Node &node)
+int DocumentsModel::placeOf(const Node &node)
 {
     const auto &siblings = node.parent->children;
     const auto found = std::find_if(siblings.begin(), siblings.end(),
@@ -259,28 +424,33 @@ int DocumentsModel::rowOf(const Node &node)
 
 QModelIndex DocumentsModel::indexOf(const Node &node, int column) const
 {
-    if (&node == m_root.get())
-        return {};
-    return createIndex(rowOf(node), column, const_cast<Node *>(&node));
+    for (const Node *above = &node; above != m_root.get(); above = above->parent)
+        if (above->row < 0)
+            return {};
+    return &node == m_root.get() ? QModelIndex()
+                                 : createIndex(node.row, column, const_cast<Node *>(&node));
 }
 
 QModelIndex DocumentsModel::index(int row, int column, const QModelIndex &parent) const
 {
     const Node *node = nodeAt(parent);
-    if (row < 0 || row >= int(node->children.size()) || column < 0 || column >= ColumnCount
+    if (row < 0 || row >= int(node->shown.size()) || column < 0 || column >= ColumnCount
         || parent.column() > 0)
         return {};
-    return createIndex(row, column, node->children[size_t(row)].get());
+    return createIndex(row, column, node->shown[size_t(row)]);
 }
 
 QModelIndex DocumentsModel::parent(const QModelIndex &index) const
 {
-    return index.isValid() ? indexOf(*nodeAt(index)->parent) : QModelIndex();
+    const Node *above = index.isValid() ? nodeAt(index)->parent : nullptr;
+    return !above || above == m_root.get()
+               ? QModelIndex()
+               : createIndex(above->row, TitleColumn, const_cast<Node *>(above));
 }
 
 int DocumentsModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.column() > 0 ? 0 : int(nodeAt(parent)->children.size());
+    return parent.column() > 0 ? 0 : int(nodeAt(parent)->shown.size());
 }
 
 int DocumentsModel::columnCount(const QModelIndex & /*parent*/) const
@@ -302,7 +472,7 @@ QVariant DocumentsModel::data(const QModelIndex &index, int role) const
             return QLocale().toString(qlonglong(node.treeWords));
         if (index.column() == StatusColumn)
             return shown->status();
-        return shown->title().isEmpty() ? tr("Untitled") : shown->title();
+        return titleText(*shown);
     case Qt::EditRole:
         return index.column() == StatusColumn ? shown->status() : shown->title();
     case Qt::ToolTipRole:
@@ -394,8 +564,15 @@ bool DocumentsModel::dropMimeData(const QMimeData *data, Qt::DropAction action, 
         return false;
     const QModelIndex parentIndex = parent.siblingAtColumn(TitleColumn);
     core::ContentId before; // the document that will stand behind those that are dropped
-    if (row >= 0 && row < rowCount(parentIndex))
-        before = idAt(index(row, TitleColumn, parentIndex));
+    const Node *above = nodeAt(parentIndex);
+    if (row >= 0 && row < int(above->shown.size())) {
+        before = above->shown[size_t(row)]->id;
+    } else if (row > 0 && above->shown.size() < above->children.size() && !above->shown.empty()) {
+        // Right behind the row that was seen there, not behind those that the filter hides.
+        const auto next = size_t(placeOf(*above->shown.back())) + 1;
+        if (next < above->children.size())
+            before = above->children[next]->id;
+    }
     DocumentOperations(m_workspace).move(idsFrom(data), idAt(parentIndex), before);
     // The move is done; were this true, the view would remove the rows that it moved.
     return false;

@@ -5,6 +5,7 @@
 #include <QtCore/QAbstractItemModel>
 #include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QStringList>
 
 #include <memory>
 #include <vector>
@@ -18,8 +19,10 @@ namespace vl::app {
 
 class Workspace;
 
-/// The manuscript tree of the open project. It follows the history row by row and never rebuilds
-/// itself for a change; its setters push commands.
+/// The manuscript tree of the open project, and what of it passes a filter. It follows the history
+/// row by row and never rebuilds itself for a change; only while it is filtered are rows that come,
+/// go or move told as one new layout, in which every row stays the row it was. Its setters push
+/// commands.
 class DocumentsModel final : public QAbstractItemModel
 {
     Q_OBJECT
@@ -43,9 +46,19 @@ public:
     explicit DocumentsModel(Workspace &workspace, QObject *parent = nullptr);
     ~DocumentsModel() override;
 
-    /// The document in a row, the null id for the invisible root; and its row, if it has one.
+    /// The document in a row, the null id for the invisible root; and its row, if it has one that
+    /// passes the filter.
     core::ContentId idAt(const QModelIndex &index) const;
     QModelIndex indexOf(const core::ContentId &id, int column = TitleColumn) const;
+
+    /// Shows only what holds all words of the text in its title, without regard to case and
+    /// accents, and the documents above it. An empty text shows everything.
+    void setFilter(const QString &text);
+    bool isFiltered() const { return !m_terms.isEmpty(); }
+    /// The first row that passes the filter by itself, not by what lies below it.
+    QModelIndex firstMatch() const;
+    /// The documents with rows below them, in no order.
+    QList<core::ContentId> branches() const;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &index) const override;
@@ -67,23 +80,27 @@ public:
                       const QModelIndex &parent) override;
 
 private:
-    struct Node
-    {
-        core::ContentId id;
-        Node *parent = nullptr;
-        std::vector<std::unique_ptr<Node>> children;
-        qsizetype words = 0;
-        qsizetype treeWords = 0;
-    };
+    struct Node;
 
     void reset();
     void apply(const core::ChangeSet &changes);
+    void follow(const core::ChangeSet &changes);
+    /// Whether a change makes rows come, go or move, those that the filter hides among them.
+    bool changesRows(const core::ChangeSet &changes) const;
+    template<typename Work>
+    void changeLayout(const Work &work);
+    bool passes(const Node &node) const;
+    void filterAll();
     void removeNode(Node &node);
     void insertNode(const core::Document &document);
     void placeNode(Node &node);
     void adoptLostChildren(Node &node);
     void refresh(Node &node);
     void changeWords(Node *node, qsizetype difference);
+    /// Takes the node out of the children of its parent, and puts one among those of another.
+    static std::unique_ptr<Node> take(Node &node);
+    static void put(Node &parent, int row, std::unique_ptr<Node> node);
+    static void renumber(Node &parent, int firstRow);
     void emitRow(const Node &node, int firstColumn, int lastColumn);
 
     Node *wantedParent(const core::Document &document) const;
@@ -91,13 +108,17 @@ private:
     int wantedRow(const core::Document &document, const Node &parent) const;
     bool standsBefore(const core::Document &a, const core::Document &b) const;
     Node *nodeAt(const QModelIndex &index) const;
-    static int rowOf(const Node &node);
+    /// Where it stands among all children of its parent, those that are hidden among them.
+    static int placeOf(const Node &node);
     QModelIndex indexOf(const Node &node, int column = TitleColumn) const;
     const core::Document *document(const Node &node) const;
+    static QString titleText(const core::Document &document);
 
     Workspace &m_workspace;
     std::unique_ptr<Node> m_root;
     QHash<core::ContentId, Node *> m_nodes;
+    QStringList m_terms;
+    bool m_isQuiet = false; ///< while a new layout is made, which tells of all rows at once
 };
 
 } // namespace vl::app

@@ -7,13 +7,12 @@
 #include "desktop/actions/actionregistry.h"
 #include "desktop/panels/rowdelegate.h"
 #include "desktop/shell/notices.h"
+#include "desktop/widgets/emptystate.h"
 
-#include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
@@ -30,45 +29,13 @@ namespace {
 constexpr int roomForStatus = 46; // characters of the panel's width
 constexpr int roomForWords = 24;
 
-/// The documents whose title holds a text, with those above them. A new text is told as one new
-/// layout: row by row, thousands that come and go would take seconds.
-class TitleFilter final : public QSortFilterProxyModel
-{
-public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
-
-    void setText(const QString &text)
-    {
-        m_text = text;
-        invalidate();
-    }
-
-protected:
-    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
-    {
-        return m_text.isEmpty()
-               || sourceModel()
-                      ->index(row, DocumentsModel::TitleColumn, parent)
-                      .data()
-                      .toString()
-                      .contains(m_text, Qt::CaseInsensitive);
-    }
-
-private:
-    QString m_text;
-};
-
 } // namespace
 
 DocumentsPanel::DocumentsPanel(const PanelContext &context, QWidget *parent)
     : QWidget(parent)
     , m_context(context)
     , m_model(new DocumentsModel(context.workspace, this))
-    , m_filtered(new TitleFilter(this))
 {
-    m_filtered->setSourceModel(m_model);
-    m_filtered->setRecursiveFilteringEnabled(true);
-
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->setSpacing(4);
@@ -110,6 +77,7 @@ void DocumentsPanel::buildToolBar(QLayout *layout)
     m_filter->setClearButtonEnabled(true);
     if (auto *clear = m_filter->findChild<QToolButton *>())
         clear->setAccessibleName(tr("Clear the filter"));
+    m_filter->installEventFilter(this);
     connect(m_filter, &QLineEdit::textChanged, this, &DocumentsPanel::applyFilter);
     bar->addWidget(m_filter, 1);
     static_cast<QVBoxLayout *>(layout)->addLayout(bar);
@@ -124,7 +92,7 @@ void DocumentsPanel::buildTree(QLayout *layout)
     m_tree->setToolTip(tr("The manuscript: documents and notes. Drag to reorder or drop onto "
                           "another to nest; right-click for actions; Ins adds, F2 renames, Del "
                           "deletes."));
-    m_tree->setModel(m_filtered);
+    m_tree->setModel(m_model);
     auto *delegate = new RowDelegate(m_tree);
     delegate->setDimmedRole(DocumentsModel::IsNoteRole);
     m_tree->setItemDelegate(delegate);
@@ -134,6 +102,7 @@ void DocumentsPanel::buildTree(QLayout *layout)
     m_tree->setDragDropMode(QAbstractItemView::DragDrop);
     m_tree->setDefaultDropAction(Qt::MoveAction);
     m_tree->setDropIndicatorShown(true);
+    m_tree->setAutoExpandDelay(600);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
     m_tree->setTextElideMode(Qt::ElideMiddle);
     m_tree->setExpandsOnDoubleClick(false);
@@ -148,7 +117,10 @@ void DocumentsPanel::buildTree(QLayout *layout)
 
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(m_tree);
-    m_pages->addWidget(makeEmptyState());
+    auto *empty = new EmptyState(tr("The chapters and scenes of your manuscript stand here."),
+                                 tr("Write the First Document"), this);
+    connect(empty, &EmptyState::activated, this, &DocumentsPanel::addDocument);
+    m_pages->addWidget(empty);
     layout->addWidget(m_pages);
 
     connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
@@ -160,28 +132,45 @@ void DocumentsPanel::buildTree(QLayout *layout)
 
 void DocumentsPanel::applyFilter(const QString &text)
 {
-    const auto places = m_context.workspace.project().documentTree().inOrder();
-    const auto row = [this](const ContentId &id) {
-        return m_filtered->mapFromSource(m_model->indexOf(id));
-    };
-    if (!m_isFiltered) {
+    if (!m_model->isFiltered()) {
         m_openBranches.clear();
-        for (const core::DocumentTree::Place &place : places)
-            if (m_tree->isExpanded(row(place.document->id())))
-                m_openBranches.insert(place.document->id());
+        const QList<ContentId> branches = m_model->branches();
+        for (const ContentId &id : branches)
+            if (m_tree->isExpanded(m_model->indexOf(id)))
+                m_openBranches.insert(id);
     }
-    m_isFiltered = !text.isEmpty();
-    static_cast<TitleFilter *>(m_filtered)->setText(text);
-    if (m_isFiltered) {
+    const bool wasFiltered = m_model->isFiltered();
+    m_model->setFilter(text);
+    if (m_model->isFiltered()) {
         m_tree->expandAll();
-        selectFromWorkspace();
-        return;
+    } else if (wasFiltered) {
+        // All branches were opened to show what matched; now they stand as before.
+        m_tree->collapseAll();
+        m_tree->setUpdatesEnabled(false);
+        for (const ContentId &id : std::as_const(m_openBranches))
+            m_tree->setExpanded(m_model->indexOf(id), true);
+        m_tree->setUpdatesEnabled(true);
     }
-    // All branches were opened to show what matched; now they stand as before.
-    m_tree->collapseAll();
-    for (const ContentId &id : std::as_const(m_openBranches))
-        m_tree->setExpanded(row(id), true);
+    updateEmptyState();
     selectFromWorkspace();
+}
+
+bool DocumentsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_filter || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    if (key == Qt::Key_Escape && !m_filter->text().isEmpty()) {
+        m_filter->clear();
+        return true;
+    }
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Down)
+        return QWidget::eventFilter(watched, event);
+    if (const QModelIndex first = m_model->firstMatch(); first.isValid()) {
+        m_tree->setFocus(Qt::OtherFocusReason);
+        m_tree->setCurrentIndex(first);
+    }
+    return true;
 }
 
 void DocumentsPanel::resizeEvent(QResizeEvent *event)
@@ -191,23 +180,6 @@ void DocumentsPanel::resizeEvent(QResizeEvent *event)
     const int characters = width() / fontMetrics().averageCharWidth();
     m_tree->setColumnHidden(DocumentsModel::StatusColumn, characters < roomForStatus);
     m_tree->setColumnHidden(DocumentsModel::WordsColumn, characters < roomForWords);
-}
-
-QWidget *DocumentsPanel::makeEmptyState()
-{
-    auto *page = new QWidget(this);
-    auto *layout = new QVBoxLayout(page);
-    auto *label = new QLabel(tr("The chapters and scenes of your manuscript stand here."), page);
-    label->setWordWrap(true);
-    label->setAlignment(Qt::AlignCenter);
-    auto *button = new QPushButton(tr("Write the First Document"), page);
-    connect(button, &QPushButton::clicked, this, &DocumentsPanel::addDocument);
-    layout->addStretch();
-    layout->addWidget(label);
-    layout->addSpacing(8);
-    layout->addWidget(button, 0, Qt::AlignCenter);
-    layout->addStretch();
-    return page;
 }
 
 void DocumentsPanel::showProject()
@@ -229,7 +201,7 @@ void DocumentsPanel::showProject()
 
 void DocumentsPanel::updateEmptyState()
 {
-    m_pages->setCurrentIndex(m_model->rowCount() == 0 ? 1 : 0);
+    m_pages->setCurrentIndex(m_model->rowCount() > 0 || m_model->isFiltered() ? 0 : 1);
 }
 
 void DocumentsPanel::bindActions()
@@ -322,7 +294,7 @@ void DocumentsPanel::addInside()
 void DocumentsPanel::rename(const ContentId &id)
 {
     m_filter->clear();
-    const QModelIndex index = m_filtered->mapFromSource(m_model->indexOf(id));
+    const QModelIndex index = m_model->indexOf(id);
     if (!index.isValid())
         return;
     m_tree->setCurrentIndex(index);
@@ -350,13 +322,13 @@ QList<ContentId> DocumentsPanel::selectedIds() const
     QList<ContentId> ids;
     const QModelIndexList rows = m_tree->selectionModel()->selectedRows();
     for (const QModelIndex &row : rows)
-        ids.append(m_model->idAt(m_filtered->mapToSource(row)));
+        ids.append(m_model->idAt(row));
     return ids;
 }
 
 ContentId DocumentsPanel::currentId() const
 {
-    return m_model->idAt(m_filtered->mapToSource(m_tree->currentIndex()));
+    return m_model->idAt(m_tree->currentIndex());
 }
 
 void DocumentsPanel::selectInWorkspace()
@@ -379,7 +351,7 @@ void DocumentsPanel::selectFromWorkspace()
     QItemSelection selection;
     QModelIndex first;
     for (const ContentId &id : m_context.workspace.selection()) {
-        const QModelIndex index = m_filtered->mapFromSource(m_model->indexOf(id));
+        const QModelIndex index = m_model->indexOf(id);
         if (!index.isValid())
             continue;
         selection.select(index, index);

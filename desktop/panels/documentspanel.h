@@ -8,7 +8,6 @@
 #include <QtWidgets/QWidget>
 
 class QLineEdit;
-class QSortFilterProxyModel;
 class QStackedWidget;
 class QTreeView;
 
@@ -29,12 +28,12 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void buildToolBar(QLayout *layout);
     void buildTree(QLayout *layout);
     void bindActions();
-    QWidget *makeEmptyState();
     void applyFilter(const QString &text);
     void showProject();
     void updateEmptyState();
@@ -53,12 +52,10 @@ private:
 
     PanelContext m_context;
     app::DocumentsModel *m_model;
-    QSortFilterProxyModel *m_filtered;
     QLineEdit *m_filter = nullptr;
     QTreeView *m_tree = nullptr;
     QStackedWidget *m_pages = nullptr;
     QSet<core::ContentId> m_openBranches; ///< as they were before the filter opened them all
-    bool m_isFiltered = false;
     bool m_isFollowing = false; ///< while one side's selection is carried over to the other
 };
 

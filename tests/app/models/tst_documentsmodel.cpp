@@ -81,6 +81,11 @@ private Q_SLOTS:
     void touchesOnlyTheRowsOfAChange();
     void dropsMoveWhatIsDragged();
     void damagedTreesStayReachable();
+    void filters_data();
+    void filters();
+    void theFilterFollowsEdits();
+    void aDropAmongFilteredRowsLandsWhereItWasSeen();
+    void followsAnyHistory_data();
     void followsAnyHistory();
 };
 
@@ -339,10 +344,123 @@ void TestDocumentsModel::damagedTreesStayReachable()
     QCOMPARE(printed(model).split(u'\n', Qt::SkipEmptyParts).size(), 3);
 }
 
+void TestDocumentsModel::filters_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("firstMatch");
+    QTest::newRow("a leaf keeps those above it") << "forge"
+                                                 << "Book\n East\n  forge\n"
+                                                 << "forge";
+    QTest::newRow("a branch alone, not what it holds") << "east"
+                                                       << "Book\n East\n"
+                                                       << "East";
+    QTest::newRow("in several branches") << "r"
+                                         << "Book\n East\n  forge\n  Café Rio\nharbour\n"
+                                         << "forge";
+    QTest::newRow("all words, no accents, any case") << "rio CAFE"
+                                                     << "Book\n East\n  Café Rio\n"
+                                                     << "Café Rio";
+    QTest::newRow("nothing") << "zzz"
+                             << ""
+                             << "";
+}
+
+void TestDocumentsModel::filters()
+{
+    QFETCH(QString, filter);
+    QFETCH(QString, shown);
+    QFETCH(QString, firstMatch);
+    Desk desk(QStringLiteral("Book\n East\n  forge\n  Café Rio\n West\nharbour\n"));
+    DocumentsModel model(desk.workspace);
+    const QAbstractItemModelTester tester(&model);
+    const QString whole = printed(model);
+    const QPersistentModelIndex cafe = model.indexOf(desk.ids.value(QStringLiteral("Café Rio")));
+    QSignalSpy layouts(&model, &QAbstractItemModel::layoutChanged);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    model.setFilter(filter);
+    QCOMPARE(printed(model), shown);
+    QCOMPARE(model.firstMatch().data().toString(), firstMatch);
+    QCOMPARE(cafe.isValid(), shown.contains(QStringLiteral("Café")));
+    if (cafe.isValid())
+        QCOMPARE(cafe.data().toString(), QStringLiteral("Café Rio"));
+    model.setFilter(filter + u' '); // the same words
+    QCOMPARE(layouts.size(), 1);
+    model.setFilter({});
+    QCOMPARE(printed(model), whole);
+    QCOMPARE(layouts.size(), 2);
+    QCOMPARE(inserted.size() + removed.size() + reset.size(), 0);
+}
+
+void TestDocumentsModel::theFilterFollowsEdits()
+{
+    Desk desk(QStringLiteral("A\n ann\n bob\nB\n C\n  hall\n"));
+    DocumentsModel model(desk.workspace);
+    const QAbstractItemModelTester tester(&model);
+    model.setFilter(QStringLiteral("nn"));
+    QCOMPARE(printed(model), QStringLiteral("A\n ann\n"));
+    const auto id = [&](const char *title) { return desk.ids.value(QString::fromLatin1(title)); };
+    const auto document = [&](const char *title) {
+        return desk.workspace.project().find<Document>(id(title));
+    };
+    desk.workspace.push<core::SetDocumentTitleCommand>(*document("hall"), QStringLiteral("inn"));
+    QCOMPARE(printed(model), QStringLiteral("A\n ann\nB\n C\n  inn\n"));
+
+    // What leaves the rows where they are is told row by row, or not at all.
+    QSignalSpy layouts(&model, &QAbstractItemModel::layoutChanged);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    desk.workspace.push<core::SetDocumentStatusCommand>(*document("ann"), QStringLiteral("done"));
+    QCOMPARE(changed.size(), 1);
+    changed.clear();
+    desk.workspace.push<core::SetDocumentStatusCommand>(*document("bob"), QStringLiteral("done"));
+    QCOMPARE(changed.size() + layouts.size(), 0);
+
+    DocumentOperations operations(desk.workspace);
+    operations.move({id("ann")}, id("C"), {});
+    QCOMPARE(printed(model), QStringLiteral("B\n C\n  inn\n  ann\n"));
+    operations.remove({id("hall")});
+    QCOMPARE(printed(model), QStringLiteral("B\n C\n  ann\n"));
+    desk.workspace.push<core::SetDocumentTitleCommand>(*document("ann"), QStringLiteral("eva"));
+    QCOMPARE(printed(model), QString());
+    while (desk.workspace.history().canUndo())
+        desk.workspace.undo();
+    QCOMPARE(printed(model), QStringLiteral("A\n ann\n"));
+}
+
+void TestDocumentsModel::aDropAmongFilteredRowsLandsWhereItWasSeen()
+{
+    Desk desk(QStringLiteral("A\n x1\n b\n x2\n c\nB\n x3\n"));
+    DocumentsModel model(desk.workspace);
+    model.setFilter(QStringLiteral("x"));
+    const auto at = [&](const char *title) {
+        return model.indexOf(desk.ids.value(QString::fromLatin1(title)));
+    };
+    const std::unique_ptr<QMimeData> dragged(model.mimeData({at("x3")}));
+    model.dropMimeData(dragged.get(), Qt::MoveAction, 1, 0, at("A")); // above x2
+    model.setFilter({});
+    QCOMPARE(printed(model), QStringLiteral("A\n x1\n b\n x3\n x2\n c\nB\n"));
+    desk.workspace.undo();
+    model.setFilter(QStringLiteral("x"));
+    model.dropMimeData(dragged.get(), Qt::MoveAction, 2, 0, at("A")); // below x2
+    model.setFilter({});
+    QCOMPARE(printed(model), QStringLiteral("A\n x1\n b\n x2\n x3\n c\nB\n"));
+}
+
+void TestDocumentsModel::followsAnyHistory_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::newRow("whole") << QString();
+    QTest::newRow("filtered") << QStringLiteral("d");
+}
+
 void TestDocumentsModel::followsAnyHistory()
 {
+    QFETCH(QString, filter);
     Desk desk(QStringLiteral("A\n a\n  x\n b\n c\nB\n d\nC\n*n\n"));
     DocumentsModel model(desk.workspace);
+    model.setFilter(filter);
     const QAbstractItemModelTester tester(&model);
     DocumentOperations operations(desk.workspace);
     QRandomGenerator random(11);
@@ -383,7 +501,8 @@ void TestDocumentsModel::followsAnyHistory()
         default:
             desk.workspace.undo();
         }
-        const DocumentsModel fresh(desk.workspace);
+        DocumentsModel fresh(desk.workspace);
+        fresh.setFilter(filter);
         QCOMPARE(printed(model), printed(fresh));
     }
 }
