@@ -3,6 +3,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <optional>
+
 namespace vl::app {
 
 struct DamagedProject;
@@ -41,8 +43,9 @@ public:
     virtual QString chooseProjectFolderToOpen() = 0;
     virtual QString chooseBundleToSave(const QString &suggestion) = 0;
     virtual QString chooseFolderToSave(const QString &suggestion) = 0;
-    /// A short text such as a name; nothing in it when called off.
-    virtual QString askText(const QString &title, const QString &label, const QString &text) = 0;
+    /// A short text such as a name, which may be empty; none when called off.
+    virtual std::optional<QString> askText(const QString &title, const QString &label,
+                                           const QString &text) = 0;
     /// One of the texts; nothing when called off.
     virtual QString chooseOne(const QString &title, const QString &label,
                               const QStringList &texts) = 0;

@@ -84,9 +84,13 @@ QString DialogPrompts::chooseFolderToSave(const QString & /*suggestion*/)
                                              QDir::homePath());
 }
 
-QString DialogPrompts::askText(const QString &title, const QString &label, const QString &text)
+std::optional<QString> DialogPrompts::askText(const QString &title, const QString &label,
+                                              const QString &text)
 {
-    return QInputDialog::getText(m_window, title, label, QLineEdit::Normal, text);
+    bool isTyped = false;
+    const QString typed =
+        QInputDialog::getText(m_window, title, label, QLineEdit::Normal, text, &isTyped);
+    return isTyped ? std::optional(typed) : std::nullopt;
 }
 
 QString DialogPrompts::chooseOne(const QString &title, const QString &label,

@@ -25,7 +25,8 @@ public:
     QString chooseProjectFolderToOpen() override;
     QString chooseBundleToSave(const QString &suggestion) override;
     QString chooseFolderToSave(const QString &suggestion) override;
-    QString askText(const QString &title, const QString &label, const QString &text) override;
+    std::optional<QString> askText(const QString &title, const QString &label,
+                                   const QString &text) override;
     QString chooseOne(const QString &title, const QString &label,
                       const QStringList &texts) override;
     int choose(const QString &title, const QString &question, const QStringList &answers) override;

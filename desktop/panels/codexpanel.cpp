@@ -426,8 +426,9 @@ void CodexPanel::addTask()
     const Ids ids = operations().entitiesOf(selectedIds());
     if (ids.isEmpty())
         return;
-    const QString title =
-        m_context.prompts.askText(tr("Task for Entity"), tr("Task:"), QString()).simplified();
+    const QString title = m_context.prompts.askText(tr("Task for Entity"), tr("Task:"), QString())
+                              .value_or(QString())
+                              .simplified();
     if (title.isEmpty())
         return;
     operations().addTask(ids.first(), title);
@@ -468,12 +469,11 @@ void CodexPanel::editTags()
     const QString label = ids.size() > 1 ? tr("Tags that all of them have, separated by commas:")
                                          : tr("Tags, separated by commas:");
     const QString marked = joined(before);
-    const QString text = m_context.prompts.askText(tr("Edit Tags"), label, marked);
-    // Calling it off and emptying the list look the same: the latter is done in the inspector.
-    if (text.isEmpty() || text == marked)
+    const std::optional<QString> text = m_context.prompts.askText(tr("Edit Tags"), label, marked);
+    if (!text || *text == marked)
         return;
     core::StringSet tags;
-    for (const QString &tag : text.split(u','))
+    for (const QString &tag : text->split(u','))
         if (!tag.simplified().isEmpty())
             tags.insert(tag.simplified());
     operations().setCommonTags(ids, tags);
@@ -484,8 +484,10 @@ void CodexPanel::saveAsTemplate()
     const auto *entity = m_context.workspace.project().find<core::Entity>(currentId());
     if (!entity)
         return;
-    const QString name = m_context.prompts.askText(tr("Save Entity as Template"), tr("Name:"),
-                                                   app::rowText(entity->name()));
+    const QString name =
+        m_context.prompts
+            .askText(tr("Save Entity as Template"), tr("Name:"), app::rowText(entity->name()))
+            .value_or(QString());
     if (name.simplified().isEmpty())
         return;
     operations().saveAsTemplate(currentId(), name);

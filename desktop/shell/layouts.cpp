@@ -104,6 +104,7 @@ void Layouts::askAndSave()
 {
     const QString name =
         m_prompts.askText(tr("Save Current Layout"), tr("Name of the layout:"), QString())
+            .value_or(QString())
             .simplified();
     if (name.isEmpty())
         return;

@@ -79,6 +79,7 @@ class TestCodexPanel : public QObject
 private Q_SLOTS:
     void theTreeRenamesDeletesAndCopies();
     void theFilterKeepsBranchesAndSelection();
+    void tagsCanBeEmptiedInTheirDialog();
     void everyControlOfEveryFormHasAName();
     void typingIsHandedIn();
     void undoGoesThroughTheForm();
@@ -131,6 +132,29 @@ void TestCodexPanel::theFilterKeepsBranchesAndSelection()
     QTest::keyClick(filter, Qt::Key_Escape);
     QCOMPARE(desk.rows().join(u' '), QStringLiteral("People Ann Bob Places"));
     QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Ann"));
+}
+
+void TestCodexPanel::tagsCanBeEmptiedInTheirDialog()
+{
+    Window desk;
+    desk.entity(desk.ann).setTags({QStringLiteral("old")});
+    desk.workspace.select(desk.ann);
+    const auto editTags = [&] {
+        for (QAction *action : desk.window.findChildren<QAction *>())
+            if (action->text() == u"Edit Tags…")
+                action->trigger();
+        return QStringList(desk.entity(desk.ann).tags().begin(), desk.entity(desk.ann).tags().end())
+            .join(u' ');
+    };
+    desk.prompts.isTextCalledOff = true;
+    QCOMPARE(editTags(), QStringLiteral("old"));
+    desk.prompts.isTextCalledOff = false;
+    desk.prompts.text = QStringLiteral("one, two");
+    QCOMPARE(editTags(), QStringLiteral("one two"));
+    desk.prompts.text = QLatin1String("");
+    QCOMPARE(editTags(), QString());
+    desk.workspace.undo();
+    QCOMPARE(desk.entity(desk.ann).tags().size(), std::size_t(2));
 }
 
 void TestCodexPanel::everyControlOfEveryFormHasAName()

@@ -15,6 +15,7 @@ public:
     int choice = 0; ///< which of several texts or answers is chosen
     QString path;   ///< what every choice of a place gives
     QString text;   ///< what is typed; null leaves what is suggested
+    bool isTextCalledOff = false;
     QStringList questions;
     QStringList errors;
     QStringList notices;
@@ -33,8 +34,11 @@ public:
     QString chooseProjectFolderToOpen() override { return path; }
     QString chooseBundleToSave(const QString &) override { return path; }
     QString chooseFolderToSave(const QString &) override { return path; }
-    QString askText(const QString &, const QString &, const QString &suggestion) override
+    std::optional<QString> askText(const QString &, const QString &,
+                                   const QString &suggestion) override
     {
+        if (isTextCalledOff)
+            return std::nullopt;
         return text.isNull() ? suggestion : text;
     }
     QString chooseOne(const QString &, const QString &, const QStringList &texts) override
