@@ -70,7 +70,7 @@ void HandOver::next()
 void HandOver::ask(const QString &path)
 {
     const QString title = tr("Open Project");
-    const QFileInfo info(path);
+    const QFileInfo info(QDir::cleanPath(path)); // a folder's path may end with a slash
     if (!info.exists()) {
         m_prompts.showError(
             title, tr("The project could not be found: %1").arg(QDir::toNativeSeparators(path)));

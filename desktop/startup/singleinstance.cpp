@@ -13,6 +13,7 @@ namespace {
 constexpr int connectMilliseconds = 300;
 constexpr int writeMilliseconds = 1000;
 constexpr int lockMilliseconds = 2000; // longer than whoever holds it may need for a hand-over
+constexpr int lockAgainMilliseconds = 50;
 constexpr qsizetype maxConnections = 32;
 
 /// Held while a process finds out who listens and then listens itself.
@@ -148,8 +149,15 @@ void SingleInstanceServer::nameChanged()
 
 void SingleInstanceServer::listenUnlessAnswered()
 {
+    // A window that is at work does not stand still for it: it asks again in a moment.
     QLockFile lock(lockPath(m_name));
-    lock.tryLock(lockMilliseconds);
+    if (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError
+        && ++m_lockTries <= lockMilliseconds / lockAgainMilliseconds) {
+        QTimer::singleShot(lockAgainMilliseconds, this,
+                           &SingleInstanceServer::listenUnlessAnswered);
+        return;
+    }
+    m_lockTries = 0;
     QLocalSocket probe;
     if (const std::optional<Peer> successor = connectTo(m_name, probe)) {
         probe.abort();

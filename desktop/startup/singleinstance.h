@@ -66,6 +66,7 @@ private:
     ProcessWatch m_successor; ///< the process that holds the name now
     quint64 m_node = 0;       ///< of the socket's own entry in the file system
     int m_lineTimeout = 5000; ///< in milliseconds
+    int m_lockTries = 0;      ///< in vain, since the lock was had last
 };
 
 /// The one place where a launch decides between handing over and listening, so that of two launches

@@ -10,6 +10,7 @@
 #include "desktop/widgets/focusring.h"
 #include "desktop/widgets/programstyle.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTimer>
@@ -32,7 +33,8 @@ Launch Launch::from(const QStringList &arguments)
                   optionValue(arguments, QLatin1String(languageOption)).value_or(QString()),
                   optionValue(arguments, QLatin1String(captureOption)).value_or(QString())};
     if (!launch.options.projectPath.isEmpty())
-        launch.options.projectPath = QFileInfo(launch.options.projectPath).absoluteFilePath();
+        launch.options.projectPath =
+            QDir::cleanPath(QFileInfo(launch.options.projectPath).absoluteFilePath());
     return launch;
 }
 

@@ -146,6 +146,8 @@ void TestStartUp::commandLine_data()
                                           << "a" << false;
     QTest::newRow("one dash") << "-a"
                               << "-a" << false;
+    QTest::newRow("a slash that the shell added") << "a/"
+                                                  << "a/" << false;
 }
 
 void TestStartUp::commandLine()
@@ -157,7 +159,8 @@ void TestStartUp::commandLine()
         QStringList{QStringLiteral("ivorel")} + arguments.split(u' ', Qt::SkipEmptyParts);
     QCOMPARE(parseCommandLine(list), (CommandLineOptions{path, newInstance}));
     const Launch launch = Launch::from(list);
-    QCOMPARE(launch.options.projectPath, path.isEmpty() ? path : QDir::current().filePath(path));
+    QCOMPARE(launch.options.projectPath,
+             path.isEmpty() ? path : QDir::cleanPath(QDir::current().filePath(path)));
 }
 
 void TestStartUp::optionValues()
@@ -376,6 +379,7 @@ void TestStartUp::handOver_data()
                                        question, QStringLiteral("elsewhere"),
                                        QStringLiteral("error A new window could not be opened.")};
     QTest::newRow("cancel") << "My.Novel.vellum" << -1 << QStringList{question};
+    QTest::newRow("folder with a slash") << "My.Novel.d/" << -1 << QStringList{question};
 }
 
 void TestStartUp::handOver()
@@ -386,7 +390,7 @@ void TestStartUp::handOver()
     if (path.startsWith(u'M')) {
         path = dir.filePath(path);
         QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(path.endsWith(u'/') ? QDir().mkpath(path) : file.open(QIODevice::WriteOnly));
     }
     QWidget window;
     window.showMinimized();
