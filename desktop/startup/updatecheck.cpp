@@ -111,14 +111,14 @@ void UpdateCheck::takeManifest(const app::Result<QByteArray> &body)
                        ? manifest
                        : app::UpdateManifest();
     showState();
-    if (!tells || m_newest.valid)
+    if (!tells)
         return;
     if (!body)
         m_prompts.showError(title,
                             tr("Could not reach the update service: %1").arg(body.message()));
     else if (!manifest.valid)
         m_prompts.showError(title, tr("The update information could not be read."));
-    else
+    else if (!m_newest.valid)
         m_prompts.showInformation(
             title,
             tr("You're up to date — Ivorel %1 is the newest version.").arg(m_service.version));
@@ -128,8 +128,9 @@ void UpdateCheck::install()
 {
     if (!m_newest.valid || m_installerDownload)
         return;
+    m_fetched = m_newest; // another check may find another version meanwhile
     m_installerDownload = std::make_unique<Download>(
-        network(), QUrl(m_newest.installerUrl, QUrl::StrictMode), installerLimits);
+        network(), QUrl(m_fetched.installerUrl, QUrl::StrictMode), installerLimits);
     connect(m_installerDownload.get(), &Download::progressed, this, &UpdateCheck::progressed);
     connect(m_installerDownload.get(), &Download::finished, this, &UpdateCheck::takeInstaller);
     showState();
@@ -150,7 +151,7 @@ void UpdateCheck::takeInstaller(const app::Result<QByteArray> &body)
         m_prompts.showError(title, tr("The download failed: %1").arg(body.message()));
         return;
     }
-    if (QString::fromLatin1(app::Sha256::of(*body)).toUpper() != m_newest.sha256) {
+    if (QString::fromLatin1(app::Sha256::of(*body)).toUpper() != m_fetched.sha256) {
         m_prompts.showError(title, tr("The downloaded installer failed its integrity check and was "
                                       "discarded. Nothing was installed."));
         return;
@@ -165,8 +166,9 @@ void UpdateCheck::takeInstaller(const app::Result<QByteArray> &body)
 app::Result<QString> UpdateCheck::saveInstaller(const QByteArray &bytes) const
 {
     const QString message = tr("The installer could not be saved to disk.");
-    const QString path = QDir(m_service.folder)
-                             .filePath(QStringLiteral("Ivorel-%1-Setup.exe").arg(m_newest.version));
+    const QString path =
+        QDir(m_service.folder)
+            .filePath(QStringLiteral("Ivorel-%1-Setup.exe").arg(m_fetched.version));
     if (!app::makePrivateFolder(m_service.folder) || !isOwnFolder(m_service.folder))
         return app::failure(message);
     const app::Result<> written = app::writeFile(path, bytes, {message, message});
@@ -194,7 +196,7 @@ void UpdateCheck::showState()
     if (!m_manifestDownload && !m_installerDownload)
         m_network.reset();
     if (m_installerDownload)
-        Q_EMIT downloading(m_newest.version);
+        Q_EMIT downloading(m_fetched.version);
     else if (m_manifestDownload && m_asked == Asked::ByUser)
         Q_EMIT checking();
     else if (m_newest.valid)

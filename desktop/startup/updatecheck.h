@@ -87,7 +87,8 @@ private:
     std::unique_ptr<QNetworkAccessManager> m_network; ///< while something is fetched
     std::unique_ptr<Download> m_manifestDownload;
     std::unique_ptr<Download> m_installerDownload;
-    app::UpdateManifest m_newest; ///< valid when there is a newer version
+    app::UpdateManifest m_newest;  ///< valid when there is a newer version
+    app::UpdateManifest m_fetched; ///< what the installer that is being fetched must be
     Asked m_asked = Asked::Silently;
 };
 

@@ -188,6 +188,7 @@ private Q_SLOTS:
     void schedule_data();
     void schedule();
     void installs();
+    void installsWhatWasOffered();
     void refuses_data();
     void refuses();
     void cancelled();
@@ -278,6 +279,12 @@ void TestUpdateCheck::offersANewerVersion()
     QCOMPARE(update.button()->text(), QString::fromUtf8("Update available: 1.10 — Install…"));
     QVERIFY(update.prompts.notices.isEmpty());
     QCOMPARE(update.vendor.asked.size(), 1); // nothing is fetched unasked
+
+    // Who asks again hears of a fault, and keeps the offer.
+    update.manifest().head = "HTTP/1.1 500 Down";
+    update.check->check(UpdateCheck::Asked::ByUser);
+    QVERIFY(update.told().startsWith(QLatin1String("Could not reach the update service: ")));
+    QVERIFY(update.button()->isVisibleTo(update.status.get()));
 }
 
 void TestUpdateCheck::anAskingUserIsAnswered()
@@ -332,6 +339,17 @@ void TestUpdateCheck::installs()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), setup);
     QVERIFY(update.prompts.errors.isEmpty());
+}
+
+void TestUpdateCheck::installsWhatWasOffered()
+{
+    Check update;
+    update.offer(app::Sha256::of(setup));
+    update.manifest().body = manifestOf("1.11", QByteArray(64, 'b')); // found meanwhile
+    update.check->check(UpdateCheck::Asked::ByUser);
+    update.check->install();
+    QTRY_VERIFY(!update.launched.isEmpty() || !update.prompts.errors.isEmpty());
+    QCOMPARE(update.launched.value(0), update.saved());
 }
 
 void TestUpdateCheck::refuses_data()
