@@ -476,8 +476,9 @@ QVariant DocumentsModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         return index.column() == StatusColumn ? shown->status() : shown->title();
     case Qt::ToolTipRole:
-        return shown->synopsis().isEmpty() ? shown->title()
-                                           : shown->title() + u'\n' + shown->synopsis();
+        return plainToolTip(shown->synopsis().isEmpty()
+                                ? shown->title()
+                                : shown->title() + u'\n' + shown->synopsis());
     case Qt::AccessibleTextRole:
         return tr("%1, %n word(s)", nullptr, int(node.treeWords)).arg(shown->title());
     case Qt::TextAlignmentRole:

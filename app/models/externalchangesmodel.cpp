@@ -1,5 +1,6 @@
 #include "app/models/externalchangesmodel.h"
 
+#include "app/models/objecttexts.h"
 #include "app/models/readablefile.h"
 #include "app/storage/jsonmerge.h"
 #include "app/storage/ownform.h"
@@ -90,7 +91,8 @@ QVariant ExternalChangesModel::data(const QModelIndex &index, int role) const
         return {};
     const Row &row = m_rows[std::size_t(index.row())];
     if (role == Qt::ToolTipRole)
-        return index.column() == File ? row.entry.path : data(index, Qt::DisplayRole);
+        return plainToolTip(index.column() == File ? row.entry.path
+                                                   : data(index, Qt::DisplayRole).toString());
     if (role != Qt::DisplayRole)
         return {};
     switch (index.column()) {

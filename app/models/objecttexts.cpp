@@ -110,6 +110,14 @@ QString rowText(const QString &name)
     return name.left(length).simplified() + (fits ? QString() : QStringLiteral("…"));
 }
 
+QString plainToolTip(const QString &text)
+{
+    // Escaped alone it would not be taken for markup, and show its escapes.
+    return text.isEmpty() ? QString()
+                          : QStringLiteral("<p style=\"white-space:pre-wrap\">%1</p>")
+                                .arg(text.toHtmlEscaped());
+}
+
 QString searchText(const QString &text)
 {
     const bool isPlain =

@@ -16,6 +16,9 @@ QString kindText(core::ContentKind kind);
 /// A name as it fits in a row: on one line and at most 200 characters of it.
 QString rowText(const QString &name);
 
+/// A tool tip that shows the text letter for letter, also where it looks like markup.
+QString plainToolTip(const QString &text);
+
 /// The text in lower case and without accents, so that "cafe" is found in "Café".
 QString searchText(const QString &text);
 

@@ -1,6 +1,7 @@
 #include "app/models/projectsearchmodel.h"
 
 #include "app/models/objectpath.h"
+#include "app/models/objecttexts.h"
 #include "app/models/workspace.h"
 #include "core/commands/command.h"
 #include "core/content/comment.h"
@@ -424,8 +425,8 @@ QVariant ProjectSearchModel::headerData(const Group &group, int role) const
     case Qt::AccessibleTextRole:
         return tr("%1: %n place(s)", nullptr, int(group.hits.size())).arg(group.title);
     case Qt::ToolTipRole:
-        return (group.path.isEmpty() ? group.title : pathLine({group.path, group.title}))
-            .toHtmlEscaped();
+        return plainToolTip(group.path.isEmpty() ? group.title
+                                                 : pathLine({group.path, group.title}));
     case Qt::CheckStateRole:
         if (!m_replacement || replaceable == 0)
             return {};

@@ -1,6 +1,7 @@
 #include "app/models/quickopenmodel.h"
 
 #include "app/models/objectpath.h"
+#include "app/models/objecttexts.h"
 #include "app/models/workspace.h"
 #include "core/content/document.h"
 #include "core/content/entity.h"
@@ -297,7 +298,7 @@ QVariant QuickOpenModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleTextRole:
         return QStringList{textOf(row), detailOf(row)}.join(QLatin1String(", "));
     case Qt::ToolTipRole:
-        return QStringList{textOf(row), detailOf(row)}.join(u'\n').toHtmlEscaped();
+        return plainToolTip(QStringList{textOf(row), detailOf(row)}.join(u'\n'));
     case KindRole:
         return int(row.kind);
     case DetailRole:

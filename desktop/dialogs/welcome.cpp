@@ -1,5 +1,6 @@
 #include "desktop/dialogs/welcome.h"
 
+#include "app/models/objecttexts.h"
 #include "desktop/dialogs/carddelegate.h"
 #include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
@@ -147,9 +148,7 @@ QListWidget *WelcomeDialog::makeSteps(const Offers &offers)
         offers.sample ? tr("A small world to try everything on; you work on a copy of your own.")
                       : tr("It is not installed."),
         offers.sample);
-    add(Choice::Import, "import", tr("Import"),
-        offers.import ? tr("A manuscript that you wrote elsewhere.")
-                      : tr("Not part of this version."),
+    add(Choice::Import, "import", tr("Import"), tr("A manuscript that you wrote elsewhere."),
         offers.import);
     list->setCurrentRow(0);
     return list;
@@ -172,7 +171,7 @@ QListWidget *WelcomeDialog::makeRecent(const QStringList &paths)
         item->setData(CardDelegate::IsPathRole, true);
         item->setData(Qt::AccessibleDescriptionRole, item->data(CardDelegate::DetailRole));
         item->setData(pathRole, path);
-        item->setToolTip(shown.toHtmlEscaped());
+        item->setToolTip(app::plainToolTip(shown));
         if (!isThere)
             item->setFlags(Qt::NoItemFlags);
     }

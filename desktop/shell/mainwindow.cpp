@@ -1,6 +1,7 @@
 #include "desktop/shell/mainwindow.h"
 
 #include "app/base/settingskeys.h"
+#include "app/models/objecttexts.h"
 #include "desktop/dialogs/projecttools.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
@@ -132,7 +133,7 @@ void MainWindow::tellSaved()
 void MainWindow::tellSaveFailed(const QString &message)
 {
     m_saveFault->setText(tr("⚠ Not saved: %1").arg(message));
-    m_saveFault->setToolTip(message);
+    m_saveFault->setToolTip(app::plainToolTip(message));
     m_saveFault->show();
     // Who asked for a save is told at once, not only in passing.
     if (std::exchange(m_tellsFailure, false))

@@ -1,6 +1,7 @@
 #include "desktop/shell/recentmenu.h"
 
 #include "app/base/settingskeys.h"
+#include "app/models/objecttexts.h"
 
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
@@ -78,9 +79,9 @@ void RecentMenu::lookForMissing()
         for (QAction *entry : std::as_const(m_entries)) {
             const QString path = entry->data().toString();
             entry->setEnabled(!missing.contains(path));
-            entry->setToolTip(missing.contains(path)
-                                  ? tr("Not found: %1").arg(QDir::toNativeSeparators(path))
-                                  : QDir::toNativeSeparators(path));
+            const QString shown = QDir::toNativeSeparators(path);
+            entry->setToolTip(
+                app::plainToolTip(missing.contains(path) ? tr("Not found: %1").arg(shown) : shown));
         }
         watcher->deleteLater();
     });
