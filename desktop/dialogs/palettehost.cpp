@@ -112,6 +112,9 @@ void PaletteHost::add(QAction *action, const QString &id, const QString &group,
 {
     if (id == u"file.quickOpen" || m_actions.contains(id))
         return;
+    // What nobody carries out stays in its menu; here it would only stand in the way.
+    if (!action->objectName().isEmpty() && !action->property("bound").toBool())
+        return;
     app::QuickOpenCommand command;
     command.id = id;
     command.text = plainText(action->text());
@@ -120,8 +123,7 @@ void PaletteHost::add(QAction *action, const QString &id, const QString &group,
     command.shortcut = action->shortcut().toString(QKeySequence::NativeText);
     command.isEnabled = action->isEnabled();
     if (!command.isEnabled)
-        command.reason = action->property("bound").toBool() ? tr("Not possible at the moment")
-                                                            : tr("Not part of this version");
+        command.reason = tr("Not possible at the moment");
     list.append(command);
     m_actions.insert(id, action);
 }

@@ -126,6 +126,15 @@ void TestPalette::actionsAreTriggered()
     QVERIFY(!row.data(app::QuickOpenModel::DetailRole).toString().isEmpty());
     QTest::keyClick(field, Qt::Key_Return);
     QVERIFY(desk.palette()->isVisible());
+    // What nobody carries out is not listed at all.
+    field->setText(QStringLiteral(">"));
+    QStringList listed;
+    for (int i = 0; i < desk.list()->model()->rowCount(); ++i)
+        listed.append(desk.list()->model()->index(i, 0).data().toString());
+    QVERIFY(listed.contains(QStringLiteral("Find in Project…")));
+    for (const QAction *action : desk.window.actions().all())
+        if (!action->property("bound").toBool())
+            QVERIFY2(!listed.contains(action->text().remove(u'&')), qPrintable(action->text()));
     // Entries of sub-menus are found by their names.
     field->clear();
     QTest::keyClicks(field, QStringLiteral(">sepia"));
