@@ -32,6 +32,7 @@ struct PanelRow
 {
     const char *objectName;
     const char *title; ///< in the context "Panels"
+    const char *icon;  ///< in the program's own family; empty for a panel that is to come
     DockSide side;
     FirstState firstState;
     PanelMaker make;

@@ -1,5 +1,6 @@
 #include "desktop/shell/panelhost.h"
 
+#include "app/base/settingskeys.h"
 #include "app/models/workspace.h"
 #include "desktop/shell/dockstyle.h"
 #include "desktop/shell/icons.h"
@@ -118,12 +119,30 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     }
     connect(&context.workspace, &app::Workspace::inspectRequested, this,
             [this] { showPanel(QStringLiteral("inspector")); });
+    drawIcons();
+    // A tab keeps the pixels of its icon, in the colour and the size they once had. Whoever applies
+    // what the settings say goes first.
+    connect(
+        &context.settings.changes(), &app::SettingsChanges::changed, this,
+        [this](const QString &key) {
+            if (key == QLatin1String(app::settings::theme.name)
+                || key == QLatin1String(app::settings::fontScale.name))
+                drawIcons();
+        },
+        Qt::QueuedConnection);
     m_firstLayout = saveLayout();
     stretchCentre();
     sizeAreas();
 }
 
 PanelHost::~PanelHost() = default;
+
+void PanelHost::drawIcons()
+{
+    for (const PanelRow &row : panelCatalogue())
+        if (ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName)))
+            dock->setIcon(icon(QLatin1String(row.icon)));
+}
 
 void PanelHost::addToggles(QMenu *menu) const
 {

@@ -45,6 +45,7 @@ public:
     void focusPrevious() { moveFocus(-1); }
 
 private:
+    void drawIcons();
     void moveFocus(int step);
     void place(ads::CDockWidget *dock, const PanelRow &row);
     void placeStrays();

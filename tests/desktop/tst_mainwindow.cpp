@@ -2,6 +2,7 @@
 #include "core/commands/documentcommands.h"
 #include "desktop/panels/catalogue.h"
 #include "desktop/panels/editortextwidget.h"
+#include "desktop/shell/icons.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/notices.h"
 #include "tests/support/fakeprompts.h"
@@ -82,8 +83,10 @@ void TestMainWindow::everyActionIsUniqueAndBoundOrOff()
         }
     }
     QSet<QString> panels;
-    for (const desktop::PanelRow &row : desktop::panelCatalogue())
+    for (const desktop::PanelRow &row : desktop::panelCatalogue()) {
         panels.insert(QLatin1String(row.objectName));
+        QVERIFY2(desktop::iconNames().contains(QLatin1String(row.icon)), row.objectName);
+    }
     QCOMPARE(size_t(panels.size()), desktop::panelCatalogue().size());
 }
 

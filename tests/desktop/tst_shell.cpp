@@ -9,8 +9,10 @@
 #include "desktop/widgets/grid.h"
 #include "tests/support/fakeprompts.h"
 
+#include <QtGui/QTextDocumentFragment>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 
@@ -98,6 +100,10 @@ void TestShell::recentProjectsAreListed()
     QVERIFY(menu->actions().at(1)->text().startsWith(QLatin1String("&2 Salt && Oil")));
     QTRY_VERIFY(!menu->actions().at(0)->isEnabled());
     QVERIFY(menu->actions().at(1)->isEnabled());
+    const QString toolTip = menu->actions().at(1)->toolTip();
+    QVERIFY(Qt::mightBeRichText(toolTip)); // else it would show how it is escaped
+    QCOMPARE(QTextDocumentFragment::fromHtml(toolTip).toPlainText(),
+             QDir::toNativeSeparators(there));
 
     for (int i = 0; i < 12; ++i)
         desk.settings.addRecentProject(desk.dir.filePath(QString::number(i)));
@@ -118,7 +124,17 @@ void TestShell::themesAndLanguagesAreTicked()
     desk.entry(themes, QStringLiteral("Sepia"))->trigger();
     QCOMPARE(desk.settings.text(app::settings::theme), QStringLiteral("Sepia"));
     QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(0xfa, 0xf3, 0xe0));
+    const auto tabIcons = [&desk] {
+        QSet<qint64> drawn;
+        for (const QLabel *label : desk.window->findChildren<QLabel *>())
+            if (label->parent()->inherits("ads::CDockWidgetTab") && !label->pixmap().isNull())
+                drawn.insert(label->pixmap().cacheKey());
+        return drawn;
+    };
+    const QSet<qint64> inSepia = tabIcons();
+    QCOMPARE(size_t(inSepia.size()), desktop::panelCatalogue().size());
     desk.settings.set(app::settings::theme, QStringLiteral("Dark")); // as the preferences do
+    QTRY_VERIFY(!tabIcons().intersects(inSepia));
     QVERIFY(desk.entry(themes, QStringLiteral("Dark"))->isChecked());
     QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(0x1e, 0x1e, 0x1e));
 
@@ -169,17 +185,20 @@ void TestShell::aLayoutThatDoesNotFitGivesTheFirst_data()
 {
     QTest::addColumn<int>("cut"); // bytes left, -1 for all
     QTest::addColumn<int>("flipped");
-    QTest::newRow("nothing") << 0 << -1;
-    QTest::newRow("a check and no state") << 20 << -1;
-    QTest::newRow("half") << 200 << -1;
-    QTest::newRow("a bit of the state") << -1 << 60;
-    QTest::newRow("a bit of the check") << -1 << 3;
+    QTest::addColumn<bool>("isOfOtherVersion");
+    QTest::newRow("nothing") << 0 << -1 << false;
+    QTest::newRow("a check and no state") << 20 << -1 << false;
+    QTest::newRow("half") << 200 << -1 << false;
+    QTest::newRow("a bit of the state") << -1 << 60 << false;
+    QTest::newRow("a bit of the check") << -1 << 3 << false;
+    QTest::newRow("whole, of another version") << -1 << -1 << true;
 }
 
 void TestShell::aLayoutThatDoesNotFitGivesTheFirst()
 {
     QFETCH(int, cut);
     QFETCH(int, flipped);
+    QFETCH(bool, isOfOtherVersion);
     Desk desk;
     desk.open();
     desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->trigger();
@@ -191,6 +210,14 @@ void TestShell::aLayoutThatDoesNotFitGivesTheFirst()
         state.truncate(cut);
     if (flipped >= 0)
         state[flipped] = char(state[flipped] ^ 4);
+    if (isOfOtherVersion) {
+        constexpr int checkSize = 20; // of the SHA-1 before the state
+        QByteArray text = qUncompress(state.mid(checkSize));
+        const QByteArray version("UserVersion=\"1\"");
+        QVERIFY(text.contains(version));
+        const QByteArray other = qCompress(text.replace(version, "UserVersion=\"2\""));
+        state = QCryptographicHash::hash(other, QCryptographicHash::Sha1) + other;
+    }
     desk.settings.setBytes(key, state);
     desk.open();
     QVERIFY(desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"))->isChecked());
