@@ -12,6 +12,8 @@
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QSpinBox>
 
+#include <cmath>
+
 namespace vl::desktop {
 
 namespace {
@@ -88,7 +90,9 @@ void AppearancePage::addScale()
         const QSignalBlocker quiet(box);
         bool isNumber = false;
         const double scale = settings().text(app::settings::fontScale).toDouble(&isNumber);
-        box->setValue(isNumber ? qRound(scale * 100) : 100);
+        // As far as numbers reach: the box brings what is too large or too small into its range.
+        const bool isUsable = isNumber && std::abs(scale) < mostPercent;
+        box->setValue(isUsable ? qRound(scale * 100) : 100);
     });
     connect(box, &QSpinBox::valueChanged, this, [this](int percent) {
         settings().set(app::settings::fontScale, QString::number(percent / 100.0));

@@ -24,6 +24,7 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QTreeWidget>
 
@@ -83,7 +84,8 @@ QList<std::pair<QString, MakeSurface>> surfaces()
     const auto add = [&list](const char *name, const MakeSurface &make) {
         list.append({QLatin1String(name), make});
     };
-    for (const char *id : {"file.quickOpen", "edit.findInProject", "edit.find"})
+    for (const char *id : {"file.quickOpen", "edit.findInProject", "edit.find", "file.new",
+                           "help.welcome", "help.about"})
         add(id, [id](Desk &desk) { return opened(desk, id); });
     add("new field", [](Desk &desk) {
         return new desktop::FieldDialog(QStringLiteral("New Field in “People”"), {},
@@ -291,6 +293,19 @@ void TestLook::preferencesAreFoundAndReset()
     search->setText(QStringLiteral("zzz"));
     QCOMPARE(shown(), QStringList());
     search->setText(QStringLiteral("font scale"));
+
+    QSpinBox *scale = nullptr;
+    for (QSpinBox *box : dialog.findChildren<QSpinBox *>())
+        if (box->maximum() == 200)
+            scale = box;
+    QVERIFY(scale);
+    for (const auto &[entry, percent] : {std::pair("1.5", 150), std::pair("nan", 100),
+                                         std::pair("9", 200), std::pair("wide", 100)}) {
+        desk.settings.set(app::settings::fontScale, QLatin1String(entry));
+        QCOMPARE(scale->value(), percent);
+        QCOMPARE(desk.settings.text(app::settings::fontScale), QLatin1String(entry));
+    }
+    desktop::applyFontScale(1.0);
 
     desk.settings.set(app::settings::theme, QStringLiteral("Dark"));
     desk.settings.set(app::settings::editorFontSize, QStringLiteral("20"));
