@@ -152,6 +152,7 @@ void JournalKeeper::giveUp()
     m_timer.stop();
     m_due.clear();
     m_pending.clear();
+    m_isBehind = false;
     if (std::exchange(m_hasJournal, false))
         m_pool.start([writer = m_writer] { writer->clear(); });
 }
@@ -189,7 +190,7 @@ void JournalKeeper::writeDue()
     }
     std::vector<FileChange> changes = chooseDue();
     addPending(changes, pending);
-    if (!changes.empty())
+    if (!changes.empty() || std::exchange(m_isBehind, false))
         post(std::move(changes));
     m_timer.stop();
     if (!m_due.isEmpty())
@@ -251,9 +252,19 @@ void JournalKeeper::addPending(std::vector<FileChange> &changes, const PendingTe
 void JournalKeeper::post(std::vector<FileChange> changes)
 {
     m_hasJournal = true;
-    m_pool.start([writer = m_writer, changes = std::move(changes)] {
-        if (writer->write(changes))
+    // The pool is waited for before this goes.
+    m_pool.start([this, writer = m_writer, changes = std::move(changes)] {
+        if (writer->write(changes)) {
             writer->sync();
+            return;
+        }
+        const auto tryAgain = [this, writer] {
+            if (writer != m_writer || !m_hasJournal)
+                return;
+            m_isBehind = true;
+            schedule(delay);
+        };
+        QMetaObject::invokeMethod(this, tryAgain, Qt::QueuedConnection);
     });
 }
 

@@ -20,7 +20,8 @@ class JournalKeeper final : public QObject
     Q_OBJECT
 
 public:
-    /// How long after a change it is written down, in milliseconds.
+    /// How long after a change it is written down, and after a failure tried again, in
+    /// milliseconds.
     static constexpr int delay = 1000;
 
     /// The workspace outlives it.
@@ -66,6 +67,7 @@ private:
     QSet<core::ContentId> m_pending;         ///< documents written down with what is being typed
     QString m_untitled;                      ///< names the journal of a project without a place
     bool m_hasJournal = false;
+    bool m_isBehind = false; ///< a piece could not be written
     QStringList m_found;
     QStringList m_foundUntitled;
 };

@@ -292,22 +292,21 @@ JournalWriter::JournalWriter(QString path, JournalHeader header, ReadBase readBa
 
 bool JournalWriter::begin()
 {
-    if (m_file.isOpen())
+    if (m_file.isOpen() && m_file.size() > 0)
         return true;
-    // What a failed write left stands for nothing that is still known.
-    m_bases.clear();
-    m_last.clear();
-    m_lastSize = 0;
-    m_pieces = 0;
+    // A failed write left half a piece, behind which nothing may stand: a new journal takes its
+    // place.
+    if (!m_bases.empty())
+        return compact();
     return makePrivateFolder(QFileInfo(m_path).path())
            && m_file.append(magic + headPiece(m_header));
 }
 
 /// Notes what is written as it goes.
-QByteArray JournalWriter::pieceOf(const std::vector<FileChange> &changes)
+QByteArray JournalWriter::pieceOf(const std::map<QString, FileChange> &changes)
 {
     PieceWriter piece;
-    for (const FileChange &change : changes) {
+    for (const auto &[path, change] : changes) {
         if (!m_bases.contains(change.path)) {
             const std::optional<QByteArray> base = m_readBase(change.path);
             m_bases[change.path] = base ? Sha256::of(*base) : QByteArray();
@@ -337,19 +336,22 @@ QByteArray JournalWriter::pieceOf(const std::vector<FileChange> &changes)
 
 bool JournalWriter::write(const std::vector<FileChange> &changes)
 {
-    if (changes.empty())
+    for (const FileChange &change : changes)
+        m_missing[change.path] = change;
+    if (m_missing.empty())
         return true;
     if (!begin())
         return false;
     const auto bases = m_bases;
     const auto last = m_last;
     const qint64 lastSize = m_lastSize;
-    if (!m_file.append(pieceOf(changes))) {
+    if (!m_file.append(pieceOf(m_missing))) {
         m_bases = bases;
         m_last = last;
         m_lastSize = lastSize;
         return false;
     }
+    m_missing.clear();
     ++m_pieces;
     if (m_pieces > mostPieces || m_file.size() > 2 * m_lastSize + slack)
         return compact();
@@ -384,6 +386,7 @@ void JournalWriter::clear()
     m_file.remove();
     m_bases.clear();
     m_last.clear();
+    m_missing.clear();
     m_lastSize = 0;
     m_pieces = 0;
 }

@@ -70,7 +70,7 @@ public:
     JournalWriter(QString path, JournalHeader header, ReadBase readBase);
 
     /// Adds what changed, as one piece: after a crash all of it is there, or none. Failing costs
-    /// nothing but this piece; the next one holds what is missing.
+    /// nothing: what stood in the journal stays, and the next piece holds what is missing too.
     bool write(const std::vector<FileChange> &changes);
     /// Removes the journal: everything in it is saved, or given up.
     void clear();
@@ -81,7 +81,7 @@ public:
 private:
     bool begin();
     bool compact();
-    QByteArray pieceOf(const std::vector<FileChange> &changes);
+    QByteArray pieceOf(const std::map<QString, FileChange> &changes);
 
     QString m_path;
     JournalHeader m_header;
@@ -89,6 +89,7 @@ private:
     AppendFile m_file;
     std::map<QString, QByteArray> m_bases;               ///< sums of what stood there before
     std::map<QString, std::optional<QByteArray>> m_last; ///< as the journal has it
+    std::map<QString, FileChange> m_missing;             ///< what could not be written yet, by path
     qint64 m_lastSize = 0;                               ///< bytes in m_last
     int m_pieces = 0;
 };

@@ -1,9 +1,9 @@
 // Preloaded into a test program, this library fails or kills it at the n-th call that changes a
 // file under one folder. The program arms it with ivorel_fault_arm(); the rest comes from the
 // environment: IVOREL_FAULT_ROOT the folder, IVOREL_FAULT_AT the number of the call,
-// IVOREL_FAULT_MODE one of "kill", "once" (that call fails), "full" (it and all later ones that
-// need space fail) and "refused" (it and all later ones fail). Syncs that do not fail are left out,
-// for speed.
+// IVOREL_FAULT_MODE one of "kill", "once" (that call fails), "passing" (it and the next two fail),
+// "full" (it and all later ones that need space fail) and "refused" (it and all later ones fail).
+// Syncs that do not fail are left out, for speed.
 
 #include <cerrno>
 #include <csignal>
@@ -27,6 +27,7 @@ enum class Mode
 {
     Kill,
     Once,
+    Passing,
     Full,
     Refused
 } mode = Mode::Once;
@@ -53,7 +54,8 @@ bool fails(bool needsSpace = true)
     if (!root)
         return false;
     ++calls;
-    if (calls < failAt || (calls > failAt && mode == Mode::Once))
+    if (calls < failAt || (calls > failAt && mode == Mode::Once)
+        || (calls > failAt + 2 && mode == Mode::Passing))
         return false;
     if (mode == Mode::Full && !needsSpace)
         return false;
@@ -100,6 +102,8 @@ void ivorel_fault_arm()
     failAt = at ? std::strtol(at, nullptr, 10) : 0;
     if (wanted && std::strcmp(wanted, "kill") == 0)
         mode = Mode::Kill;
+    if (wanted && std::strcmp(wanted, "passing") == 0)
+        mode = Mode::Passing;
     if (wanted && std::strcmp(wanted, "full") == 0)
         mode = Mode::Full;
     if (wanted && std::strcmp(wanted, "refused") == 0)
@@ -178,6 +182,13 @@ int ftruncate(int handle, off_t size) noexcept
     if (isTracked(handle) && fails(false))
         return -1;
     return real<int (*)(int, off_t)>("ftruncate")(handle, size);
+}
+
+int ftruncate64(int handle, off64_t size) noexcept
+{
+    if (isTracked(handle) && fails(false))
+        return -1;
+    return real<int (*)(int, off64_t)>("ftruncate64")(handle, size);
 }
 
 int fchmod(int handle, mode_t permissions) noexcept

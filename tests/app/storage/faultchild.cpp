@@ -63,6 +63,20 @@ Outcome saveFolder(const FaultPaths &paths)
     return outcomeOf(commitFolderSave(save, OutsideChanges::Overwrite));
 }
 
+/// Succeeds when the last piece was written.
+Outcome writeJournal(const FaultPaths &paths)
+{
+    JournalWriter journal(paths.journal, {paths.folder, LockHolder::current()},
+                          [](const QString &) { return std::nullopt; });
+    arm();
+    bool isWritten = false;
+    for (int i = 1; i <= journalPieces; ++i) {
+        isWritten = journal.write(journalPiece(i));
+        journal.sync();
+    }
+    return {isWritten, {}};
+}
+
 Outcome run(const QString &work, const FaultPaths &paths)
 {
     StorageLocations locations;
@@ -71,7 +85,12 @@ Outcome run(const QString &work, const FaultPaths &paths)
         return save(paths, locations);
     if (work == QLatin1String("save folder"))
         return saveFolder(paths);
+    if (work == QLatin1String("journal"))
+        return writeJournal(paths);
     arm();
+    if (work == QLatin1String("backup"))
+        return outcomeOf(AutoBackups(paths.novel, locations, &nothingCounted)
+                             .add({paths.novel, {}}, BackupReason::Opened));
     if (work == QLatin1String("open"))
         return outcomeOf(openBundle(paths.bundle, locations));
     if (work == QLatin1String("reload"))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/storage/autobackups.h"
+#include "app/storage/journal.h"
 #include "app/storage/projectfiles.h"
 
 #include <QtCore/QString>
@@ -18,6 +20,8 @@ struct FaultPaths
         , otherBundle(root + QStringLiteral("/other/Copy.vellum"))
         , folder(root + QStringLiteral("/project"))
         , target(root + QStringLiteral("/unpacked/here"))
+        , journal(root + QStringLiteral("/journals/a.journal"))
+        , novel(root + QStringLiteral("/novel"))
     {
     }
 
@@ -27,6 +31,8 @@ struct FaultPaths
     QString otherBundle; ///< where another bundle is written to
     QString folder;      ///< a project folder
     QString target;      ///< where a bundle is unpacked to
+    QString journal;
+    QString novel; ///< a project folder that loads
 };
 
 inline QString changedObject()
@@ -48,6 +54,24 @@ inline vl::app::ProjectFiles newProjectFiles()
     return {{changedObject(), QByteArray(3000, 'n')},
             {addedObject(), "added"},
             {QStringLiteral("project.json"), "{\"new\": 1}"}};
+}
+
+constexpr int journalPieces = 4;
+
+/// What the journal is given as its n-th piece, from 1: two files that are changed in turn.
+inline std::vector<vl::app::FileChange> journalPiece(int number)
+{
+    const QByteArray text = "first " + QByteArray(size_t(number) * 100, 'x');
+    std::vector<vl::app::FileChange> changes{{number % 2 ? addedObject() : changedObject(), text}};
+    if (number == 1)
+        changes.push_back({goneObject(), std::nullopt});
+    return changes;
+}
+
+/// What is counted in a backup does not matter here.
+inline vl::app::BackupSummary nothingCounted(const vl::core::Project &)
+{
+    return {};
 }
 
 } // namespace vl::test

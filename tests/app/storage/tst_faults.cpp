@@ -93,8 +93,15 @@ class TestFaults : public QObject
 private Q_SLOTS:
     void works_data();
     void works();
+    void journal_data() { modes(); }
+    void journal();
+    void backup_data() { modes(); }
+    void backup();
 
 private:
+    static void modes();
+    void disturb(const QString &work, const QString &mode, const std::function<void()> &prepareWork,
+                 const std::function<void(const Told &)> &checkWork);
     void prepare(const QString &start) const;
     Told runChild(const QString &work, int at, const QString &mode) const;
     void check(const QString &work, const QString &start, const Told &told,
@@ -132,6 +139,15 @@ void TestFaults::works()
     QFETCH(QString, work);
     QFETCH(QString, start);
     QFETCH(QString, mode);
+    const auto prepareStart = [&] { prepare(start); };
+    disturb(work, mode, prepareStart, [&](const Told &told) { check(work, start, told, mode); });
+}
+
+/// Does the work with each of its calls going wrong; looks at the outcome of each.
+void TestFaults::disturb(const QString &work, const QString &mode,
+                         const std::function<void()> &prepareWork,
+                         const std::function<void(const Told &)> &checkWork)
+{
     // In memory, since thousands of syncs would take minutes.
     const QString memory = QStringLiteral("/dev/shm");
     const QString place = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
@@ -140,9 +156,9 @@ void TestFaults::works()
         QVERIFY2(at < 500, "it never ends undisturbed");
         const QTemporaryDir folder(place + QStringLiteral("/fàults of a test-XXXXXX"));
         m_root = folder.path();
-        prepare(start);
+        prepareWork();
         const Told told = runChild(work, at, mode);
-        check(work, start, told, mode);
+        checkWork(told);
         if (QTest::currentTestFailed()) {
             qWarning("at call %d: %s", at, qPrintable(told.message));
             return;
@@ -154,6 +170,91 @@ void TestFaults::works()
         calls = at;
     }
     QVERIFY2(calls >= 4, "hardly anything was disturbed");
+}
+
+void TestFaults::modes()
+{
+    QTest::addColumn<QString>("mode");
+    for (const char *mode : {"kill", "once", "passing", "full", "refused"})
+        QTest::newRow(mode) << QString::fromLatin1(mode);
+}
+
+/// The torn end of a journal costs nothing that stands before it, and what could not be written at
+/// first is written later.
+void TestFaults::journal()
+{
+    QFETCH(QString, mode);
+    // What the journal says after so many pieces.
+    QList<std::map<QString, std::optional<QByteArray>>> states(1);
+    for (int i = 1; i <= journalPieces; ++i) {
+        states.append(states.last());
+        for (const FileChange &change : journalPiece(i))
+            states.last()[change.path] = change.bytes;
+    }
+    qsizetype best = 0;
+    disturb(
+        QStringLiteral("journal"), mode, [] {},
+        [&](const Told &told) {
+            const QString path = FaultPaths(m_root).journal;
+            std::map<QString, std::optional<QByteArray>> found;
+            if (const Result<Journal> read = readJournal(path)) {
+                for (const auto &[name, file] : read->files)
+                    found[name] = file.change.bytes;
+            }
+            const qsizetype state = states.indexOf(found);
+            QVERIFY2(state >= 0, "a mixture");
+            QVERIFY2(!told.succeeded || state == journalPieces, "a false success");
+            // The later the end came the more is there.
+            const bool endsThere =
+                mode != QLatin1String("once") && mode != QLatin1String("passing");
+            QVERIFY2(!endsThere || state >= best, "something written before is lost");
+            best = std::max(best, state);
+        });
+    QCOMPARE(best, qsizetype(journalPieces));
+}
+
+/// A backup that fails leaves no half one, and none of the others goes for it.
+void TestFaults::backup()
+{
+    QFETCH(QString, mode);
+    StorageLocations locations;
+    QStringList before;
+    disturb(
+        QStringLiteral("backup"), mode,
+        [&] {
+            const QString novel = FaultPaths(m_root).novel;
+            locations.root = FaultPaths(m_root).data;
+            before.clear();
+            for (int i = 0; i <= AutoBackups::lastKept; ++i) {
+                putFiles(novel, {{records, "{\n}\n"}, {asset, QByteArray(3000 + i, 'm')}});
+                if (i == AutoBackups::lastKept)
+                    return;
+                const auto made = AutoBackups(novel, locations, &nothingCounted)
+                                      .add({novel, {}}, BackupReason::Opened);
+                QVERIFY(made && *made);
+                before.append((*made)->path);
+            }
+        },
+        [&](const Told &told) {
+            const AutoBackups backups(FaultPaths(m_root).novel, locations, &nothingCounted);
+            const std::vector<BackupInfo> list = backups.list();
+            for (const BackupInfo &backup : list)
+                QVERIFY2(loadBackup(backup.path), qPrintable(backup.path));
+            const auto isOld = [&](const BackupInfo &backup) {
+                return before.contains(backup.path);
+            };
+            const auto old = std::count_if(list.begin(), list.end(), isOld);
+            const bool stands = list.size() > std::size_t(old);
+            QVERIFY(old >= before.size() - (stands ? 1 : 0));
+            QVERIFY(!told.succeeded || stands);
+            if (told.killed || told.succeeded)
+                return;
+            QVERIFY2(told.message.contains(QDir::toNativeSeparators(m_root)),
+                     qPrintable(told.message));
+            // Where removing failed too, the next backup clears away what is left.
+            if (mode == QLatin1String("once") || mode == QLatin1String("full"))
+                QVERIFY(!holdsUnfinishedFiles(backups.folder()));
+        });
 }
 
 void TestFaults::prepare(const QString &start) const
