@@ -1,7 +1,9 @@
 #include "desktop/panels/documentspanel.h"
 
+#include "app/models/codexoperations.h"
 #include "app/models/documentoperations.h"
 #include "app/models/documentsmodel.h"
+#include "app/models/objecttexts.h"
 #include "app/models/prompts.h"
 #include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
@@ -66,7 +68,7 @@ void DocumentsPanel::buildToolBar(QLayout *layout)
     add->setPopupMode(QToolButton::InstantPopup);
     add->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     auto *menu = new QMenu(add);
-    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote"})
+    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote", "doc.addTask"})
         menu->addAction(m_context.actions[id]);
     add->setMenu(menu);
     bar->addWidget(add);
@@ -210,6 +212,8 @@ void DocumentsPanel::bindActions()
     actions.bind("doc.add", this, &DocumentsPanel::addDocument);
     actions.bind("doc.addNote", this, &DocumentsPanel::addNote);
     actions.bind("doc.addInside", this, &DocumentsPanel::addInside);
+    actions.bind("doc.addTask", this, &DocumentsPanel::addTask);
+    actions.bind("doc.changeKind", this, &DocumentsPanel::askKind);
 
     const auto bindMove = [&](const char *id,
                               void (DocumentOperations::*move)(const QList<ContentId> &)) {
@@ -239,15 +243,15 @@ void DocumentsPanel::bindActions()
 void DocumentsPanel::updateActions()
 {
     const bool hasSelection = !selectedIds().isEmpty();
-    for (const char *id :
-         {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote", "doc.addInside"})
+    for (const char *id : {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote",
+                           "doc.addInside", "doc.addTask", "doc.changeKind"})
         m_context.actions[id]->setEnabled(hasSelection);
 }
 
 void DocumentsPanel::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
-    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote"})
+    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote", "doc.addTask"})
         menu.addAction(m_context.actions[id]);
     menu.addSeparator();
     const ContentId current = currentId();
@@ -259,20 +263,42 @@ void DocumentsPanel::showContextMenu(const QPoint &position)
     rename->setEnabled(!current.isNull());
     remove->setEnabled(!selectedIds().isEmpty());
     menu.addSeparator();
+    for (const char *id : {"doc.changeKind", "doc.unsupportedClaims", "doc.versionHistory"})
+        menu.addAction(m_context.actions[id]);
+    menu.addSeparator();
     for (const char *id : {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote"})
         menu.addAction(m_context.actions[id]);
-    QMenu *kinds = menu.addMenu(tr("Change Kind…"));
-    kinds->setEnabled(!current.isNull());
-    const std::pair<core::DocumentKind, QString> kindTexts[] = {
-        {core::DocumentKind::Prose, tr("Prose")},
-        {core::DocumentKind::Screenplay, tr("Screenplay")},
-        {core::DocumentKind::Note, tr("Note")},
-    };
-    for (const auto &[kind, text] : kindTexts)
-        kinds->addAction(text, this, [this, kind = kind] {
-            DocumentOperations(m_context.workspace).setKind(selectedIds(), kind);
-        });
     menu.exec(m_tree->viewport()->mapToGlobal(position));
+}
+
+void DocumentsPanel::addTask()
+{
+    const QList<ContentId> ids = selectedIds();
+    if (ids.isEmpty())
+        return;
+    const QString title = m_context.prompts.askText(tr("Task for Document"), tr("Task:"), QString())
+                              .value_or(QString())
+                              .simplified();
+    if (title.isEmpty())
+        return;
+    app::CodexOperations(m_context.workspace).addTask(ids.first(), title);
+    m_context.notices.offerUndo(tr("The task “%1” was added.").arg(app::rowText(title)));
+}
+
+void DocumentsPanel::askKind()
+{
+    const std::pair<QString, core::DocumentKind> kinds[] = {
+        {tr("Prose"), core::DocumentKind::Prose},
+        {tr("Screenplay"), core::DocumentKind::Screenplay},
+        {tr("Note"), core::DocumentKind::Note},
+    };
+    QStringList texts;
+    for (const auto &[text, kind] : kinds)
+        texts.append(text);
+    const qsizetype chosen =
+        texts.indexOf(m_context.prompts.chooseOne(tr("Change Kind"), tr("Kind:"), texts));
+    if (chosen >= 0)
+        DocumentOperations(m_context.workspace).setKind(selectedIds(), kinds[chosen].second);
 }
 
 void DocumentsPanel::addDocument()

@@ -43,6 +43,8 @@ private:
     void addDocument();
     void addNote();
     void addInside();
+    void addTask();
+    void askKind();
     void rename(const core::ContentId &id);
     void removeSelected();
     void selectFromWorkspace();

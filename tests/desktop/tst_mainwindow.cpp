@@ -1,5 +1,6 @@
 #include "app/models/documentoperations.h"
 #include "core/commands/documentcommands.h"
+#include "core/content/task.h"
 #include "desktop/panels/catalogue.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/icons.h"
@@ -187,6 +188,17 @@ void TestMainWindow::theTreeMovesAndRenames()
     QCOMPARE(desk.tree->model()->rowCount(), 1);
     desk.window.workspace().undo();
     QCOMPARE(desk.tree->model()->rowCount(), 2);
+
+    desk.tree->setCurrentIndex(desk.tree->model()->index(0, 0));
+    desk.prompts.choice = 2; // of prose, screenplay, note
+    desk.window.actions()["doc.changeKind"]->trigger();
+    const core::ContentId current = desk.window.workspace().selection().value(0);
+    const core::Project &project = desk.window.workspace().project();
+    QVERIFY(project.find<Document>(current)->documentKind() == DocumentKind::Note);
+    desk.prompts.text = QStringLiteral("Check the tides");
+    desk.window.actions()["doc.addTask"]->trigger();
+    QCOMPARE(project.all<core::Task>().size(), size_t(1));
+    QCOMPARE(project.all<core::Task>().front()->targetId(), current);
 }
 
 void TestMainWindow::closingAsks()
