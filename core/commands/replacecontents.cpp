@@ -35,39 +35,48 @@ ReplaceContentsCommand::~ReplaceContentsCommand() = default;
 void ReplaceContentsCommand::redo()
 {
     m_changes.clear();
-    swapAll(m_changes);
+    for (ObjectSlot &slot : m_objects)
+        swapObject(slot, m_changes);
+    for (CategorySlot &slot : m_categories)
+        swapCategory(slot, m_changes);
+    if (m_records)
+        swapRecords(m_changes);
 }
 
+/// From the last to the first: an id may be among what goes and among what comes.
 void ReplaceContentsCommand::undo()
 {
     ChangeSet changes;
-    swapAll(changes);
-}
-
-void ReplaceContentsCommand::swapAll(ChangeSet &changes)
-{
-    for (ObjectSlot &slot : m_objects) {
-        const bool isThere = slot.other != nullptr;
-        std::unique_ptr<ContentObject> old = m_project.take(slot.id);
-        if (!old && !isThere)
-            continue;
-        if (isThere)
-            m_project.add(std::move(slot.other));
-        changes.touchObject(slot.id, changeBetween(old != nullptr, isThere));
-        slot.other = std::move(old);
-    }
-    for (CategorySlot &slot : m_categories) {
-        const bool isThere = slot.other.has_value();
-        std::optional<Category> old = m_project.editTaxonomy().take(slot.id);
-        if (!old && !isThere)
-            continue;
-        if (isThere)
-            m_project.editTaxonomy().add(*slot.other);
-        changes.touchCategory(slot.id, changeBetween(old.has_value(), isThere));
-        slot.other = std::move(old);
-    }
     if (m_records)
         swapRecords(changes);
+    for (auto slot = m_categories.rbegin(); slot != m_categories.rend(); ++slot)
+        swapCategory(*slot, changes);
+    for (auto slot = m_objects.rbegin(); slot != m_objects.rend(); ++slot)
+        swapObject(*slot, changes);
+}
+
+void ReplaceContentsCommand::swapObject(ObjectSlot &slot, ChangeSet &changes)
+{
+    const bool isThere = slot.other != nullptr;
+    std::unique_ptr<ContentObject> old = m_project.take(slot.id);
+    if (!old && !isThere)
+        return;
+    if (isThere)
+        m_project.add(std::move(slot.other));
+    changes.touchObject(slot.id, changeBetween(old != nullptr, isThere));
+    slot.other = std::move(old);
+}
+
+void ReplaceContentsCommand::swapCategory(CategorySlot &slot, ChangeSet &changes)
+{
+    const bool isThere = slot.other.has_value();
+    std::optional<Category> old = m_project.editTaxonomy().take(slot.id);
+    if (!old && !isThere)
+        return;
+    if (isThere)
+        m_project.editTaxonomy().add(*slot.other);
+    changes.touchCategory(slot.id, changeBetween(old.has_value(), isThere));
+    slot.other = std::move(old);
 }
 
 void ReplaceContentsCommand::swapRecords(ChangeSet &changes)

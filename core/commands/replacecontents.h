@@ -50,7 +50,8 @@ private:
         std::optional<Category> other;
     };
 
-    void swapAll(ChangeSet &changes);
+    void swapObject(ObjectSlot &slot, ChangeSet &changes);
+    void swapCategory(CategorySlot &slot, ChangeSet &changes);
     void swapRecords(ChangeSet &changes);
 
     Project &m_project;

@@ -299,6 +299,9 @@ void TestOtherCommands::replacedContents()
     const auto added = ContentId::create();
     contents.categories.push_back({added, QStringLiteral("Ships"), {}, {}});
     contents.records = fullProject(2);
+    // An id that goes and comes, as when the file of an object was renamed.
+    contents.goneObjects.push_back(contents.objects.front()->id());
+    contents.goneCategories.push_back(contents.categories.front().id);
     ReplaceContentsCommand command(project, std::move(contents), QStringLiteral("Merge"));
     checkWayBack(project, command);
     QCOMPARE(command.text(), QStringLiteral("Merge"));
