@@ -1,16 +1,12 @@
 #include "app/models/outsidemonitor.h"
 
 #include "app/models/workspace.h"
-#include "app/storage/archive.h"
+#include "app/storage/folderbackup.h"
 #include "app/storage/jsonmerge.h"
-#include "app/storage/projectfolder.h"
-#include "app/storage/projectpaths.h"
-#include "app/storage/projectreader.h"
 #include "core/content/map.h"
 #include "core/content/media.h"
 
 #include <QtConcurrent/QtConcurrentRun>
-#include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
@@ -36,61 +32,29 @@ struct BackupWork
     bool keepsTheirs = false;               ///< what is on disk goes to a backup too
 
     Result<> run() const;
-
-private:
-    std::vector<QByteArray> media() const;
-    Result<> add(ProjectFiles files, std::vector<QByteArray> paths) const;
 };
-
-std::vector<QByteArray> BackupWork::media() const
-{
-    std::vector<QByteArray> paths;
-    QDirIterator it(folder + u'/' + assetsFolder(), QDir::Files | QDir::NoSymLinks,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QByteArray path = it.next().mid(folder.size() + 1).toUtf8();
-        if (!isUnfinishedFileName(it.fileName()) && isSafeEntryName(path))
-            paths.push_back(path);
-    }
-    return paths;
-}
-
-Result<> BackupWork::add(ProjectFiles files, std::vector<QByteArray> paths) const
-{
-    const Result<BundleSource> source =
-        BundleSource::ofFiles(folder, std::move(paths), std::move(files));
-    if (!source)
-        return source.asFailure();
-    const Result<QString> added = backups.addSource(baseName, *source);
-    return added ? Result<>() : added.asFailure();
-}
 
 Result<> BackupWork::run() const
 {
     if (ownFiles) {
-        if (const Result<> added = add(ownFiles(), media()); !added)
-            return added;
+        const Result<BundleSource> source =
+            BundleSource::ofFiles(folder, mediaPathsIn(folder), ownFiles());
+        const Result<QString> added =
+            source ? backups.addSource(baseName, *source) : Result<QString>(source.asFailure());
+        if (!added)
+            return added.asFailure();
     }
     if (!keepsTheirs || !QFileInfo::exists(path))
         return {};
-    if (isBundle) {
-        const Result<QByteArray> bytes =
-            readRegularFile(path, OutsideMonitor::tr("Could not open the project file: %1"));
-        const Result<QString> added =
-            bytes ? backups.addBytes(baseName, *bytes) : Result<QString>(bytes.asFailure());
+    if (!isBundle) {
+        const Result<QString> added = backUpProjectFolder(backups, baseName, path);
         return added ? Result<>() : added.asFailure();
     }
-    const Result<QStringList> read = listReadPaths(path);
-    if (!read)
-        return read.asFailure();
-    std::vector<QByteArray> paths = media();
-    for (const QString &file : *read)
-        if (isSafeEntryName(file.toUtf8()))
-            paths.push_back(file.toUtf8());
-    ProjectFiles records; // a backup has some in any case
-    if (!read->contains(recordsPath()))
-        records.push_back({recordsPath(), QByteArrayLiteral("{}\n")});
-    return add(std::move(records), std::move(paths));
+    const Result<QByteArray> bytes =
+        readRegularFile(path, OutsideMonitor::tr("Could not open the project file: %1"));
+    const Result<QString> added =
+        bytes ? backups.addBytes(baseName, *bytes) : Result<QString>(bytes.asFailure());
+    return added ? Result<>() : added.asFailure();
 }
 
 /// Whether the two looks found the same to decide on.
@@ -340,7 +304,7 @@ void OutsideMonitor::decide(Decision decision)
         }
     }
     m_decision = decision;
-    m_lookedGeneration = project.filesGeneration();
+    m_decidedGeneration = project.filesGeneration();
 
     BackupWork backup{m_locations.backups(),
                       bundleBaseName(project.path()),
@@ -352,7 +316,7 @@ void OutsideMonitor::decide(Decision decision)
     const bool isKeep = decision == Decision::Keep;
     if (!isKeep)
         backup.ownFiles = project.snapshot();
-    backup.keepsTheirs = isKeep || dropsTheirs(m_decided);
+    backup.keepsTheirs = isKeep || !m_state.unsettled.isEmpty() || dropsTheirs(m_decided);
     std::shared_ptr<PendingScan> scan = project.prepareScan();
     m_deciding.setFuture(QtConcurrent::run(
         [scan, backup, isKeep, expected = m_state, prepare = project.prepareTakeOver(m_state)] {
@@ -374,7 +338,7 @@ void OutsideMonitor::decisionPrepared()
     OpenProject &project = m_workspace.current();
     Prepared prepared = m_deciding.result();
     const bool isSame =
-        isSameFinding(prepared.state, m_state) && m_lookedGeneration == project.filesGeneration()
+        isSameFinding(prepared.state, m_state) && m_decidedGeneration == project.filesGeneration()
         && !project.isSaving() && !project.history().isGroupOpen()
         && (m_decision == Decision::Keep || isAboutTheSame(m_decided, project.reconcile(m_state)));
     if (!isSame) {

@@ -120,6 +120,7 @@ private:
     int m_patience;
 
     QFutureWatcher<Prepared> m_deciding;
+    quint64 m_decidedGeneration = 0; ///< of the files when the decision was begun
     Decision m_decision = Decision::Load;
     std::vector<ReconcileEntry> m_decided;
     bool m_wasDirty = false;

@@ -269,9 +269,24 @@ public:
     {
         if (!state.bundleFiles)
             return;
-        m_base = state.bundleFiles;
         m_isOwnForm = false;
         m_known = *state.bundle;
+        if (state.unsettled.isEmpty()) {
+            m_base = state.bundleFiles;
+            return;
+        }
+        // Of what is not taken over, the next save writes what was here.
+        ProjectFiles files = *state.bundleFiles;
+        for (const QString &path : state.unsettled) {
+            const ProjectFile wanted{path, {}};
+            const auto mine =
+                std::lower_bound(m_base->begin(), m_base->end(), wanted, pathIsBefore);
+            const auto theirs = std::lower_bound(files.begin(), files.end(), wanted, pathIsBefore);
+            if (mine != m_base->end() && mine->path == path && theirs != files.end()
+                && theirs->path == path)
+                theirs->bytes = mine->bytes;
+        }
+        m_base = std::make_shared<const ProjectFiles>(std::move(files));
     }
 
     void note(const OutsideState &state) override

@@ -90,7 +90,9 @@ std::optional<QByteArray> mergeMembers(const QString &path, const QByteArray &ba
     const QByteArray bytes = QJsonDocument(merged.object).toJson();
     JsonParser parser;
     const ProjectFile own = inOwnForm(parser, {path, bytes});
-    return own.path == path ? std::optional(own.bytes) : std::nullopt;
+    // Under whatever name it stands, the merge is about the same object as the versions of it.
+    return own.path == inOwnForm(parser, {path, local}).path ? std::optional(own.bytes)
+                                                             : std::nullopt;
 }
 
 } // namespace vl::app

@@ -2,29 +2,13 @@
 
 #include "app/storage/projectstore.h"
 #include "app/storage/readonlyplace.h"
+#include "app/storage/runningsave.h"
 
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QFutureWatcher>
 
 namespace vl::app {
-
-/// A save on its way, and the state of the history that it holds.
-struct OpenProject::RunningSave
-{
-    explicit RunningSave(ProjectStore &store)
-        : store(store)
-    {
-    }
-
-    ProjectStore &store;
-    std::unique_ptr<PendingSave> pending;
-    core::ChangeSet touched; ///< unsaved again when the save fails
-    qsizetype cleanIndex = 0;
-    quint64 branch = 0;
-    QFutureWatcher<Result<>> watcher;
-};
 
 OpenProject::OpenProject()
     : OpenProject(std::make_unique<core::Project>(), nullptr)
@@ -118,7 +102,8 @@ std::unique_ptr<OpenProject::RunningSave> OpenProject::beginSave(ProjectStore &s
     auto save = std::make_unique<RunningSave>(store);
     save->pending = store.prepare(*m_project, everything ? nullptr : &m_unsaved);
     save->touched = std::exchange(m_unsaved, {});
-    save->cleanIndex = m_history.undoCount();
+    // Half a group is no state that the history can come back to.
+    save->cleanIndex = m_history.isGroupOpen() ? -1 : m_history.undoCount();
     save->branch = m_history.branch();
     return save;
 }

@@ -9,6 +9,7 @@
 #include "app/storage/projectrecordscodec.h"
 #include "app/storage/projectstore.h"
 #include "app/storage/projectwriter.h"
+#include "app/storage/runningsave.h"
 #include "core/commands/replacecontents.h"
 
 #include <algorithm>
@@ -22,6 +23,12 @@ namespace {
 bool isObject(const OutsideFile &file)
 {
     return file.path.startsWith(objectsFolder() + u'/');
+}
+
+/// Whether the file is gone and what was in it stands in another one.
+bool isGoneCopy(const OutsideFile &file)
+{
+    return file.isCopy && !file.remote;
 }
 
 /// What the result of an entry makes of the model.
@@ -114,15 +121,27 @@ void OpenProject::note(const OutsideState &state)
 /// What the project would write to the file now.
 std::optional<QByteArray> OpenProject::localBytes(const OutsideFile &file) const
 {
+    // What a running save holds is unsaved until it has succeeded.
+    const auto isUnsaved = [this](const auto &isTouchedIn) {
+        return isTouchedIn(m_unsaved) || (m_running && isTouchedIn(m_running->touched));
+    };
     if (file.path == recordsPath())
-        return m_unsaved.touchesAnyRecord() ? serializeProjectRecords(*m_project) : file.base;
+        return isUnsaved([](const core::ChangeSet &set) { return set.touchesAnyRecord(); })
+                   ? serializeProjectRecords(*m_project)
+                   : file.base;
     if (isObject(file)) {
-        if (!file.isCopy && !m_unsaved.objects().contains(file.id))
+        const auto isTouched = [&file](const core::ChangeSet &set) {
+            return set.objects().contains(file.id);
+        };
+        if (!file.isCopy && !isUnsaved(isTouched))
             return file.base;
         const core::ContentObject *object = m_project->find(file.id);
         return object ? std::optional(serializeObject(*object)) : std::nullopt;
     }
-    if (!file.isCopy && !m_unsaved.categories().contains(file.id))
+    const auto isTouched = [&file](const core::ChangeSet &set) {
+        return set.categories().contains(file.id);
+    };
+    if (!file.isCopy && !isUnsaved(isTouched))
         return file.base;
     const core::Category *category = m_project->taxonomy().find(file.id);
     return category ? std::optional(serializeCategory(*category)) : std::nullopt;
@@ -137,6 +156,8 @@ std::vector<ReconcileEntry> OpenProject::reconcile(const OutsideState &state) co
     JsonParser parser;
     std::vector<ReconcileEntry> entries;
     for (const OutsideFile &file : state.files) {
+        if (isGoneCopy(file))
+            continue; // what was in it stands in another file
         if (file.isCopy && !own.insert(file.id).second)
             continue; // after the others: it is compared with what became of them
         const Sides sides{file.base, localBytes(file), file.remote};
@@ -198,10 +219,16 @@ Result<> OpenProject::takeOver(const OutsideState &state,
     std::vector<OutsideFile> toWrite; // where the disk does not hold the result
     std::set<core::ContentId> ids;
     for (const OutsideFile &file : state.files) {
+        if (isGoneCopy(file)) {
+            taken.files.push_back(file);
+            continue;
+        }
         const auto found = byPath.find(file.path);
         const std::optional<QByteArray> local = localBytes(file);
-        if (found == byPath.end() && (local || file.remote))
+        if (found == byPath.end() && (local || file.remote)) {
+            taken.unsettled.append(file.path);
             continue;
+        }
         taken.files.push_back(file);
         std::optional<QByteArray> result;
         if (found != byPath.end() && !isDeletion(found->second->state) && found->second->result)
@@ -233,7 +260,9 @@ Result<> OpenProject::takeOver(const OutsideState &state,
             contents.records = std::move(parsed->records);
     }
 
-    const bool isOnDisk = !isDirty() && toWrite.empty();
+    // A folder keeps its unsettled files apart; in a bundle ours stand in for them from now on.
+    const bool isOnDisk =
+        !isDirty() && toWrite.empty() && (!isBundle() || taken.unsettled.isEmpty());
     ++m_filesGeneration;
     m_store->adopt(taken);
     m_store->note(state);
@@ -243,6 +272,7 @@ Result<> OpenProject::takeOver(const OutsideState &state,
         m_nextIsOnDisk = true;
         push(std::make_unique<core::ReplaceContentsCommand>(*m_project, std::move(contents),
                                                             stepName));
+        m_nextIsOnDisk = false; // also when the step turned out to change nothing
     }
     for (const OutsideFile &file : toWrite)
         touch(file);

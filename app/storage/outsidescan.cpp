@@ -17,6 +17,7 @@
 #include <QtCore/QThread>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace vl::app {
@@ -73,6 +74,29 @@ std::optional<core::ContentId> idIn(JsonParser &parser, const QString &path,
                                                                 : std::nullopt;
 }
 
+/// Tells files that are gone from those whose object or category has come to stand in another file,
+/// which is no deletion: there it is compared with what it was before.
+void followRenames(OutsideState &state, const std::set<QString> &remotePaths)
+{
+    std::map<QString, OutsideFile *> arrived; // by the path that their id should have
+    for (OutsideFile &file : state.files)
+        if (file.remote && !file.base && !file.isCopy && !file.id.isNull())
+            arrived.emplace(properPath(file.path, file.id), &file);
+    for (OutsideFile &file : state.files) {
+        if (file.remote || file.id.isNull())
+            continue;
+        const QString proper = properPath(file.path, file.id);
+        if (const auto found = arrived.find(proper); found != arrived.end()) {
+            found->second->base = file.base;
+            found->second->baseId = file.baseId;
+        } else if (proper == file.path || !remotePaths.contains(proper)) {
+            continue;
+        }
+        file.isCopy = true;
+        --state.goneFiles;
+    }
+}
+
 /// Sorts the differences into what can be taken over and what cannot, and finds second versions.
 void judge(OutsideState &state, std::vector<Difference> differences, const BaseFiles &base,
            const std::set<QString> &remotePaths)
@@ -106,6 +130,7 @@ void judge(OutsideState &state, std::vector<Difference> differences, const BaseF
         file.remote = std::move(difference.remote);
         state.files.push_back(std::move(file));
     }
+    followRenames(state, remotePaths);
 }
 
 FileStamp sampleOf(const QString &path)

@@ -1,7 +1,9 @@
 #include "app/storage/projectstore.h"
 
 #include "app/storage/bundleprojectstore.h"
+#include "app/storage/folderbackup.h"
 #include "app/storage/projectfolder.h"
+#include "app/storage/workingcopy.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -43,6 +45,14 @@ public:
         if (!m_carryFrom.isEmpty()) {
             if (Result<> carried = copyCarriedFiles(m_carryFrom, save.folder); !carried)
                 return carried;
+        }
+        // As with a bundle, what others wrote is kept before it is written over.
+        if (outside == OutsideChanges::Overwrite && QFileInfo(save.folder).isDir()
+            && meetsOutsideChanges()) {
+            const Result<QString> kept = backUpProjectFolder(
+                StorageLocations::standard().backups(), bundleBaseName(save.folder), save.folder);
+            if (!kept)
+                return kept.asFailure();
         }
         return commitFolderSave(save, outside);
     }

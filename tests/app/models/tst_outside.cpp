@@ -1,5 +1,6 @@
 #include "app/models/outsidemonitor.h"
 #include "app/models/workspace.h"
+#include "app/storage/bundle.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectwriter.h"
 #include "core/commands/documentcommands.h"
@@ -34,6 +35,12 @@ private Q_SLOTS:
     void waitsForWholeFiles();
     void clientsTemporaryNames();
     void secondVersionsOfAFile();
+    void renamedFiles_data();
+    void renamedFiles();
+    void damagedFilesInABundle_data();
+    void damagedFilesInABundle();
+    void savingOverTheirsKeepsABackup_data();
+    void savingOverTheirsKeepsABackup();
     void vanishedFilesAreNotDeletions_data();
     void vanishedFilesAreNotDeletions();
     void wholeFolderReplaced();
@@ -496,6 +503,124 @@ void TestOutside::secondVersionsOfAFile()
     QCOMPARE(desk.kind(), Kind::None);
 }
 
+void TestOutside::renamedFiles_data()
+{
+    QTest::addColumn<bool>("isDirty");
+    QTest::addColumn<bool>("isEdited"); // by whoever renamed it
+    QTest::newRow("nothing else") << false << false;
+    QTest::newRow("edited here") << true << false;
+    QTest::newRow("edited there") << false << true;
+    QTest::newRow("edited on both sides") << true << true;
+}
+
+void TestOutside::renamedFiles()
+{
+    QFETCH(bool, isDirty);
+    QFETCH(bool, isEdited);
+    Desk desk;
+    const QString mine = QStringLiteral("One.\n\nTwo.\n\nThree.\n\nMine.\n");
+    const QString other = desk.path(0).chopped(5) + QStringLiteral(" (1).json");
+    const auto theirs = [&](const QString &body) {
+        return isEdited ? QString(body).replace(QStringLiteral("One."), QStringLiteral("Theirs."))
+                        : body;
+    };
+    // There and back again: the name is not what makes a file the same.
+    for (int turn = 0; turn < 2; ++turn) {
+        const QString from = turn == 0 ? desk.path(0) : other;
+        const QString to = turn == 0 ? other : desk.path(0);
+        const QString before = desk.document(0).body();
+        if (isDirty)
+            desk.write(0, turn == 0 ? mine : QString(before).replace(u'M', u'm'));
+        const QString local = desk.document(0).body();
+        desk.monitor->watcher().setDelays(60000, 60000);
+        QByteArray bytes = test::fileBytes(from);
+        if (isEdited)
+            bytes.replace("One.", "Theirs.");
+        test::putFile(to, bytes);
+        QVERIFY(QFile::remove(from));
+        desk.check();
+        QVERIFY(desk.kind() != Kind::None);
+        QCOMPARE(desk.monitor->offer().conflicts, 0);
+        QCOMPARE(desk.monitor->offer().deletions, 0);
+        desk.done->clear();
+        desk.monitor->load();
+        QTRY_COMPARE(desk.done->size(), 1);
+        desk.project().finishSaving();
+        QVERIFY(!desk.project().isDirty());
+        QCOMPARE(desk.document(0).body(), theirs(local));
+        QCOMPARE(desk.bodyOnDisk(0), theirs(local));
+        if (isDirty) { // saving brought the name back
+            QVERIFY(!QFile::exists(other) && QFile::exists(desk.path(0)));
+            break;
+        }
+    }
+    while (desk.workspace.history().canUndo())
+        desk.workspace.undo();
+    QCOMPARE(desk.document(0).body(), original);
+    if (desk.project().isDirty())
+        QVERIFY(desk.project().save());
+    QCOMPARE(desk.bodyOnDisk(0), original);
+}
+
+void TestOutside::damagedFilesInABundle_data()
+{
+    QTest::addColumn<bool>("keepsMine");
+    QTest::newRow("loaded") << false;
+    QTest::newRow("kept mine") << true;
+}
+
+void TestOutside::damagedFilesInABundle()
+{
+    // One scene in their bundle is damaged: whatever is decided about the rest, mine stays.
+    QFETCH(bool, keepsMine);
+    Desk desk(true);
+    desk.monitor->setPatience(0);
+    const QString path = desk.project().path();
+    const QString folder = desk.dir.filePath(QStringLiteral("unpacked"));
+    QVERIFY(app::extractBundle(path, folder));
+    const QString damaged = folder + u'/' + app::objectPath(desk.ids[0]);
+    const QString edited = folder + u'/' + app::objectPath(desk.ids[1]);
+    test::putFile(damaged, test::fileBytes(damaged).left(50));
+    test::putFile(edited, test::fileBytes(edited).replace("One.", "Theirs."));
+    QVERIFY(app::packFolder(folder, path));
+    QTRY_VERIFY(desk.kind() != Kind::None);
+    QCOMPARE(desk.monitor->offer().files, 1);
+    if (keepsMine)
+        desk.monitor->keepMine();
+    else
+        desk.monitor->load();
+    QTRY_COMPARE(desk.done->size(), 1);
+    desk.project().finishSaving();
+    if (keepsMine)
+        QVERIFY(desk.project().save());
+    QVERIFY(!desk.project().isDirty());
+    QCOMPARE(desk.document(0).body(), original);
+    QCOMPARE(desk.bodyOnDisk(0), original);
+    QCOMPARE(desk.bodyOnDisk(1), desk.document(1).body());
+    QCOMPARE(desk.bodyOnDisk(1).startsWith(QLatin1String("Theirs.")), !keepsMine);
+}
+
+void TestOutside::savingOverTheirsKeepsABackup_data()
+{
+    addKindRows();
+}
+
+void TestOutside::savingOverTheirsKeepsABackup()
+{
+    QFETCH(bool, asBundle);
+    Desk desk(asBundle, false);
+    desk.locations = app::StorageLocations::standard();
+    desk.write(0, QStringLiteral("Mine."));
+    const QByteArray mark = QUuid::createUuid().toByteArray();
+    desk.othersWrite(0, QString::fromUtf8(mark));
+    QVERIFY(desk.project().meetsOutsideChanges());
+    QVERIFY(!desk.project().save());
+    QVERIFY(!desk.backups().contains(mark));
+    QVERIFY(desk.project().save(app::OutsideChanges::Overwrite));
+    QCOMPARE(desk.bodyOnDisk(0), QStringLiteral("Mine."));
+    QVERIFY(desk.backups().contains(mark));
+}
+
 void TestOutside::vanishedFilesAreNotDeletions_data()
 {
     QTest::addColumn<bool>("asBundle");
@@ -735,8 +860,9 @@ void TestOutside::versionControl()
             && git(mine, {QStringLiteral("push"), shared, QStringLiteral("main")}));
     QVERIFY(git(desk.dir.path(), {QStringLiteral("clone"), shared, theirs}));
     if (ownDriver) {
-        QVERIFY(git(mine, {QStringLiteral("config"), QStringLiteral("merge.ivorel.driver"),
-                           QStringLiteral("'" IVOREL_CLI "' merge-file --output %A --path %P %O %A %B")}));
+        QVERIFY(git(
+            mine, {QStringLiteral("config"), QStringLiteral("merge.ivorel.driver"),
+                   QStringLiteral("'" IVOREL_CLI "' merge-file --output %A --path %P %O %A %B")}));
         test::putFile(mine + QStringLiteral("/.git/info/attributes"), "*.json merge=ivorel\n");
     }
     desk.check();
