@@ -216,7 +216,8 @@ private:
 
     Standing standing();
     Result<> keepOutsideChanges();
-    Result<> write(Standing standing);
+    Result<> write(Standing standing, const FileIdentity &seen);
+    Result<> putInPlace(const BundleSource &source, const FileIdentity &seen);
     Result<> updateCopy(const BundleSource &source) const;
 
     const BundleSave &m_save;
@@ -232,6 +233,7 @@ SaveReport Saving::run()
         return m_report;
     }
     removeUnfinishedFilesOf(m_save.bundlePath);
+    const FileIdentity seen = FileIdentity::of(m_save.bundlePath);
     const Standing found = standing();
     if (found != Standing::AsKnown && !m_save.overwritesOutsideChanges) {
         m_report.outcome =
@@ -242,11 +244,9 @@ SaveReport Saving::run()
     if (found == Standing::Changed)
         done = keepOutsideChanges();
     if (done)
-        done = write(found);
-    if (!done) {
-        m_report.outcome = SaveOutcome::Failed;
+        done = write(found, seen);
+    if (!done)
         m_report.message = done.message();
-    }
     return m_report;
 }
 
@@ -273,7 +273,7 @@ Result<> Saving::keepOutsideChanges()
     return {};
 }
 
-Result<> Saving::write(Standing standing)
+Result<> Saving::write(Standing standing, const FileIdentity &seen)
 {
     const QString folder = m_copy.folder();
     // Where the copy was swept away, what it would carry along is still in the bundle.
@@ -290,11 +290,7 @@ Result<> Saving::write(Standing standing)
     if (!source)
         return source.asFailure();
 
-    BundleWriter writer(m_save.bundlePath);
-    Result<> written = writer.write(*source);
-    if (const std::optional<KnownBundle> known = writer.written())
-        m_report.known = *known;
-    if (!written)
+    if (const Result<> written = putInPlace(*source, seen); !written)
         return written;
 
     // From here on the words are safe. A copy that cannot be brought up to date stays without a
@@ -303,6 +299,37 @@ Result<> Saving::write(Standing standing)
     if (const Result<> updated = updateCopy(*source); !updated)
         m_report.message = updated.message();
     return {};
+}
+
+/// Writes the bundle beside the old one, and puts it in its place unless somebody else has replaced
+/// that one meanwhile.
+Result<> Saving::putInPlace(const BundleSource &source, const FileIdentity &seen)
+{
+    const QString &path = m_save.bundlePath;
+    if (!makeFolder(QFileInfo(path).absolutePath()))
+        return failure(withPath(
+            QCoreApplication::translate("vl::app::Bundle", "Could not create the folder for: %1"),
+            path));
+    const QString message =
+        QCoreApplication::translate("vl::app::Bundle", "Could not write the project file: %1");
+    AtomicFile file(path, {message, message});
+    if (const Result<> opened = file.open(); !opened)
+        return opened;
+    Sha256 sum;
+    const auto sink = [&](QByteArrayView bytes) {
+        sum.add(bytes);
+        return file.write(bytes);
+    };
+    if (const Result<> packed = source.packInto(sink, path); !packed)
+        return packed;
+    if (FileIdentity::of(path) != seen) {
+        m_report.outcome = SaveOutcome::ChangedOutside;
+        return failure(QString());
+    }
+    const Result<> committed = file.commit();
+    if (file.isInPlace())
+        m_report.known = {sum.finish(), FileIdentity::of(path)};
+    return committed;
 }
 
 Result<> Saving::updateCopy(const BundleSource &source) const

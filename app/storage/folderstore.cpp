@@ -160,6 +160,9 @@ Result<> commitFolderSave(const FolderSave &save, OutsideChanges outside, Durabi
         if (!added)
             return added;
     }
+    // What others put there while this was being written is not known either.
+    if (outside == OutsideChanges::Refuse && !outsideChanges(save).empty())
+        return FolderWriter::changedOutside(save.folder);
     if (Result<> written = batch.commit(); !written)
         return written;
     return FolderWriter::applyRemovals(save, durability);

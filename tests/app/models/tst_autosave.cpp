@@ -1,3 +1,4 @@
+#include "app/base/files.h"
 #include "app/models/autosavecontroller.h"
 #include "app/storage/openproject.h"
 #include "app/storage/projectpaths.h"
@@ -6,6 +7,12 @@
 #include "tests/support/folders.h"
 
 #include <QtTest/QtTest>
+
+#include <algorithm>
+#include <cstdio>
+#ifdef IVOREL_FAULT_SHIM
+#include <dlfcn.h>
+#endif
 
 using namespace vl;
 
@@ -25,6 +32,10 @@ private Q_SLOTS:
     void waitsForTheEndOfAGroup();
     void goesOnWhileOthersSave();
     void runsInsideAnotherEventLoop();
+    void savesThatMeetAnOpenGroup();
+    void bundleReplacedDuringSave();
+    void failingDisk_data();
+    void failingDisk();
 };
 
 namespace {
@@ -247,5 +258,175 @@ void TestAutosave::runsInsideAnotherEventLoop()
     QCOMPARE(desk.bodyOnDisk(), QStringLiteral("Words."));
 }
 
-QTEST_GUILESS_MAIN(TestAutosave)
+void TestAutosave::savesThatMeetAnOpenGroup()
+{
+    // What is saved then is half a change, which no undo leads back to.
+    Desk desk;
+    desk.project.history().beginMacro(QStringLiteral("Two things"));
+    desk.write(QStringLiteral("Half."));
+    QVERIFY(desk.project.save());
+    desk.write(QStringLiteral("Whole."));
+    desk.project.history().endMacro();
+    desk.project.history().undo();
+    QVERIFY(desk.project.isDirty());
+    QVERIFY(desk.project.save());
+    QCOMPARE(desk.bodyOnDisk(), QString());
+}
+
+void TestAutosave::bundleReplacedDuringSave()
+{
+    Desk desk(true);
+    const QString path = desk.project.path();
+    test::putFile(desk.project.folder() + QStringLiteral("/assets/film.bin"),
+                  QByteArray(32 << 20, 'f')); // so that there is time enough
+    const QString away = desk.dir.filePath(QStringLiteral("theirs"));
+    desk.write(QStringLiteral("Theirs."));
+    QVERIFY(desk.project.save());
+    const QByteArray theirs = test::fileBytes(path);
+    int refused = 0;
+    for (int round = 0; round < 5; ++round) {
+        desk.write(QStringLiteral("Mine %1.").arg(round));
+        QVERIFY(desk.project.save(app::OutsideChanges::Overwrite));
+        desk.write(QStringLiteral("Mine %1, and more.").arg(round));
+        test::putFile(away, theirs);
+        desk.failed.clear();
+        desk.autosave.saveNow();
+        const QString folder = QFileInfo(path).absolutePath();
+        const auto isBeingWritten = [&folder] {
+            const QStringList names = test::namesIn(folder);
+            return std::any_of(names.begin(), names.end(), app::isUnfinishedFileName);
+        };
+        QTRY_VERIFY(isBeingWritten() || !desk.project.isSaving());
+        QVERIFY(QFile::rename(path, path + u'~') && QFile::rename(away, path));
+        desk.project.finishSaving();
+        QFile::remove(path + u'~');
+        QCOMPARE(test::fileBytes(path) == theirs, true); // whenever it came
+        if (desk.failed.isEmpty())
+            continue;
+        ++refused;
+        QCOMPARE(desk.failed.last().first().toString(),
+                 QStringLiteral("The project changed outside Ivorel since you opened it."));
+        QVERIFY(desk.project.isDirty());
+    }
+    QVERIFY(refused > 0);
+}
+
+void TestAutosave::failingDisk_data()
+{
+    QTest::addColumn<bool>("asBundle");
+    QTest::addColumn<QString>("mode");
+    for (const char *mode : {"once", "full", "refused"}) {
+        QTest::addRow("folder, %s", mode) << false << QString::fromLatin1(mode);
+        QTest::addRow("bundle, %s", mode) << true << QString::fromLatin1(mode);
+    }
+}
+
+/// A save by the timer is done again and again with its first, second, third… file call going
+/// wrong, until it ends undisturbed.
+void TestAutosave::failingDisk()
+{
+#ifndef IVOREL_FAULT_SHIM
+    QSKIP("there is no library here that makes file calls fail");
+#else
+    QFETCH(bool, asBundle);
+    QFETCH(QString, mode);
+    const QString memory = QStringLiteral("/dev/shm");
+    const QString place = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+    int at = 1;
+    for (;; ++at) {
+        QVERIFY2(at < 500, "it never ends undisturbed");
+        const QTemporaryDir root(place + QStringLiteral("/ivorel fàults-XXXXXX"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(IVOREL_FAULT_SHIM));
+        environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                           QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+        environment.insert(QStringLiteral("TMPDIR"), root.path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), root.filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("IVOREL_FAULT_ROOT"), root.path());
+        environment.insert(QStringLiteral("IVOREL_FAULT_AT"), QString::number(at));
+        environment.insert(QStringLiteral("IVOREL_FAULT_MODE"), mode);
+        QProcess child;
+        child.setProcessEnvironment(environment);
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--fail"),
+                     asBundle ? QStringLiteral("bundle") : QStringLiteral("folder")});
+        QVERIFY(child.waitForFinished(60000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        const QByteArray told = child.readAllStandardOutput();
+        if (told == "undisturbed")
+            break;
+        QVERIFY2(told == "survived", told.constData());
+    }
+    QVERIFY2(at > 4, "hardly anything was disturbed");
+#endif
+}
+
+namespace {
+
+#ifdef IVOREL_FAULT_SHIM
+/// One save with a file call that fails: what became of it, in words; then, once the disk is well
+/// again, the save by the next tick.
+QByteArray saveOnFailingDisk(bool asBundle)
+{
+    const auto arm = reinterpret_cast<void (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_arm"));
+    const auto hasFired = reinterpret_cast<int (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_fired"));
+    if (!arm || !hasFired)
+        return "nothing makes calls fail";
+    const QString words = QStringLiteral("Words.");
+    Desk desk(asBundle);
+    desk.write(words);
+    const auto tick = [&desk] {
+        desk.saved.clear();
+        desk.failed.clear();
+        desk.autosave.saveNow();
+        QEventLoop loop;
+        QObject::connect(&desk.autosave, &app::AutosaveController::saved, &loop, &QEventLoop::quit);
+        QObject::connect(&desk.autosave, &app::AutosaveController::saveFailed, &loop,
+                         &QEventLoop::quit);
+        loop.exec();
+    };
+    arm();
+    tick();
+    const bool isDisturbed = hasFired() != 0;
+    qputenv("IVOREL_FAULT_AT", "0");
+    arm();
+    if (desk.saved.size() + desk.failed.size() != 1)
+        return "it did not tell how it ended";
+    if (desk.document().body() != words)
+        return "the words are not in the window any more";
+    if (!desk.failed.isEmpty()) {
+        if (!desk.project.isDirty())
+            return "clean after a failure";
+        if (desk.failed.first().first().toString().isEmpty())
+            return "no message";
+        tick();
+        if (desk.saved.isEmpty())
+            return "the next tick failed: " + desk.failed.first().first().toString().toUtf8();
+    }
+    if (desk.project.isDirty() || desk.bodyOnDisk() != words)
+        return "a false success";
+    return isDisturbed ? "survived" : "undisturbed";
+}
+#endif
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+#ifdef IVOREL_FAULT_SHIM
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--fail")) {
+        const QByteArray told = saveOnFailingDisk(arguments.value(2) == QLatin1String("bundle"));
+        return std::fwrite(told.constData(), 1, size_t(told.size()), stdout) == size_t(told.size())
+                   ? 0
+                   : 1;
+    }
+#endif
+    TestAutosave test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_autosave.moc"
