@@ -272,8 +272,17 @@ ContentId DocumentOperations::split(const ContentId &id, qsizetype position)
     const QString tail = document->body().mid(position);
     const MacroScope macro(m_workspace, tr("Split document"));
     m_workspace.push<core::SetDocumentBodyCommand>(*document, head);
-    return insert(document->documentKind(), document->parentId(), positionOf(*document) + 1,
-                  tr("%1 (continued)").arg(document->title()), tail);
+    const ContentId newId =
+        insert(document->documentKind(), document->parentId(), positionOf(*document) + 1,
+               tr("%1 (continued)").arg(document->title()), tail);
+    // Both halves are told by the same person and are at the same stage of work.
+    if (Document *second = find(newId)) {
+        if (!document->status().isEmpty())
+            m_workspace.push<core::SetDocumentStatusCommand>(*second, document->status());
+        if (!document->pointOfView().isEmpty())
+            m_workspace.push<core::SetDocumentPointOfViewCommand>(*second, document->pointOfView());
+    }
+    return newId;
 }
 
 } // namespace vl::app
