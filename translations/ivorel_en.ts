@@ -355,6 +355,10 @@
         <source>Find Previous</source>
         <translation>Find Previous</translation>
     </message>
+    <message>
+        <source>Recently &amp;Deleted…</source>
+        <translation>Recently &amp;Deleted…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -1757,6 +1761,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::DeletedStore</name>
+    <message>
+        <source>What was deleted could not be kept: %1</source>
+        <translation>What was deleted could not be kept: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::DocumentOperations</name>
     <message>
         <source>Add note</source>
@@ -2727,6 +2738,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Journal</name>
+    <message>
+        <source>What was not saved before the crash cannot be read: %1</source>
+        <translation>What was not saved before the crash cannot be read: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::MarkdownImport</name>
     <message>
         <source>Front Matter</source>
@@ -3217,6 +3235,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::RecentlyDeleted</name>
+    <message>
+        <source>Restore what was deleted</source>
+        <translation>Restore what was deleted</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ReckoningView</name>
     <message>
         <source>New reckoning</source>
@@ -3232,6 +3257,25 @@
     <message>
         <source>the merged file '%1' would not be valid</source>
         <translation>the merged file '%1' would not be valid</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Recovery</name>
+    <message>
+        <source>“%1”</source>
+        <translation>“%1”</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s)</source>
+        <translation><numerusform>%n change</numerusform><numerusform>%n changes</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation><numerusform>%1 and %n other</numerusform><numerusform>%1 and %n others</numerusform></translation>
+    </message>
+    <message>
+        <source>Restore unsaved work</source>
+        <translation>Restore unsaved work</translation>
     </message>
 </context>
 <context>
@@ -5531,7 +5575,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>Delete %n Document(s)</source>
-        <translation><numerusform>Delete %n Document</numerusform><numerusform>Delete %n Documents</numerusform></translation>
+        <translation>
+            <numerusform>Delete %n Document</numerusform>
+            <numerusform>Delete %n Documents</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6522,6 +6569,42 @@ What is said.
         <source>The document is restored.</source>
         <translation>The document is restored.</translation>
     </message>
+    <message>
+        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
+        <translation>Ivorel was cut off before all was saved. Unsaved work was found: %1.</translation>
+    </message>
+    <message>
+        <source>Compare and Restore…</source>
+        <translation>Compare and Restore…</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>The unsaved work is restored.</source>
+        <translation>The unsaved work is restored.</translation>
+    </message>
+    <message>
+        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
+        <translation>A project that was never saved was found after Ivorel was cut off: %1.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Discard the project that was never saved?</source>
+        <translation>Discard the project that was never saved?</translation>
+    </message>
+    <message>
+        <source>What was written in it is lost.</source>
+        <translation>What was written in it is lost.</translation>
+    </message>
+    <message>
+        <source>What was deleted is restored.</source>
+        <translation>What was deleted is restored.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ProjectTools</name>
@@ -6535,6 +6618,96 @@ What is said.
     <message>
         <source>Not found: %1</source>
         <translation>Not found: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecentlyDeletedDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <translation>Recently Deleted</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was deleted from this project in the last %n day(s).</source>
+        <translation><numerusform>Nothing was deleted from this project in the last %n day.</numerusform><numerusform>Nothing was deleted from this project in the last %n days.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>What was deleted in the last %n day(s) and is not there again. What lies below a document comes back with it.</source>
+        <translation><numerusform>What was deleted in the last %n day and is not there again. What lies below a document comes back with it.</numerusform><numerusform>What was deleted in the last %n days and is not there again. What lies below a document comes back with it.</numerusform></translation>
+    </message>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Recently deleted</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Deleted</translation>
+    </message>
+    <message>
+        <source>Text of what was deleted</source>
+        <translation>Text of what was deleted</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecoveryDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>Unsaved Work</source>
+        <translation>Unsaved Work</translation>
+    </message>
+    <message>
+        <source>Ivorel was cut off before this was saved. What you restore comes into the open project as one step that you can undo; lines that go are marked “−”, lines that come back “+”.</source>
+        <translation>Ivorel was cut off before this was saved. What you restore comes into the open project as one step that you can undo; lines that go are marked “−”, lines that come back “+”.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>&amp;Discard All</translation>
+    </message>
+    <message>
+        <source>Decide &amp;Later</source>
+        <translation>Decide &amp;Later</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Unsaved work</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>changed</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>deleted</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>%1; the project’s is newer</source>
+        <translation>%1; the project’s is newer</translation>
     </message>
 </context>
 <context>

@@ -355,6 +355,10 @@
         <source>Find Previous</source>
         <translation>Buscar anterior</translation>
     </message>
+    <message>
+        <source>Recently &amp;Deleted…</source>
+        <translation>&amp;Eliminado recientemente…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -1757,6 +1761,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::DeletedStore</name>
+    <message>
+        <source>What was deleted could not be kept: %1</source>
+        <translation>No se pudo conservar lo eliminado: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::DocumentOperations</name>
     <message>
         <source>Add note</source>
@@ -2727,6 +2738,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::Journal</name>
+    <message>
+        <source>What was not saved before the crash cannot be read: %1</source>
+        <translation>No se puede leer lo que quedó sin guardar antes del fallo: %1</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::MarkdownImport</name>
     <message>
         <source>Front Matter</source>
@@ -3217,6 +3235,13 @@
     </message>
 </context>
 <context>
+    <name>vl::app::RecentlyDeleted</name>
+    <message>
+        <source>Restore what was deleted</source>
+        <translation>Restaurar lo eliminado</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::ReckoningView</name>
     <message>
         <source>New reckoning</source>
@@ -3232,6 +3257,25 @@
     <message>
         <source>the merged file '%1' would not be valid</source>
         <translation>el archivo fusionado «%1» no sería válido</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::Recovery</name>
+    <message>
+        <source>“%1”</source>
+        <translation>«%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s)</source>
+        <translation><numerusform>%n cambio</numerusform><numerusform>%n cambios</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation><numerusform>%1 y %n más</numerusform><numerusform>%1 y %n más</numerusform></translation>
+    </message>
+    <message>
+        <source>Restore unsaved work</source>
+        <translation>Restaurar el trabajo sin guardar</translation>
     </message>
 </context>
 <context>
@@ -5531,7 +5575,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Delete %n Document(s)</source>
-        <translation><numerusform>Eliminar %n documento</numerusform><numerusform>Eliminar %n documentos</numerusform></translation>
+        <translation>
+            <numerusform>Eliminar %n documento</numerusform>
+            <numerusform>Eliminar %n documentos</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6522,6 +6569,42 @@ Lo que se dice.
         <source>The document is restored.</source>
         <translation>El documento se ha restaurado.</translation>
     </message>
+    <message>
+        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
+        <translation>Ivorel se interrumpió antes de guardarlo todo. Se encontró trabajo sin guardar: %1.</translation>
+    </message>
+    <message>
+        <source>Compare and Restore…</source>
+        <translation>Comparar y restaurar…</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>The unsaved work is restored.</source>
+        <translation>El trabajo sin guardar se ha restaurado.</translation>
+    </message>
+    <message>
+        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
+        <translation>Se encontró un proyecto nunca guardado tras la interrupción de Ivorel: %1.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Discard the project that was never saved?</source>
+        <translation>¿Descartar el proyecto que nunca se guardó?</translation>
+    </message>
+    <message>
+        <source>What was written in it is lost.</source>
+        <translation>Lo escrito en él se pierde.</translation>
+    </message>
+    <message>
+        <source>What was deleted is restored.</source>
+        <translation>Lo eliminado se ha restaurado.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ProjectTools</name>
@@ -6535,6 +6618,96 @@ Lo que se dice.
     <message>
         <source>Not found: %1</source>
         <translation>No se encuentra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecentlyDeletedDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <translation>Eliminado recientemente</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing was deleted from this project in the last %n day(s).</source>
+        <translation><numerusform>En el último día (%n) no se eliminó nada de este proyecto.</numerusform><numerusform>En los últimos %n días no se eliminó nada de este proyecto.</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>What was deleted in the last %n day(s) and is not there again. What lies below a document comes back with it.</source>
+        <translation><numerusform>Lo que se eliminó en el último día (%n) y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform><numerusform>Lo que se eliminó en los últimos %n días y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform></translation>
+    </message>
+    <message>
+        <source>Recently deleted</source>
+        <translation>Eliminado recientemente</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Deleted</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Text of what was deleted</source>
+        <translation>Texto de lo eliminado</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::RecoveryDialog</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Unsaved Work</source>
+        <translation>Trabajo sin guardar</translation>
+    </message>
+    <message>
+        <source>Ivorel was cut off before this was saved. What you restore comes into the open project as one step that you can undo; lines that go are marked “−”, lines that come back “+”.</source>
+        <translation>Ivorel se interrumpió antes de guardar esto. Lo que restaure entra en el proyecto abierto como un solo paso que puede deshacer; las líneas que desaparecen llevan «−» y las que vuelven, «+».</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>&amp;Descartar todo</translation>
+    </message>
+    <message>
+        <source>Decide &amp;Later</source>
+        <translation>Decidir &amp;más tarde</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Trabajo sin guardar</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>deleted</source>
+        <translation>eliminado</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nuevo</translation>
+    </message>
+    <message>
+        <source>%1; the project’s is newer</source>
+        <translation>%1; el del proyecto es más reciente</translation>
     </message>
 </context>
 <context>

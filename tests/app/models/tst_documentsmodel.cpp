@@ -262,11 +262,15 @@ void TestDocumentsModel::splitKeepsEveryWord()
     DocumentsModel model(desk.workspace);
     auto *document = desk.workspace.project().find<Document>(desk.ids.value(QStringLiteral("a")));
     document->setBody(QStringLiteral("One two.\nThree four."));
+    document->setStatus(QStringLiteral("Draft"));
+    document->setPointOfView(QStringLiteral("Mara"));
 
     const ContentId added = DocumentOperations(desk.workspace).split(document->id(), 9);
     const auto *tail = desk.workspace.project().find<Document>(added);
     QVERIFY(tail);
     QCOMPARE(document->body() + tail->body(), QStringLiteral("One two.\nThree four."));
+    QCOMPARE(tail->status(), QStringLiteral("Draft"));
+    QCOMPARE(tail->pointOfView(), QStringLiteral("Mara"));
     QCOMPARE(printed(model), QStringLiteral("A\n a\n a (continued)\n b\n"));
     desk.workspace.undo();
     QCOMPARE(document->body(), QStringLiteral("One two.\nThree four."));
