@@ -3267,11 +3267,17 @@
     </message>
     <message numerus="yes">
         <source>%n change(s)</source>
-        <translation><numerusform>%n change</numerusform><numerusform>%n changes</numerusform></translation>
+        <translation>
+            <numerusform>%n change</numerusform>
+            <numerusform>%n changes</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n other(s)</source>
-        <translation><numerusform>%1 and %n other</numerusform><numerusform>%1 and %n others</numerusform></translation>
+        <translation>
+            <numerusform>%1 and %n other</numerusform>
+            <numerusform>%1 and %n others</numerusform>
+        </translation>
     </message>
     <message>
         <source>Restore unsaved work</source>
@@ -5547,10 +5553,6 @@ What is said.
         <translation>&amp;Delete…</translation>
     </message>
     <message>
-        <source>Change Kind…</source>
-        <translation>Change Kind…</translation>
-    </message>
-    <message>
         <source>Prose</source>
         <translation>Prose</translation>
     </message>
@@ -5579,6 +5581,26 @@ What is said.
             <numerusform>Delete %n Document</numerusform>
             <numerusform>Delete %n Documents</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Task for Document</source>
+        <translation>Task for Document</translation>
+    </message>
+    <message>
+        <source>Task:</source>
+        <translation>Task:</translation>
+    </message>
+    <message>
+        <source>The task “%1” was added.</source>
+        <translation>The task “%1” was added.</translation>
+    </message>
+    <message>
+        <source>Change Kind</source>
+        <translation>Change Kind</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Kind:</translation>
     </message>
 </context>
 <context>
@@ -6445,10 +6467,6 @@ What is said.
         <source>Not possible at the moment</source>
         <translation>Not possible at the moment</translation>
     </message>
-    <message>
-        <source>Not part of this version</source>
-        <translation>Not part of this version</translation>
-    </message>
 </context>
 <context>
     <name>vl::desktop::PickDialog</name>
@@ -6632,11 +6650,17 @@ What is said.
     </message>
     <message numerus="yes">
         <source>Nothing was deleted from this project in the last %n day(s).</source>
-        <translation><numerusform>Nothing was deleted from this project in the last %n day.</numerusform><numerusform>Nothing was deleted from this project in the last %n days.</numerusform></translation>
+        <translation>
+            <numerusform>Nothing was deleted from this project in the last %n day.</numerusform>
+            <numerusform>Nothing was deleted from this project in the last %n days.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>What was deleted in the last %n day(s) and is not there again. What lies below a document comes back with it.</source>
-        <translation><numerusform>What was deleted in the last %n day and is not there again. What lies below a document comes back with it.</numerusform><numerusform>What was deleted in the last %n days and is not there again. What lies below a document comes back with it.</numerusform></translation>
+        <translation>
+            <numerusform>What was deleted in the last %n day and is not there again. What lies below a document comes back with it.</numerusform>
+            <numerusform>What was deleted in the last %n days and is not there again. What lies below a document comes back with it.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Recently deleted</source>
@@ -7150,10 +7174,6 @@ What is said.
     <message>
         <source>A manuscript that you wrote elsewhere.</source>
         <translation>A manuscript that you wrote elsewhere.</translation>
-    </message>
-    <message>
-        <source>Not part of this version.</source>
-        <translation>Not part of this version.</translation>
     </message>
     <message>
         <source>Not found: %1</source>

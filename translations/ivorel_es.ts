@@ -3267,11 +3267,17 @@
     </message>
     <message numerus="yes">
         <source>%n change(s)</source>
-        <translation><numerusform>%n cambio</numerusform><numerusform>%n cambios</numerusform></translation>
+        <translation>
+            <numerusform>%n cambio</numerusform>
+            <numerusform>%n cambios</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n other(s)</source>
-        <translation><numerusform>%1 y %n más</numerusform><numerusform>%1 y %n más</numerusform></translation>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
     </message>
     <message>
         <source>Restore unsaved work</source>
@@ -5547,10 +5553,6 @@ Lo que se dice.
         <translation>&amp;Eliminar…</translation>
     </message>
     <message>
-        <source>Change Kind…</source>
-        <translation>Cambiar el tipo…</translation>
-    </message>
-    <message>
         <source>Prose</source>
         <translation>Prosa</translation>
     </message>
@@ -5579,6 +5581,26 @@ Lo que se dice.
             <numerusform>Eliminar %n documento</numerusform>
             <numerusform>Eliminar %n documentos</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Task for Document</source>
+        <translation>Tarea para el documento</translation>
+    </message>
+    <message>
+        <source>Task:</source>
+        <translation>Tarea:</translation>
+    </message>
+    <message>
+        <source>The task “%1” was added.</source>
+        <translation>Se añadió la tarea «%1».</translation>
+    </message>
+    <message>
+        <source>Change Kind</source>
+        <translation>Cambiar el tipo</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Tipo:</translation>
     </message>
 </context>
 <context>
@@ -6445,10 +6467,6 @@ Lo que se dice.
         <source>Not possible at the moment</source>
         <translation>No es posible en este momento</translation>
     </message>
-    <message>
-        <source>Not part of this version</source>
-        <translation>No forma parte de esta versión</translation>
-    </message>
 </context>
 <context>
     <name>vl::desktop::PickDialog</name>
@@ -6632,11 +6650,17 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Nothing was deleted from this project in the last %n day(s).</source>
-        <translation><numerusform>En el último día (%n) no se eliminó nada de este proyecto.</numerusform><numerusform>En los últimos %n días no se eliminó nada de este proyecto.</numerusform></translation>
+        <translation>
+            <numerusform>En el último día (%n) no se eliminó nada de este proyecto.</numerusform>
+            <numerusform>En los últimos %n días no se eliminó nada de este proyecto.</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>What was deleted in the last %n day(s) and is not there again. What lies below a document comes back with it.</source>
-        <translation><numerusform>Lo que se eliminó en el último día (%n) y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform><numerusform>Lo que se eliminó en los últimos %n días y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform></translation>
+        <translation>
+            <numerusform>Lo que se eliminó en el último día (%n) y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform>
+            <numerusform>Lo que se eliminó en los últimos %n días y no ha vuelto. Lo que está debajo de un documento vuelve con él.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Recently deleted</source>
@@ -7150,10 +7174,6 @@ Lo que se dice.
     <message>
         <source>A manuscript that you wrote elsewhere.</source>
         <translation>Un manuscrito que escribió en otro sitio.</translation>
-    </message>
-    <message>
-        <source>Not part of this version.</source>
-        <translation>No forma parte de esta versión.</translation>
     </message>
     <message>
         <source>Not found: %1</source>
