@@ -50,6 +50,18 @@ public:
     ~Screen() { xcb_disconnect(m_connection); }
     Q_DISABLE_COPY_MOVE(Screen)
 
+    /// Waits until no window is left that could be taken for the one of the next run.
+    void awaitBare() const
+    {
+        QElapsedTimer waited;
+        waited.start();
+        while (hasPaintedWindow()) {
+            if (waited.elapsed() > longestMilliseconds)
+                qFatal("Another window is on the screen.");
+            QThread::msleep(5);
+        }
+    }
+
     bool hasPaintedWindow() const
     {
         const Reply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
@@ -121,12 +133,19 @@ double interfaceTime(qint64 process)
     return file.readAll().split(' ').constFirst().toDouble() / 1e6;
 }
 
-/// A program run in a home of its own, so that nothing of the user's is touched.
+/// A program run in a fresh home of its own: nothing of the user's is touched, and no run finds
+/// what another one left.
 class Run
 {
 public:
-    Run(const QString &home, const QString &program, const QStringList &arguments)
+    Run(const QString &program, const QStringList &arguments)
     {
+        const QString home = m_home.path();
+        QSettings settings(m_home.filePath(QStringLiteral(".config/Quessel Games/Ivorel.conf")),
+                           QSettings::NativeFormat);
+        settings.setValue(QStringLiteral("onboarding/welcomed"), QStringLiteral("true"));
+        settings.setValue(QStringLiteral("general/autoUpdateCheck"), QStringLiteral("false"));
+        settings.sync();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), home);
         environment.insert(QStringLiteral("TMPDIR"), home);
@@ -179,53 +198,80 @@ public:
     }
 
 private:
+    QTemporaryDir m_home;
     QProcess m_process;
     QElapsedTimer m_timer;
 };
+
+/// What the starts of one program took until the first painted window.
+struct Starts
+{
+    std::vector<double> wall;
+    std::vector<double> processor; ///< of all its threads
+
+    void add(const QString &program, const Screen &screen)
+    {
+        screen.awaitBare();
+        const Run run(program, {});
+        add(run, screen);
+    }
+    void add(const Run &run, const Screen &screen)
+    {
+        wall.push_back(run.firstPaint(screen));
+        processor.push_back(processorTime(run.id()));
+    }
+};
+
+void print(QTextStream &out, const QString &what, const Starts &starts, const Starts &least)
+{
+    const double wall = medianOf(starts.wall);
+    const double processor = medianOf(starts.processor);
+    out << what << wall << " ms (" << wall / medianOf(least.wall) << " times the bare one), "
+        << processor << " ms of processor time (" << processor / medianOf(least.processor)
+        << " times)\n";
+}
 
 } // namespace
 
 /// Prints how long the program takes from its start to the first painted window, beside the least
 /// program of its toolkit, in turns; how soon after that it is at hand with the project that the
-/// first argument names; and what it takes of the processor while nobody does anything.
+/// first argument names; and, without --starts-only, what it takes of the processor while nobody
+/// does anything.
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    const QTemporaryDir home;
-    QSettings settings(home.filePath(QStringLiteral(".config/Quessel Games/Ivorel.conf")),
-                       QSettings::NativeFormat);
-    settings.setValue(QStringLiteral("onboarding/welcomed"), QStringLiteral("true"));
-    settings.setValue(QStringLiteral("general/autoUpdateCheck"), QStringLiteral("false"));
-    settings.sync();
-
     const Screen screen;
     const QString bare = QStringLiteral(IVOREL_BARE);
     const QString program = QStringLiteral(IVOREL_PROGRAM);
-    const QStringList project = QCoreApplication::arguments().mid(1, 1);
-    std::vector<double> bareTimes;
-    std::vector<double> emptyTimes;
-    std::vector<double> projectTimes;
+    QStringList project = QCoreApplication::arguments().mid(1);
+    const bool isIdleMeasured = project.removeAll(QStringLiteral("--starts-only")) == 0;
+    Starts least;
+    Starts empty;
+    Starts withProject;
     std::vector<double> restTimes;
     for (int round = 0; round < rounds; ++round) {
-        bareTimes.push_back(Run(home.path(), bare, {}).firstPaint(screen));
-        emptyTimes.push_back(Run(home.path(), program, {}).firstPaint(screen));
+        least.add(bare, screen);
+        empty.add(program, screen);
         if (project.isEmpty())
             continue;
-        const Run run(home.path(), program, project);
-        projectTimes.push_back(run.firstPaint(screen));
-        restTimes.push_back(run.rest() - projectTimes.back());
+        screen.awaitBare();
+        const Run run(program, project);
+        withProject.add(run, screen);
+        restTimes.push_back(run.rest() - withProject.wall.back());
     }
     QTextStream out(stdout);
-    const double least = medianOf(bareTimes);
-    out << "bare window:        " << least << " ms\n";
-    out << "empty:              " << medianOf(emptyTimes) << " ms, " << medianOf(emptyTimes) / least
-        << " times as long\n";
-    if (!project.isEmpty())
-        out << "with the project:   " << medianOf(projectTimes) << " ms, at hand "
-            << medianOf(restTimes) << " ms later\n";
+    print(out, QStringLiteral("bare window:   "), least, least);
+    print(out, QStringLiteral("empty:         "), empty, least);
+    if (!project.isEmpty()) {
+        print(out, QStringLiteral("with project:  "), withProject, least);
+        out << "at hand with the project " << medianOf(restTimes) << " ms after that\n";
+    }
     out.flush();
+    if (!isIdleMeasured)
+        return 0;
 
-    const Run run(home.path(), program, project);
+    screen.awaitBare();
+    const Run run(program, project);
     run.firstPaint(screen);
     QThread::msleep(settleMilliseconds);
     const double before = processorTime(run.id());
