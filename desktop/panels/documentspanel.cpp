@@ -147,11 +147,10 @@ void DocumentsPanel::applyFilter(const QString &text)
         m_tree->expandAll();
     } else if (wasFiltered) {
         // All branches were opened to show what matched; now they stand as before.
-        m_tree->collapseAll();
-        m_tree->setUpdatesEnabled(false);
-        for (const ContentId &id : std::as_const(m_openBranches))
-            m_tree->setExpanded(m_model->indexOf(id), true);
-        m_tree->setUpdatesEnabled(true);
+        // The view lays its rows out once, when this is done.
+        const QList<ContentId> branches = m_model->branches();
+        for (const ContentId &id : branches)
+            m_tree->setExpanded(m_model->indexOf(id), m_openBranches.contains(id));
     }
     updateEmptyState();
     selectFromWorkspace();
