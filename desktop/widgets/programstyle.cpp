@@ -170,6 +170,22 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
     else if (control == CC_ScrollBar)
         drawOutline(painter, subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget),
                     option);
+    else if (control == CC_Slider)
+        drawSliderOutlines(*option, painter, widget);
+}
+
+void ProgramStyle::drawSliderOutlines(const QStyleOptionComplex &option, QPainter *painter,
+                                      const QWidget *widget) const
+{
+    const QRect handle = subControlRect(CC_Slider, &option, SC_SliderHandle, widget);
+    if (option.subControls.testFlag(SC_SliderGroove)) {
+        painter->save();
+        painter->setClipRegion(QRegion(option.rect) - handle); // it runs below the handle
+        drawOutline(painter, subControlRect(CC_Slider, &option, SC_SliderGroove, widget), &option);
+        painter->restore();
+    }
+    if (option.subControls.testFlag(SC_SliderHandle))
+        drawOutline(painter, handle, &option);
 }
 
 } // namespace vl::desktop

@@ -28,6 +28,8 @@ public:
                        const QWidget *widget) const override;
 
 private:
+    void drawSliderOutlines(const QStyleOptionComplex &option, QPainter *painter,
+                            const QWidget *widget) const;
     void drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter, const QWidget *widget) const;
 };
 
