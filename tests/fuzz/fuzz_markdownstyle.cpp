@@ -1,5 +1,6 @@
 #include "app/text/markdownstyle.h"
 
+#include <QtCore/QList>
 #include <QtCore/QString>
 
 #include <cstdlib>
