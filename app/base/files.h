@@ -119,6 +119,9 @@ public:
     Result<> open();
     /// Appends bytes.
     Result<> write(QByteArrayView bytes);
+    /// Brings all of it to the disk ahead of commit(), which then only has to rename; nothing can
+    /// be written after it.
+    Result<> sync() { return finishWriting(true); }
     /// Puts the written bytes in the file's place. After a failure of the very last step, the sync
     /// of the folder, the new file stands already; at any other failure the old one does.
     Result<> commit(Durability durability = Durability::Synced);

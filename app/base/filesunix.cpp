@@ -373,8 +373,11 @@ Result<> AtomicFile::moveIntoPlace()
 
 Result<> AtomicFile::commit(Durability durability)
 {
-    if (const Result<> written = finishWriting(durability == Durability::Synced); !written)
-        return written;
+    const bool isFinished = m_handle->file < 0 && !m_handle->temporary.isEmpty();
+    if (!isFinished) {
+        if (const Result<> written = finishWriting(durability == Durability::Synced); !written)
+            return written;
+    }
     if (const Result<> moved = moveIntoPlace(); !moved)
         return moved;
     if (durability == Durability::Synced && !syncFolderAt(folderOf(m_handle->target)))

@@ -322,6 +322,8 @@ Result<> Saving::putInPlace(const BundleSource &source, const FileIdentity &seen
     };
     if (const Result<> packed = source.packInto(sink, path); !packed)
         return packed;
+    if (const Result<> synced = file.sync(); !synced) // the slow part, before the last look
+        return synced;
     if (FileIdentity::of(path) != seen) {
         m_report.outcome = SaveOutcome::ChangedOutside;
         return failure(QString());
