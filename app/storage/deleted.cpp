@@ -10,6 +10,7 @@
 #include <QtCore/QUuid>
 
 #include <algorithm>
+#include <atomic>
 
 namespace vl::app {
 
@@ -44,9 +45,12 @@ Result<> DeletedStore::add(const DeletedStep &step) const
     QDateTime now = m_locations.now().toUTC();
     if (!now.isValid() || now.date().year() < 1970 || now.date().year() > 9999)
         now = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
-    const QString path =
-        QStringLiteral("%1/%2-%3.json")
-            .arg(m_folder, now.toString(timeFormat), QUuid::createUuid().toString(QUuid::Id128));
+    // The number keeps the order of what was deleted at one instant.
+    static std::atomic<quint32> count = 0;
+    const QString number = QStringLiteral("%1").arg(++count, 10, 10, QLatin1Char('0'));
+    const QString path = QStringLiteral("%1/%2-%3-%4.json")
+                             .arg(m_folder, now.toString(timeFormat), number,
+                                  QUuid::createUuid().toString(QUuid::Id128));
     return writeFile(path, QJsonDocument(json).toJson(QJsonDocument::Compact), {failed, failed},
                      Durability::Atomic);
 }
