@@ -1,6 +1,5 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -124,15 +123,6 @@ double processorTime(qint64 process)
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
 }
 
-/// The same of its first thread alone, the one that serves the user.
-double interfaceTime(qint64 process)
-{
-    QFile file(QStringLiteral("/proc/%1/schedstat").arg(process));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("the program has ended");
-    return file.readAll().split(' ').constFirst().toDouble() / 1e6;
-}
-
 /// A program run in a fresh home of its own: nothing of the user's is touched, and no run finds
 /// what another one left.
 class Run
@@ -177,17 +167,18 @@ public:
         }
         return double(m_timer.nsecsElapsed()) / 1e6;
     }
-    /// Milliseconds from the start until its interface thread begins to rest for a while.
+    /// Milliseconds from the start until the process begins to rest for a while, with all its
+    /// threads: while the project is read, the one of the interface waits.
     double rest() const
     {
         constexpr int restMilliseconds = 150;
         QElapsedTimer still;
         still.start();
-        double before = interfaceTime(id());
+        double before = processorTime(id());
         double last = double(m_timer.nsecsElapsed()) / 1e6;
         while (still.elapsed() < restMilliseconds && m_timer.elapsed() < longestMilliseconds) {
             QThread::msleep(2);
-            const double now = interfaceTime(id());
+            const double now = processorTime(id());
             if (now - before < 0.5)
                 continue; // a blinking caret is no work
             before = now;
