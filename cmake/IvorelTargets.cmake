@@ -19,7 +19,7 @@ endif()
 # Tests without DESKTOP share one precompiled header, so they all link the same libraries.
 function(ivorel_test name)
     cmake_parse_arguments(arg "DESKTOP" "" "SOURCES;LIBS" ${ARGN})
-    add_executable(${name} ${arg_SOURCES})
+    add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:ivorel_test_apart>)
     set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     if(arg_DESKTOP)
         target_link_libraries(${name} PRIVATE ivorel_desktop ivorel_test_support Qt6::Test ${arg_LIBS})
