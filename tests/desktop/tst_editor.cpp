@@ -8,7 +8,7 @@
 #include "desktop/editor/pagelayout.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
-#include "tests/support/fakeprompts.h"
+#include "tests/support/deskwindow.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QClipboard>
@@ -25,33 +25,20 @@ using core::Document;
 
 namespace {
 
-struct Window
+struct Window : test::DeskWindow
 {
-    QTemporaryDir dir;
-    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
-    test::FakePrompts prompts;
-    desktop::MainWindow window{settings, &prompts};
     desktop::EditorTextWidget *text = window.findChild<desktop::EditorTextWidget *>();
     desktop::FindStrip *strip = window.findChild<desktop::FindStrip *>();
 
     explicit Window(bool isTypographic = false)
     {
         settings.set(app::settings::editorSmartQuotes, isTypographic);
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qFatal("the window does not show");
-        window.activateWindow();
     }
-    app::Workspace &workspace() { return window.workspace(); }
     Document &add(const QString &body)
     {
-        const auto id = app::DocumentOperations(workspace()).add(core::DocumentKind::Prose, {});
-        auto *document = workspace().project().find<Document>(id);
-        document->setBody(body);
-        workspace().select(QList<core::ContentId>());
-        workspace().select(id);
+        Document &document = openDocument(body);
         text->setFocus();
-        return *document;
+        return document;
     }
     void type(const QString &keys) { QTest::keyClicks(text, keys); }
     void undo() { window.actions()["edit.undo"]->trigger(); }
@@ -84,7 +71,6 @@ class TestEditor : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void longLinesAreHeldInPieces();
     void wordsAreCountedLineByLine();
     void stylesFollowFences();
@@ -204,10 +190,10 @@ void TestEditor::burstsEndAfterManyWords()
 {
     Window desk;
     Document &document = desk.add(QString());
-    const auto steps = desk.workspace().history().undoCount();
+    const auto steps = desk.workspace.history().undoCount();
     for (int i = 0; i < 100; ++i)
         desk.type(QStringLiteral("word "));
-    QCOMPARE(desk.workspace().history().undoCount(), steps + 2);
+    QCOMPARE(desk.workspace.history().undoCount(), steps + 2);
     QCOMPARE(document.body(), QStringLiteral("word ").repeated(80));
     desk.undo();
     desk.undo();
@@ -223,15 +209,15 @@ void TestEditor::undoReachesOtherDocuments()
     Document &second = desk.add(QStringLiteral("Second."));
     desk.text->moveCursor(QTextCursor::End);
     desk.type(QStringLiteral(" Two."));
-    desk.workspace().select(first.id());
-    desk.workspace().select(second.id());
+    desk.workspace.select(first.id());
+    desk.workspace.select(second.id());
     desk.undo(); // what was typed in the second
     QCOMPARE(desk.text->text(), QStringLiteral("Second."));
     desk.undo(); // that it was added
     desk.undo(); // what was typed in the first, which shows
     QCOMPARE(first.body(), QStringLiteral("First."));
     QCOMPARE(desk.text->text(), QStringLiteral("First."));
-    QCOMPARE(desk.workspace().history().redoCount(), qsizetype(3));
+    QCOMPARE(desk.workspace.history().redoCount(), qsizetype(3));
     desk.redo();
     QCOMPARE(first.body(), QStringLiteral("First. One."));
     QCOMPARE(desk.text->text(), QStringLiteral("First. One."));
@@ -245,11 +231,10 @@ void TestEditor::removedDocumentsKeepWhatWasTyped()
     const core::ContentId id = document.id();
     desk.text->moveCursor(QTextCursor::End);
     desk.type(QStringLiteral(" Typed."));
-    app::DocumentOperations(desk.workspace()).remove({id});
-    QVERIFY(!desk.workspace().project().find<Document>(id));
+    app::DocumentOperations(desk.workspace).remove({id});
+    QVERIFY(!desk.workspace.project().find<Document>(id));
     desk.undo();
-    QCOMPARE(desk.workspace().project().find<Document>(id)->body(),
-             QStringLiteral("First. Typed."));
+    QCOMPARE(desk.workspace.project().find<Document>(id)->body(), QStringLiteral("First. Typed."));
 }
 
 void TestEditor::placesComeBack()
@@ -266,12 +251,12 @@ void TestEditor::placesComeBack()
         QVERIFY(scroll > 0);
         Document &second = desk.add(QStringLiteral("Another one."));
         desk.text->select(3, 3);
-        desk.workspace().select(first.id());
+        desk.workspace.select(first.id());
         QCOMPARE(desk.text->textCursor().selectedText().size(), qsizetype(3));
         QCOMPARE(desk.text->verticalScrollBar()->value(), scroll);
-        desk.workspace().select(second.id());
+        desk.workspace.select(second.id());
         QCOMPARE(desk.text->caret(), qsizetype(3));
-        desk.workspace().select(first.id());
+        desk.workspace.select(first.id());
         saved = dir.filePath(QStringLiteral("saved"));
         desk.prompts.path = saved;
         desk.window.actions()["file.saveAsFolder"]->trigger();
@@ -279,7 +264,7 @@ void TestEditor::placesComeBack()
     }
     Window desk;
     QVERIFY(desk.window.openProject(saved));
-    QCOMPARE(desk.workspace().selection(), QList<core::ContentId>{last});
+    QCOMPARE(desk.workspace.selection(), QList<core::ContentId>{last});
     QCOMPARE(desk.text->caret(), qsizetype(4003));
     QVERIFY(desk.text->viewport()->rect().contains(desk.text->cursorRect().center()));
 }
@@ -297,7 +282,7 @@ void TestEditor::pasteIsPlainAndItsOwnStep()
     desk.type(QStringLiteral("b"));
     desk.text->paste();
     desk.type(QStringLiteral("c"));
-    desk.workspace().flush();
+    desk.workspace.flush();
     QCOMPARE(document.body(), QStringLiteral("abRich\ntext\nherec"));
     desk.undo();
     desk.undo();
@@ -311,7 +296,7 @@ void TestEditor::pasteIsPlainAndItsOwnStep()
     desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
     desk.window.actions()["file.saveAsFolder"]->trigger();
     desk.text->paste();
-    desk.workspace().flush();
+    desk.workspace.flush();
     QVERIFY(document.body().contains(QStringLiteral("![](assets/picture.png)")));
     QVERIFY(QFile::exists(desk.prompts.path + QStringLiteral("/assets/picture.png")));
 }
@@ -343,7 +328,7 @@ void TestEditor::listsAndMarksByKey()
     desk.window.actions()["text.strong"]->trigger();
     QCOMPARE(desk.text->text(), QStringLiteral("- one\n  - two\n**three**"));
     desk.window.actions()["text.strong"]->trigger();
-    desk.workspace().flush();
+    desk.workspace.flush();
     QCOMPARE(document.body(), QStringLiteral("- one\n  - two\nthree"));
 }
 
@@ -367,12 +352,12 @@ void TestEditor::findsAndReplaces()
     QTest::keyClicks(desk.field(QStringLiteral("Replace with")), QStringLiteral("ebb"));
     QTest::keyClick(desk.field(QStringLiteral("Replace with")), Qt::Key_Return);
     QTRY_COMPARE(desk.count(), QStringLiteral("1 of 3"));
-    const auto steps = desk.workspace().history().undoCount();
+    const auto steps = desk.workspace.history().undoCount();
     for (QPushButton *button : desk.strip->findChildren<QPushButton *>())
         if (button->text().contains(QStringLiteral("A&ll")))
             button->click();
     QCOMPARE(document.body(), QStringLiteral("ebb and ebb.\n\nNo ebbs, ebb."));
-    QCOMPARE(desk.workspace().history().undoCount(), steps + 1);
+    QCOMPARE(desk.workspace.history().undoCount(), steps + 1);
     desk.undo();
     QCOMPARE(desk.text->text(), QStringLiteral("ebb and tide.\n\nNo tides, TIDE."));
     QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);
@@ -407,8 +392,8 @@ void TestEditor::distractionFreeGivesTheTextBack()
     QVERIFY(qAbs(desk.text->verticalScrollBar()->value() - scroll) < 30);
     QVERIFY(desk.text->text().contains(QStringLiteral("new")));
     action->trigger(); // a document that goes takes the mode along
-    desk.workspace().undo();
-    desk.workspace().undo();
+    desk.workspace.undo();
+    desk.workspace.undo();
     QVERIFY(!action->isChecked());
     QVERIFY(!action->isEnabled());
 }
@@ -509,14 +494,14 @@ void TestEditor::hostileTexts()
         QTest::keyClick(desk.text, Qt::Key_Backspace);
         QCoreApplication::processEvents();
     }
-    desk.workspace().flush();
+    desk.workspace.flush();
     QVERIFY(document.body() == u'!' + body + u'!');
     desk.undo();
     desk.undo();
     QVERIFY(document.body() == body);
     desk.text->selectAll();
     QTest::keyClick(desk.text, Qt::Key_Delete);
-    desk.workspace().flush();
+    desk.workspace.flush();
     QCOMPARE(document.body(), QString());
     desk.undo();
     QVERIFY(document.body() == body);

@@ -3,7 +3,7 @@
 #include "desktop/dialogs/findinproject.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
-#include "tests/support/fakeprompts.h"
+#include "tests/support/deskwindow.h"
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -19,29 +19,8 @@ using core::Document;
 
 namespace {
 
-struct Window
+struct Window : test::DeskWindow
 {
-    QTemporaryDir dir;
-    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
-    test::FakePrompts prompts;
-    desktop::MainWindow window{settings, &prompts};
-    app::Workspace &workspace = window.workspace();
-
-    Window()
-    {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        if (!QTest::qWaitForWindowActive(&window))
-            qFatal("the window does not show");
-    }
-    Document &addDocument(const QString &title, const QString &body)
-    {
-        const auto id = app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {});
-        auto &document = *workspace.project().find<Document>(id);
-        workspace.push<core::SetDocumentTitleCommand>(document, title);
-        workspace.push<core::SetDocumentBodyCommand>(document, body);
-        return document;
-    }
     void open() const { window.actions()["edit.findInProject"]->trigger(); }
     desktop::FindInProject *dialog() const { return window.findChild<desktop::FindInProject *>(); }
     QLineEdit *field(const char *name) const

@@ -6,7 +6,7 @@
 #include "desktop/shell/icons.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/notices.h"
-#include "tests/support/fakeprompts.h"
+#include "tests/support/deskwindow.h"
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
@@ -22,32 +22,12 @@ using core::DocumentKind;
 
 namespace {
 
-struct Window
+struct Window : test::DeskWindow
 {
-    QTemporaryDir dir;
-    /// What the program keeps beside its projects goes with the test.
-    bool isApart = qputenv("XDG_DATA_HOME", QFile::encodeName(dir.path()));
-    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
-    test::FakePrompts prompts;
-    desktop::MainWindow window{settings, &prompts};
     desktop::EditorTextWidget *text = window.findChild<desktop::EditorTextWidget *>();
     QTreeView *tree = window.findChild<QTreeView *>(QStringLiteral("documentsTree"));
 
-    Window()
-    {
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qFatal("the window does not show");
-    }
-    Document &add(const QString &body)
-    {
-        app::Workspace &workspace = window.workspace();
-        const auto id = app::DocumentOperations(workspace).add(DocumentKind::Prose, {});
-        auto *document = workspace.project().find<Document>(id);
-        document->setBody(body);
-        workspace.select(id);
-        return *document;
-    }
+    Document &add(const QString &body) { return openDocument(body); }
 };
 
 } // namespace

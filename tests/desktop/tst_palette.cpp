@@ -7,7 +7,7 @@
 #include "desktop/panels/editorpanel.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
-#include "tests/support/fakeprompts.h"
+#include "tests/support/deskwindow.h"
 
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -19,29 +19,8 @@ using core::ContentId;
 
 namespace {
 
-struct Window
+struct Window : test::DeskWindow
 {
-    QTemporaryDir dir;
-    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
-    test::FakePrompts prompts;
-    desktop::MainWindow window{settings, &prompts};
-    app::Workspace &workspace = window.workspace();
-
-    Window()
-    {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        if (!QTest::qWaitForWindowActive(&window))
-            qFatal("the window does not show");
-    }
-    ContentId addDocument(const QString &title, const QString &body)
-    {
-        const auto id = app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {});
-        auto &document = *workspace.project().find<core::Document>(id);
-        workspace.push<core::SetDocumentTitleCommand>(document, title);
-        workspace.push<core::SetDocumentBodyCommand>(document, body);
-        return id;
-    }
     ContentId addEntity(const QString &name)
     {
         const ContentId id = ContentId::create();
@@ -77,7 +56,7 @@ private Q_SLOTS:
 void TestPalette::enterOpensADocument()
 {
     Window desk;
-    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain"));
+    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain")).id();
     desk.addDocument(QStringLiteral("Calm"), QStringLiteral("sun"));
     QLineEdit *field = desk.openPalette();
     QVERIFY(field);
@@ -107,7 +86,7 @@ void TestPalette::choosingAnEntitySelectsIt()
 void TestPalette::actionsAreTriggered()
 {
     Window desk;
-    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), {});
+    const ContentId storm = desk.addDocument(QStringLiteral("Storm"), {}).id();
     const auto documents = desk.workspace.project().size();
     QLineEdit *field = desk.openPalette();
     QVERIFY(field);
@@ -152,7 +131,8 @@ void TestPalette::headingsLeadIntoTheText()
 {
     Window desk;
     desk.workspace.select(
-        desk.addDocument(QStringLiteral("Scene"), QStringLiteral("One\r\n\r\n# Two\r\nthree")));
+        desk.addDocument(QStringLiteral("Scene"), QStringLiteral("One\r\n\r\n# Two\r\nthree"))
+            .id());
     QLineEdit *field = desk.openPalette();
     QVERIFY(field);
     QTest::keyClicks(field, QStringLiteral("@two"));
@@ -186,7 +166,7 @@ void TestPalette::theArrowsGoRound()
 void TestPalette::escapeLeavesEverythingAsItIs()
 {
     Window desk;
-    const ContentId id = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain"));
+    const ContentId id = desk.addDocument(QStringLiteral("Storm"), QStringLiteral("rain")).id();
     desk.workspace.select(id);
     auto *text = desk.window.findChild<desktop::EditorTextWidget *>();
     text->setFocus();

@@ -27,11 +27,7 @@ struct Window
     test::FakePrompts prompts;
     desktop::MainWindow window{settings, &prompts};
 
-    Window()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        window.show();
-    }
+    Window() { window.show(); }
     template<typename Dialog>
     Dialog *open(const char *action)
     {
