@@ -49,7 +49,7 @@ struct CodexModel::Node
 };
 
 CodexModel::CodexModel(Workspace &workspace, QObject *parent)
-    : QAbstractItemModel(parent)
+    : ObjectTreeModel(parent)
     , m_workspace(workspace)
     , m_collator(sortingLocale())
     , m_root(std::make_unique<Node>())
@@ -476,6 +476,12 @@ QModelIndex CodexModel::firstMatch() const
         stack.insert(stack.end(), node->shown.rbegin(), node->shown.rend());
     }
     return {};
+}
+
+QList<ContentId> CodexModel::branches() const
+{
+    const std::vector<ContentId> ids = m_workspace.project().taxonomy().ids();
+    return {ids.begin(), ids.end()};
 }
 
 int CodexModel::countIn(const Node &node) const

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/id.h"
+#include "app/models/objecttreemodel.h"
 
-#include <QtCore/QAbstractItemModel>
 #include <QtCore/QCollator>
 #include <QtCore/QHash>
 #include <QtCore/QList>
@@ -26,7 +25,7 @@ class Workspace;
 /// and what of it passes a filter. It follows the history row by row; only a change of many rows
 /// at once is told as one new layout, in which every row stays the row it was. Its setters push
 /// commands.
-class CodexModel final : public QAbstractItemModel
+class CodexModel final : public ObjectTreeModel
 {
     Q_OBJECT
 
@@ -47,18 +46,16 @@ public:
     explicit CodexModel(Workspace &workspace, QObject *parent = nullptr);
     ~CodexModel() override;
 
-    /// The entity or category in a row, the null id for the invisible root.
-    core::ContentId idAt(const QModelIndex &index) const;
-    /// Its row, if it has one and passes the filter.
-    QModelIndex indexOf(const core::ContentId &id, int column = NameColumn) const;
+    core::ContentId idAt(const QModelIndex &index) const override;
+    QModelIndex indexOf(const core::ContentId &id, int column = NameColumn) const override;
     bool isCategory(const QModelIndex &index) const;
 
-    /// Shows only what holds all words of the text in its name, aliases or tags, without regard to
-    /// case and accents, and the categories above it. An empty text shows everything.
-    void setFilter(const QString &text);
-    bool isFiltered() const { return !m_terms.isEmpty(); }
-    /// The first row that passes the filter by itself, not by what lies below it.
-    QModelIndex firstMatch() const;
+    /// Names, aliases and tags are looked at.
+    void setFilter(const QString &text) override;
+    bool isFiltered() const override { return !m_terms.isEmpty(); }
+    QModelIndex firstMatch() const override;
+    /// The categories.
+    QList<core::ContentId> branches() const override;
     int entityCount() const { return m_entityCount; }
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;

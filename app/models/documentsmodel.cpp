@@ -47,7 +47,7 @@ struct DocumentsModel::Node
 };
 
 DocumentsModel::DocumentsModel(Workspace &workspace, QObject *parent)
-    : QAbstractItemModel(parent)
+    : ObjectTreeModel(parent)
     , m_workspace(workspace)
     , m_root(std::make_unique<Node>())
 {

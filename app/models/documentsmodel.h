@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/id.h"
+#include "app/models/objecttreemodel.h"
 
-#include <QtCore/QAbstractItemModel>
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtCore/QStringList>
@@ -23,7 +22,7 @@ class Workspace;
 /// row by row and never rebuilds itself for a change; only while it is filtered are rows that come,
 /// go or move told as one new layout, in which every row stays the row it was. Its setters push
 /// commands.
-class DocumentsModel final : public QAbstractItemModel
+class DocumentsModel final : public ObjectTreeModel
 {
     Q_OBJECT
 
@@ -46,19 +45,15 @@ public:
     explicit DocumentsModel(Workspace &workspace, QObject *parent = nullptr);
     ~DocumentsModel() override;
 
-    /// The document in a row, the null id for the invisible root; and its row, if it has one that
-    /// passes the filter.
-    core::ContentId idAt(const QModelIndex &index) const;
-    QModelIndex indexOf(const core::ContentId &id, int column = TitleColumn) const;
+    core::ContentId idAt(const QModelIndex &index) const override;
+    QModelIndex indexOf(const core::ContentId &id, int column = TitleColumn) const override;
 
-    /// Shows only what holds all words of the text in its title, without regard to case and
-    /// accents, and the documents above it. An empty text shows everything.
-    void setFilter(const QString &text);
-    bool isFiltered() const { return !m_terms.isEmpty(); }
-    /// The first row that passes the filter by itself, not by what lies below it.
-    QModelIndex firstMatch() const;
-    /// The documents with rows below them, in no order.
-    QList<core::ContentId> branches() const;
+    /// Titles are looked at.
+    void setFilter(const QString &text) override;
+    bool isFiltered() const override { return !m_terms.isEmpty(); }
+    QModelIndex firstMatch() const override;
+    /// The documents with others below them.
+    QList<core::ContentId> branches() const override;
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &index) const override;

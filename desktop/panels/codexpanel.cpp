@@ -12,24 +12,20 @@
 #include "desktop/dialogs/codexdialogs.h"
 #include "desktop/dialogs/fielddialog.h"
 #include "desktop/dialogs/pickdialog.h"
+#include "desktop/panels/objecttree.h"
 #include "desktop/panels/rowdelegate.h"
 #include "desktop/shell/icons.h"
 #include "desktop/shell/notices.h"
 #include "desktop/widgets/emptystate.h"
 #include "desktop/widgets/grid.h"
+#include "desktop/widgets/menubutton.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
 namespace vl::desktop {
@@ -77,23 +73,20 @@ CodexPanel::CodexPanel(const PanelContext &context, QWidget *parent)
     , m_context(context)
     , m_model(new CodexModel(context.workspace, this))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(grid(1), grid(1), grid(1), grid(1));
-    layout->setSpacing(grid(1));
+    buildTree();
     makeEntries();
-    buildToolBar(layout);
-    buildTree(layout);
     makeOtherEntries();
-    setFocusProxy(m_tree);
+    buildLayout();
 
-    connect(&m_context.workspace, &app::Workspace::selectionChanged, this,
-            &CodexPanel::selectFromWorkspace);
     connect(&m_context.workspace, &app::Workspace::changed, this, &CodexPanel::updateEntries);
-    connect(m_model, &QAbstractItemModel::modelReset, this, &CodexPanel::showProject);
-    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(m_model, signal, this, &CodexPanel::updateEmptyState);
-    connect(m_model, &QAbstractItemModel::layoutChanged, this, &CodexPanel::updateEmptyState);
-    showProject();
+    connect(m_model, &QAbstractItemModel::modelReset, this, &CodexPanel::updateEntries);
+    connect(m_tree, &ObjectTree::selectionShown, this, &CodexPanel::updateEntries);
+    connect(m_tree, &QWidget::customContextMenuRequested, this, &CodexPanel::showContextMenu);
+    connect(m_tree, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (!m_model->isCategory(index))
+            openInInspector();
+    });
+    updateEntries();
 }
 
 CodexPanel::~CodexPanel() = default;
@@ -163,170 +156,64 @@ void CodexPanel::makeOtherEntries()
         m_tree->addAction(entry.action);
 }
 
-QToolButton *CodexPanel::menuButton(const QString &text, const QString &name, QMenu *menu)
+void CodexPanel::buildTree()
 {
-    auto *button = new QToolButton(this);
-    button->setText(text);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
-    button->setMenu(menu);
-    return button;
-}
-
-void CodexPanel::buildToolBar(QVBoxLayout *layout)
-{
-    auto *bar = new QHBoxLayout;
-    bar->setSpacing(grid(1));
-    bar->addWidget(menuButton(tr("New ▾"), tr("Add to the codex"), m_newMenu));
-    bar->addWidget(
-        menuButton(tr("More ▾"), tr("Change what is selected in the codex"), m_moreMenu));
-    m_filter = new QLineEdit(this);
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter the codex by name, alias or tag"));
-    m_filter->setToolTip(m_filter->accessibleName());
-    m_filter->setClearButtonEnabled(true);
-    if (auto *clear = m_filter->findChild<QToolButton *>())
-        clear->setAccessibleName(tr("Clear the filter"));
-    m_filter->installEventFilter(this);
-    connect(m_filter, &QLineEdit::textChanged, this, &CodexPanel::applyFilter);
-    bar->addWidget(m_filter, 1);
-    layout->addLayout(bar);
-}
-
-void CodexPanel::buildTree(QVBoxLayout *layout)
-{
-    m_tree = new QTreeView(this);
+    m_tree = new ObjectTree(m_context.workspace, m_model, this);
     m_tree->setObjectName(QStringLiteral("codexTree"));
+    setFocusProxy(m_tree);
     m_tree->setAccessibleName(tr("Codex"));
     m_tree->setAccessibleDescription(
         tr("Your worldbuilding codex: categories and entities. Right-click for actions; F2 "
            "renames, Del deletes."));
     m_tree->setToolTip(m_tree->accessibleDescription());
-    m_tree->setModel(m_model);
     m_tree->setItemDelegate(new CodexDelegate(m_tree));
-    m_tree->setUniformRowHeights(true);
     m_tree->setHeaderHidden(true);
-    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed);
-    m_tree->setDragDropMode(QAbstractItemView::DragDrop);
-    m_tree->setDefaultDropAction(Qt::MoveAction);
     m_tree->setDragDropOverwriteMode(true); // rows stand by name: a drop is onto one, not between
-    m_tree->setDropIndicatorShown(true);
-    m_tree->setAutoExpandDelay(600);
-    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_tree->setTextElideMode(Qt::ElideMiddle);
-    m_tree->header()->setAccessibleName(tr("Columns"));
-    m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(CodexModel::NameColumn, QHeaderView::Stretch);
-    m_tree->header()->setSectionResizeMode(CodexModel::CountColumn, QHeaderView::ResizeToContents);
-    m_tree->header()->setResizeContentsPrecision(0); // the visible rows are enough to measure
     m_tree->installEventFilter(this);
+}
 
-    auto *empty = new EmptyState(
+void CodexPanel::buildLayout()
+{
+    auto *bar = new QHBoxLayout;
+    bar->setSpacing(grid(1));
+    bar->addWidget(makeMenuButton(tr("New ▾"), tr("Add to the codex"), m_newMenu, this));
+    bar->addWidget(
+        makeMenuButton(tr("More ▾"), tr("Change what is selected in the codex"), m_moreMenu, this));
+    bar->addWidget(m_tree->makeFilter(tr("Filter the codex by name, alias or tag"), this), 1);
+
+    auto *nothing = new EmptyState(
         tr("The people, places and things of your world stand here, sorted into categories."),
         tr("Add the First Category"), this);
-    connect(empty, &EmptyState::activated, this, &CodexPanel::addCategory);
+    connect(nothing, &EmptyState::activated, this, &CodexPanel::addCategory);
     auto *noMatch = new EmptyState(tr("Nothing in the codex has this name, alias or tag."),
                                    tr("Clear the Filter"), this);
-    connect(noMatch, &EmptyState::activated, m_filter, &QLineEdit::clear);
-    m_pages = new QStackedWidget(this);
-    m_pages->addWidget(m_tree);
-    m_pages->addWidget(empty);
-    m_pages->addWidget(noMatch);
-    layout->addWidget(m_pages);
 
-    connect(m_tree, &QWidget::customContextMenuRequested, this, &CodexPanel::showContextMenu);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &CodexPanel::selectInWorkspace);
-    // A click on what is selected here makes it the selection of the window again.
-    connect(m_tree, &QAbstractItemView::clicked, this, &CodexPanel::selectInWorkspace);
-    connect(m_tree, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
-        if (!m_model->isCategory(index))
-            openInInspector();
-    });
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(grid(1), grid(1), grid(1), grid(1));
+    layout->setSpacing(grid(1));
+    layout->addLayout(bar);
+    layout->addWidget(new TreePages(m_tree, nothing, noMatch, this));
 }
 
 bool CodexPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    if (watched != m_tree || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
-    const auto *key = static_cast<QKeyEvent *>(event);
-    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const int key = static_cast<QKeyEvent *>(event)->key();
     // Enter that ends the editing of a name comes by here, too.
-    if (watched == m_tree && isEnter && m_tree->hasFocus()) {
-        openInInspector();
-        return true;
-    }
-    if (watched == m_filter && key->key() == Qt::Key_Escape && !m_filter->text().isEmpty()) {
-        m_filter->clear();
-        return true;
-    }
-    if (watched == m_filter && (isEnter || key->key() == Qt::Key_Down)) {
-        const QModelIndex match = m_model->firstMatch();
-        if (match.isValid())
-            m_tree->setCurrentIndex(match);
-        m_tree->setFocus(Qt::OtherFocusReason);
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-// --- what is shown
-
-void CodexPanel::showProject()
-{
-    m_openBranches.clear();
-    if (!m_filter->text().isEmpty())
-        m_filter->clear();
-    m_tree->expandToDepth(0);
-    updateEmptyState();
-    updateEntries();
-}
-
-void CodexPanel::updateEmptyState()
-{
-    m_pages->setCurrentIndex(m_model->rowCount() > 0 ? 0 : m_model->isFiltered() ? 2 : 1);
-}
-
-void CodexPanel::applyFilter(const QString &text)
-{
-    if (!m_model->isFiltered())
-        noteBranches();
-    m_model->setFilter(text);
-    if (m_model->isFiltered())
-        m_tree->expandAll();
-    else
-        restoreBranches();
-}
-
-void CodexPanel::noteBranches()
-{
-    m_openBranches.clear();
-    const std::vector<ContentId> categories = m_context.workspace.project().taxonomy().ids();
-    for (const ContentId &id : categories)
-        if (m_tree->isExpanded(m_model->indexOf(id)))
-            m_openBranches.insert(id);
-}
-
-void CodexPanel::restoreBranches()
-{
-    const std::vector<ContentId> categories = m_context.workspace.project().taxonomy().ids();
-    for (const ContentId &id : categories)
-        m_tree->setExpanded(m_model->indexOf(id), m_openBranches.contains(id));
-    selectFromWorkspace();
-    if (m_tree->currentIndex().isValid())
-        m_tree->scrollTo(m_tree->currentIndex());
+    if ((key != Qt::Key_Return && key != Qt::Key_Enter) || !m_tree->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    openInInspector();
+    return true;
 }
 
 void CodexPanel::updateEntries()
 {
     const CodexOperations codex = operations();
-    const Ids ids = selectedIds();
+    const Ids ids = m_tree->selectedIds();
     const auto entities = codex.entitiesOf(ids).size();
     const auto categories = codex.categoriesOf(ids).size();
-    const bool hasCategory = !codex.categoryAt(currentId()).isNull();
+    const bool hasCategory = !codex.categoryAt(m_tree->currentId()).isNull();
     const bool hasTemplates = !m_context.workspace.project().entityTemplates().isEmpty();
     for (const Entry &entry : m_entries) {
         bool isOfUse = true;
@@ -381,19 +268,19 @@ void CodexPanel::showContextMenu(const QPoint &position)
 
 void CodexPanel::addCategory()
 {
-    edit(operations().addCategory({}));
+    m_tree->rename(operations().addCategory({}));
 }
 
 void CodexPanel::addSubcategory()
 {
     CodexOperations codex = operations();
-    edit(codex.addCategory(codex.categoryAt(currentId())));
+    m_tree->rename(codex.addCategory(codex.categoryAt(m_tree->currentId())));
 }
 
 void CodexPanel::addEntity()
 {
     CodexOperations codex = operations();
-    edit(codex.addEntity(codex.categoryAt(currentId())));
+    m_tree->rename(codex.addEntity(codex.categoryAt(m_tree->currentId())));
 }
 
 void CodexPanel::addFromTemplate()
@@ -404,14 +291,14 @@ void CodexPanel::addFromTemplate()
     const int chosen = PickDialog::pick(tr("Entity from Template"), tr("Template:"), names,
                                         tr("Add Entity"), window());
     CodexOperations codex = operations();
-    const ContentId added = codex.addFromTemplate(chosen, codex.categoryAt(currentId()));
+    const ContentId added = codex.addFromTemplate(chosen, codex.categoryAt(m_tree->currentId()));
     if (!added.isNull())
-        edit(added);
+        m_tree->rename(added);
 }
 
 void CodexPanel::addField()
 {
-    const ContentId category = operations().categoryAt(currentId());
+    const ContentId category = operations().categoryAt(m_tree->currentId());
     const core::Category *found = m_context.workspace.project().taxonomy().find(category);
     if (!found)
         return;
@@ -423,7 +310,7 @@ void CodexPanel::addField()
 
 void CodexPanel::addTask()
 {
-    const Ids ids = operations().entitiesOf(selectedIds());
+    const Ids ids = operations().entitiesOf(m_tree->selectedIds());
     if (ids.isEmpty())
         return;
     const QString title = m_context.prompts.askText(tr("Task for Entity"), tr("Task:"), QString())
@@ -437,17 +324,17 @@ void CodexPanel::addTask()
 
 void CodexPanel::renameCurrent()
 {
-    edit(currentId());
+    m_tree->rename(m_tree->currentId());
 }
 
 void CodexPanel::duplicate()
 {
-    reveal(operations().duplicate(selectedIds()));
+    reveal(operations().duplicate(m_tree->selectedIds()));
 }
 
 void CodexPanel::deleteSelected()
 {
-    const Ids ids = selectedIds();
+    const Ids ids = m_tree->selectedIds();
     CodexOperations codex = operations();
     if (ids.isEmpty()
         || !m_context.prompts.confirm(codex.removalQuestion(ids), codex.removalDetail(ids),
@@ -459,12 +346,12 @@ void CodexPanel::deleteSelected()
 
 void CodexPanel::togglePin()
 {
-    operations().togglePin(selectedIds());
+    operations().togglePin(m_tree->selectedIds());
 }
 
 void CodexPanel::editTags()
 {
-    const Ids ids = selectedIds();
+    const Ids ids = m_tree->selectedIds();
     const core::StringSet before = operations().commonTags(ids);
     const QString label = ids.size() > 1 ? tr("Tags that all of them have, separated by commas:")
                                          : tr("Tags, separated by commas:");
@@ -481,7 +368,7 @@ void CodexPanel::editTags()
 
 void CodexPanel::saveAsTemplate()
 {
-    const auto *entity = m_context.workspace.project().find<core::Entity>(currentId());
+    const auto *entity = m_context.workspace.project().find<core::Entity>(m_tree->currentId());
     if (!entity)
         return;
     const QString name =
@@ -490,7 +377,7 @@ void CodexPanel::saveAsTemplate()
             .value_or(QString());
     if (name.simplified().isEmpty())
         return;
-    operations().saveAsTemplate(currentId(), name);
+    operations().saveAsTemplate(m_tree->currentId(), name);
     m_context.notices.offerUndo(tr("The template “%1” was saved.").arg(app::rowText(name)));
 }
 
@@ -503,7 +390,7 @@ void CodexPanel::manageTemplates()
 
 void CodexPanel::mergeInto()
 {
-    const Ids ids = operations().entitiesOf(selectedIds());
+    const Ids ids = operations().entitiesOf(m_tree->selectedIds());
     if (ids.isEmpty())
         return;
     const core::Project &project = m_context.workspace.project();
@@ -537,7 +424,7 @@ void CodexPanel::mergeInto()
 void CodexPanel::split()
 {
     const core::Project &project = m_context.workspace.project();
-    const auto *entity = project.find<core::Entity>(currentId());
+    const auto *entity = project.find<core::Entity>(m_tree->currentId());
     if (!entity)
         return;
     QList<std::pair<QString, QString>> values;
@@ -563,39 +450,25 @@ void CodexPanel::split()
 
 void CodexPanel::cut()
 {
-    QApplication::clipboard()->setMimeData(operations().mimeData(selectedIds(), true));
+    QApplication::clipboard()->setMimeData(operations().mimeData(m_tree->selectedIds(), true));
 }
 
 void CodexPanel::copy()
 {
-    QApplication::clipboard()->setMimeData(operations().mimeData(selectedIds()));
+    QApplication::clipboard()->setMimeData(operations().mimeData(m_tree->selectedIds()));
 }
 
 void CodexPanel::paste()
 {
     CodexOperations codex = operations();
-    reveal(codex.paste(QApplication::clipboard()->mimeData(), codex.categoryAt(currentId())));
+    reveal(
+        codex.paste(QApplication::clipboard()->mimeData(), codex.categoryAt(m_tree->currentId())));
 }
 
 void CodexPanel::openInInspector()
 {
-    selectInWorkspace();
+    m_tree->selectInWorkspace();
     m_context.workspace.inspect();
-}
-
-// --- selection
-
-void CodexPanel::edit(const ContentId &id)
-{
-    if (!m_model->indexOf(id).isValid())
-        m_filter->clear();
-    const QModelIndex index = m_model->indexOf(id);
-    if (!index.isValid())
-        return;
-    m_tree->setCurrentIndex(index);
-    m_tree->scrollTo(index);
-    m_tree->setFocus(Qt::OtherFocusReason);
-    m_tree->edit(index);
 }
 
 void CodexPanel::reveal(const Ids &ids)
@@ -603,60 +476,7 @@ void CodexPanel::reveal(const Ids &ids)
     if (ids.isEmpty())
         return;
     m_context.workspace.select(ids);
-    selectFromWorkspace();
-}
-
-CodexPanel::Ids CodexPanel::selectedIds() const
-{
-    Ids ids;
-    const QModelIndexList rows = m_tree->selectionModel()->selectedRows();
-    ids.reserve(rows.size());
-    for (const QModelIndex &row : rows)
-        ids.append(m_model->idAt(row));
-    return ids;
-}
-
-ContentId CodexPanel::currentId() const
-{
-    return m_model->idAt(m_tree->currentIndex());
-}
-
-void CodexPanel::selectInWorkspace()
-{
-    updateEntries();
-    if (m_isFollowing)
-        return;
-    const Ids ids = selectedIds();
-    if (ids.isEmpty())
-        return;
-    m_isFollowing = true;
-    m_context.workspace.select(ids);
-    m_isFollowing = false;
-}
-
-void CodexPanel::selectFromWorkspace()
-{
-    if (m_isFollowing)
-        return;
-    QItemSelection selection;
-    QModelIndex first;
-    for (const ContentId &id : m_context.workspace.selection()) {
-        const QModelIndex index = m_model->indexOf(id);
-        if (!index.isValid())
-            continue;
-        selection.select(index, index);
-        if (!first.isValid())
-            first = index;
-    }
-    if (!first.isValid())
-        return;
-    m_isFollowing = true;
-    m_tree->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-    m_tree->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect
-                                                    | QItemSelectionModel::Rows);
-    m_tree->scrollTo(first);
-    m_isFollowing = false;
-    updateEntries();
+    m_tree->followWorkspace();
 }
 
 } // namespace vl::desktop

@@ -4,18 +4,12 @@
 #include "desktop/panels/panelcontext.h"
 
 #include <QtCore/QList>
-#include <QtCore/QSet>
 #include <QtWidgets/QWidget>
 
 #include <vector>
 
 class QAction;
-class QLineEdit;
 class QMenu;
-class QStackedWidget;
-class QToolButton;
-class QTreeView;
-class QVBoxLayout;
 
 namespace vl::app {
 class CodexModel;
@@ -23,6 +17,8 @@ class CodexOperations;
 } // namespace vl::app
 
 namespace vl::desktop {
+
+class ObjectTree;
 
 /// The codex: the categories of the invented world and the entities in them.
 class CodexPanel final : public QWidget
@@ -62,17 +58,10 @@ private:
     void makeOtherEntries();
     QAction *addEntry(const QString &text, Needs needs, void (CodexPanel::*slot)(),
                       const QKeySequence &keys = {});
-    void buildToolBar(QVBoxLayout *layout);
-    QToolButton *menuButton(const QString &text, const QString &name, QMenu *menu);
-    void buildTree(QVBoxLayout *layout);
+    void buildTree();
+    void buildLayout();
     void updateEntries();
-    void updateEmptyState();
-    void showProject();
     void showContextMenu(const QPoint &position);
-
-    void applyFilter(const QString &text);
-    void restoreBranches();
-    void noteBranches();
 
     void addCategory();
     void addSubcategory();
@@ -95,25 +84,16 @@ private:
     void openInInspector();
     void nothing() {}
 
-    void edit(const core::ContentId &id);
     void reveal(const Ids &ids);
-    void selectFromWorkspace();
-    void selectInWorkspace();
-    Ids selectedIds() const;
-    core::ContentId currentId() const;
     app::CodexOperations operations() const;
 
     PanelContext m_context;
     app::CodexModel *m_model;
-    QLineEdit *m_filter = nullptr;
-    QTreeView *m_tree = nullptr;
-    QStackedWidget *m_pages = nullptr;
+    ObjectTree *m_tree = nullptr;
     QMenu *m_newMenu = nullptr;
     QMenu *m_moreMenu = nullptr;
     std::vector<Entry> m_entries;
     QList<QAction *> m_clipboardActions;
-    QSet<core::ContentId> m_openBranches; ///< as they were before the filter opened them all
-    bool m_isFollowing = false; ///< while one side's selection is carried over to the other
 };
 
 } // namespace vl::desktop

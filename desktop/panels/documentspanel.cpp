@@ -7,17 +7,15 @@
 #include "app/models/prompts.h"
 #include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
+#include "desktop/panels/objecttree.h"
 #include "desktop/panels/rowdelegate.h"
 #include "desktop/shell/notices.h"
 #include "desktop/widgets/emptystate.h"
+#include "desktop/widgets/grid.h"
+#include "desktop/widgets/menubutton.h"
 
-#include <QtGui/QKeyEvent>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
 namespace vl::desktop {
@@ -38,140 +36,54 @@ DocumentsPanel::DocumentsPanel(const PanelContext &context, QWidget *parent)
     , m_context(context)
     , m_model(new DocumentsModel(context.workspace, this))
 {
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(4, 4, 4, 4);
-    layout->setSpacing(4);
-    buildToolBar(layout);
-    buildTree(layout);
+    buildTree();
+    buildLayout();
     bindActions();
-
-    connect(&m_context.workspace, &app::Workspace::selectionChanged, this,
-            &DocumentsPanel::selectFromWorkspace);
+    connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
+    connect(m_tree, &ObjectTree::selectionShown, this, &DocumentsPanel::updateActions);
     connect(m_model, &QAbstractItemModel::modelReset, this, &DocumentsPanel::showProject);
-    connect(m_model, &QAbstractItemModel::rowsInserted, this, &DocumentsPanel::updateEmptyState);
-    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &DocumentsPanel::updateEmptyState);
-    updateEmptyState();
     updateActions();
 }
 
 DocumentsPanel::~DocumentsPanel() = default;
 
-void DocumentsPanel::buildToolBar(QLayout *layout)
+void DocumentsPanel::buildTree()
 {
-    auto *bar = new QHBoxLayout;
-    bar->setSpacing(4);
-
-    auto *add = new QToolButton(this);
-    add->setText(tr("New ▾"));
-    add->setAccessibleName(tr("New document or note"));
-    add->setToolTip(tr("Add a document or a note behind the selected one."));
-    add->setPopupMode(QToolButton::InstantPopup);
-    add->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
-    auto *menu = new QMenu(add);
-    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote", "doc.addTask"})
-        menu->addAction(m_context.actions[id]);
-    add->setMenu(menu);
-    bar->addWidget(add);
-
-    m_filter = new QLineEdit(this);
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter the documents by title"));
-    m_filter->setClearButtonEnabled(true);
-    if (auto *clear = m_filter->findChild<QToolButton *>())
-        clear->setAccessibleName(tr("Clear the filter"));
-    m_filter->installEventFilter(this);
-    connect(m_filter, &QLineEdit::textChanged, this, &DocumentsPanel::applyFilter);
-    bar->addWidget(m_filter, 1);
-    static_cast<QVBoxLayout *>(layout)->addLayout(bar);
-}
-
-void DocumentsPanel::buildTree(QLayout *layout)
-{
-    m_tree = new QTreeView(this);
+    m_tree = new ObjectTree(m_context.workspace, m_model, this);
     m_tree->setObjectName(QStringLiteral("documentsTree"));
     setFocusProxy(m_tree);
     m_tree->setAccessibleName(tr("Documents"));
     m_tree->setToolTip(tr("The manuscript: documents and notes. Drag to reorder or drop onto "
                           "another to nest; right-click for actions; Ins adds, F2 renames, Del "
                           "deletes."));
-    m_tree->setModel(m_model);
     auto *delegate = new RowDelegate(m_tree);
     delegate->setDimmedRole(DocumentsModel::IsNoteRole);
     m_tree->setItemDelegate(delegate);
-    m_tree->setUniformRowHeights(true);
-    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed);
-    m_tree->setDragDropMode(QAbstractItemView::DragDrop);
-    m_tree->setDefaultDropAction(Qt::MoveAction);
-    m_tree->setDropIndicatorShown(true);
-    m_tree->setAutoExpandDelay(600);
-    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_tree->setTextElideMode(Qt::ElideMiddle);
     m_tree->setExpandsOnDoubleClick(false);
-    m_tree->header()->setAccessibleName(tr("Columns"));
-    m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(DocumentsModel::TitleColumn, QHeaderView::Stretch);
-    m_tree->header()->setSectionResizeMode(DocumentsModel::WordsColumn,
-                                           QHeaderView::ResizeToContents);
-    m_tree->header()->setSectionResizeMode(DocumentsModel::StatusColumn,
-                                           QHeaderView::ResizeToContents);
-    m_tree->header()->setResizeContentsPrecision(0); // the visible rows are enough to measure
-
-    m_pages = new QStackedWidget(this);
-    m_pages->addWidget(m_tree);
-    auto *empty = new EmptyState(tr("The chapters and scenes of your manuscript stand here."),
-                                 tr("Write the First Document"), this);
-    connect(empty, &EmptyState::activated, this, &DocumentsPanel::addDocument);
-    m_pages->addWidget(empty);
-    layout->addWidget(m_pages);
-
-    connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &DocumentsPanel::selectInWorkspace);
-    // A click on what is selected here makes it the selection of the window again.
-    connect(m_tree, &QAbstractItemView::clicked, this, &DocumentsPanel::selectInWorkspace);
 }
 
-void DocumentsPanel::applyFilter(const QString &text)
+void DocumentsPanel::buildLayout()
 {
-    if (!m_model->isFiltered()) {
-        m_openBranches.clear();
-        const QList<ContentId> branches = m_model->branches();
-        for (const ContentId &id : branches)
-            if (m_tree->isExpanded(m_model->indexOf(id)))
-                m_openBranches.insert(id);
-    }
-    const bool wasFiltered = m_model->isFiltered();
-    m_model->setFilter(text);
-    if (m_model->isFiltered()) {
-        m_tree->expandAll();
-    } else if (wasFiltered) {
-        // All branches were opened to show what matched; now they stand as before.
-        // The view lays its rows out once, when this is done.
-        const QList<ContentId> branches = m_model->branches();
-        for (const ContentId &id : branches)
-            m_tree->setExpanded(m_model->indexOf(id), m_openBranches.contains(id));
-    }
-    updateEmptyState();
-    selectFromWorkspace();
-}
+    auto *menu = new QMenu(this);
+    for (const char *id : {"doc.add", "doc.addInside", "doc.addNote", "doc.addTask"})
+        menu->addAction(m_context.actions[id]);
+    QToolButton *add = makeMenuButton(tr("New ▾"), tr("New document or note"), menu, this);
+    add->setToolTip(tr("Add a document or a note behind the selected one."));
+    auto *bar = new QHBoxLayout;
+    bar->setSpacing(grid(1));
+    bar->addWidget(add);
+    bar->addWidget(m_tree->makeFilter(tr("Filter the documents by title"), this), 1);
 
-bool DocumentsPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_filter || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (key == Qt::Key_Escape && !m_filter->text().isEmpty()) {
-        m_filter->clear();
-        return true;
-    }
-    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Down)
-        return QWidget::eventFilter(watched, event);
-    if (const QModelIndex first = m_model->firstMatch(); first.isValid()) {
-        m_tree->setFocus(Qt::OtherFocusReason);
-        m_tree->setCurrentIndex(first);
-    }
-    return true;
+    auto *nothing = new EmptyState(tr("The chapters and scenes of your manuscript stand here."),
+                                   tr("Write the First Document"), this);
+    connect(nothing, &EmptyState::activated, this, &DocumentsPanel::addDocument);
+    auto *noMatch = new EmptyState(tr("No document has this title."), tr("Clear the Filter"), this);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(grid(1), grid(1), grid(1), grid(1));
+    layout->setSpacing(grid(1));
+    layout->addLayout(bar);
+    layout->addWidget(new TreePages(m_tree, nothing, noMatch, this));
 }
 
 void DocumentsPanel::resizeEvent(QResizeEvent *event)
@@ -185,9 +97,6 @@ void DocumentsPanel::resizeEvent(QResizeEvent *event)
 
 void DocumentsPanel::showProject()
 {
-    updateEmptyState();
-    m_filter->clear();
-    m_tree->expandToDepth(0);
     if (!m_context.workspace.selection().isEmpty())
         return; // the one written last
     // Something to read is a better first sight than an empty editor.
@@ -198,11 +107,6 @@ void DocumentsPanel::showProject()
             break;
         }
     }
-}
-
-void DocumentsPanel::updateEmptyState()
-{
-    m_pages->setCurrentIndex(m_model->rowCount() > 0 || m_model->isFiltered() ? 0 : 1);
 }
 
 void DocumentsPanel::bindActions()
@@ -217,10 +121,10 @@ void DocumentsPanel::bindActions()
     const auto bindMove = [&](const char *id,
                               void (DocumentOperations::*move)(const QList<ContentId> &)) {
         actions.bind(id, this, [this, move] {
-            const QList<ContentId> ids = selectedIds();
+            const QList<ContentId> ids = m_tree->selectedIds();
             (DocumentOperations(m_context.workspace).*move)(ids);
             m_context.workspace.select(ids);
-            selectFromWorkspace();
+            m_tree->followWorkspace();
         });
     };
     bindMove("doc.moveUp", &DocumentOperations::moveUp);
@@ -241,7 +145,7 @@ void DocumentsPanel::bindActions()
 
 void DocumentsPanel::updateActions()
 {
-    const bool hasSelection = !selectedIds().isEmpty();
+    const bool hasSelection = !m_tree->selectedIds().isEmpty();
     for (const char *id : {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote",
                            "doc.addInside", "doc.addTask", "doc.changeKind"})
         m_context.actions[id]->setEnabled(hasSelection);
@@ -253,14 +157,14 @@ void DocumentsPanel::showContextMenu(const QPoint &position)
     for (const char *id : {"doc.add", "doc.addInside", "doc.addNote", "doc.addTask"})
         menu.addAction(m_context.actions[id]);
     menu.addSeparator();
-    const ContentId current = currentId();
+    const ContentId current = m_tree->currentId();
     QAction *rename =
-        menu.addAction(tr("&Rename"), this, [this, current] { this->rename(current); });
+        menu.addAction(tr("&Rename"), this, [this, current] { m_tree->rename(current); });
     QAction *remove = menu.addAction(tr("&Delete…"), this, &DocumentsPanel::removeSelected);
     rename->setShortcut(Qt::Key_F2);
     remove->setShortcut(QKeySequence::Delete);
     rename->setEnabled(!current.isNull());
-    remove->setEnabled(!selectedIds().isEmpty());
+    remove->setEnabled(!m_tree->selectedIds().isEmpty());
     menu.addSeparator();
     for (const char *id : {"doc.changeKind", "doc.unsupportedClaims", "doc.versionHistory"})
         menu.addAction(m_context.actions[id]);
@@ -272,7 +176,7 @@ void DocumentsPanel::showContextMenu(const QPoint &position)
 
 void DocumentsPanel::addTask()
 {
-    const QList<ContentId> ids = selectedIds();
+    const QList<ContentId> ids = m_tree->selectedIds();
     if (ids.isEmpty())
         return;
     const QString title = m_context.prompts.askText(tr("Task for Document"), tr("Task:"), QString())
@@ -297,39 +201,31 @@ void DocumentsPanel::askKind()
     const qsizetype chosen =
         texts.indexOf(m_context.prompts.chooseOne(tr("Change Kind"), tr("Kind:"), texts));
     if (chosen >= 0)
-        DocumentOperations(m_context.workspace).setKind(selectedIds(), kinds[chosen].second);
+        DocumentOperations(m_context.workspace)
+            .setKind(m_tree->selectedIds(), kinds[chosen].second);
 }
 
 void DocumentsPanel::addDocument()
 {
-    rename(DocumentOperations(m_context.workspace).add(core::DocumentKind::Prose, currentId()));
+    m_tree->rename(DocumentOperations(m_context.workspace)
+                       .add(core::DocumentKind::Prose, m_tree->currentId()));
 }
 
 void DocumentsPanel::addNote()
 {
-    rename(DocumentOperations(m_context.workspace).add(core::DocumentKind::Note, currentId()));
+    m_tree->rename(
+        DocumentOperations(m_context.workspace).add(core::DocumentKind::Note, m_tree->currentId()));
 }
 
 void DocumentsPanel::addInside()
 {
-    rename(
-        DocumentOperations(m_context.workspace).addChild(core::DocumentKind::Prose, currentId()));
-}
-
-void DocumentsPanel::rename(const ContentId &id)
-{
-    m_filter->clear();
-    const QModelIndex index = m_model->indexOf(id);
-    if (!index.isValid())
-        return;
-    m_tree->setCurrentIndex(index);
-    m_tree->scrollTo(index);
-    m_tree->edit(index);
+    m_tree->rename(DocumentOperations(m_context.workspace)
+                       .addChild(core::DocumentKind::Prose, m_tree->currentId()));
 }
 
 void DocumentsPanel::removeSelected()
 {
-    const QList<ContentId> ids = selectedIds();
+    const QList<ContentId> ids = m_tree->selectedIds();
     if (ids.isEmpty())
         return;
     DocumentOperations operations(m_context.workspace);
@@ -340,58 +236,6 @@ void DocumentsPanel::removeSelected()
         return;
     operations.remove(ids);
     m_context.notices.offerUndo(tr("Deleted %n document(s).", nullptr, count));
-}
-
-QList<ContentId> DocumentsPanel::selectedIds() const
-{
-    QList<ContentId> ids;
-    const QModelIndexList rows = m_tree->selectionModel()->selectedRows();
-    for (const QModelIndex &row : rows)
-        ids.append(m_model->idAt(row));
-    return ids;
-}
-
-ContentId DocumentsPanel::currentId() const
-{
-    return m_model->idAt(m_tree->currentIndex());
-}
-
-void DocumentsPanel::selectInWorkspace()
-{
-    updateActions();
-    if (m_isFollowing)
-        return;
-    const QList<ContentId> ids = selectedIds();
-    if (ids.isEmpty())
-        return;
-    m_isFollowing = true;
-    m_context.workspace.select(ids);
-    m_isFollowing = false;
-}
-
-void DocumentsPanel::selectFromWorkspace()
-{
-    if (m_isFollowing)
-        return;
-    QItemSelection selection;
-    QModelIndex first;
-    for (const ContentId &id : m_context.workspace.selection()) {
-        const QModelIndex index = m_model->indexOf(id);
-        if (!index.isValid())
-            continue;
-        selection.select(index, index);
-        if (!first.isValid())
-            first = index;
-    }
-    if (!first.isValid())
-        return;
-    m_isFollowing = true;
-    m_tree->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-    m_tree->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect
-                                                    | QItemSelectionModel::Rows);
-    m_tree->scrollTo(first);
-    m_isFollowing = false;
-    updateActions();
 }
 
 } // namespace vl::desktop

@@ -1,18 +1,22 @@
 #include "app/models/codexoperations.h"
+#include "app/models/objecttreemodel.h"
 #include "core/commands/codexcommands.h"
 #include "core/commands/documentcommands.h"
 #include "desktop/inspector/fieldeditor.h"
-#include "desktop/shell/mainwindow.h"
-#include "tests/support/fakeprompts.h"
+#include "desktop/panels/objecttree.h"
+#include "desktop/widgets/emptystate.h"
+#include "tests/support/deskwindow.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
+#include <QtGui/QDragMoveEvent>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeView>
 
 using namespace vl;
@@ -21,14 +25,9 @@ using core::Entity;
 
 namespace {
 
-struct Window
+struct Window : test::DeskWindow
 {
-    QTemporaryDir dir;
-    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
-    test::FakePrompts prompts;
-    desktop::MainWindow window{settings, &prompts};
     QTreeView *tree = window.findChild<QTreeView *>(QStringLiteral("codexTree"));
-    app::Workspace &workspace = window.workspace();
     app::CodexOperations codex{workspace};
     ContentId people = codex.addCategory({}, QStringLiteral("People"));
     ContentId ann = codex.addEntity(people, QStringLiteral("Ann"));
@@ -45,9 +44,6 @@ struct Window
             field.type = type;
             codex.addField(people, field);
         }
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window))
-            qFatal("the window does not show");
         tree->expandAll();
     }
     Entity &entity(const ContentId &id) const { return *workspace.project().find<Entity>(id); }
@@ -79,6 +75,8 @@ class TestCodexPanel : public QObject
 private Q_SLOTS:
     void theTreeRenamesDeletesAndCopies();
     void theFilterKeepsBranchesAndSelection();
+    void whatFitsNoFilterIsSaid();
+    void draggingOpensBranchesAndShutsNone();
     void tagsCanBeEmptiedInTheirDialog();
     void everyControlOfEveryFormHasAName();
     void typingIsHandedIn();
@@ -132,6 +130,56 @@ void TestCodexPanel::theFilterKeepsBranchesAndSelection()
     QTest::keyClick(filter, Qt::Key_Escape);
     QCOMPARE(desk.rows().join(u' '), QStringLiteral("People Ann Bob Places"));
     QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Ann"));
+}
+
+void TestCodexPanel::whatFitsNoFilterIsSaid()
+{
+    Window desk;
+    desk.addDocument(QStringLiteral("Storm"), {});
+    auto *documents = desk.window.findChild<QTreeView *>(QStringLiteral("documentsTree"));
+    for (QTreeView *tree : {desk.tree, documents}) {
+        auto *pages = qobject_cast<desktop::TreePages *>(tree->parentWidget());
+        QVERIFY(pages);
+        auto *filter = pages->parentWidget()->findChild<QLineEdit *>();
+        QTest::keyClicks(filter, QStringLiteral("zzz"));
+        auto *empty = qobject_cast<desktop::EmptyState *>(pages->currentWidget());
+        QVERIFY(empty);
+        QTest::mouseClick(empty->button(), Qt::LeftButton);
+        QCOMPARE(pages->currentWidget(), tree);
+        QCOMPARE(filter->text(), QString());
+        QVERIFY(tree->model()->rowCount() > 0);
+    }
+}
+
+void TestCodexPanel::draggingOpensBranchesAndShutsNone()
+{
+    Window desk;
+    const ContentId places = desk.codex.addCategory({}, QStringLiteral("Places"));
+    desk.codex.addEntity(places, QStringLiteral("Harbour"));
+    const QModelIndex open = desk.tree->model()->index(0, 0);
+    const QModelIndex shut = desk.tree->model()->index(1, 0);
+    desk.tree->collapse(shut);
+    QVERIFY(desk.tree->isExpanded(open));
+    const std::unique_ptr<QMimeData> dragged(desk.codex.mimeData({desk.bob}));
+    const auto hover = [&](QTreeView &tree, const QModelIndex &row) {
+        const QPoint place = tree.visualRect(row).center();
+        QDragEnterEvent enter(place, Qt::MoveAction, dragged.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(tree.viewport(), &enter);
+        QDragMoveEvent move(place, Qt::MoveAction, dragged.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(tree.viewport(), &move);
+    };
+    // Another tree that is hovered over later tells that the time of the first is over.
+    desktop::ObjectTree other(
+        desk.workspace, qobject_cast<app::ObjectTreeModel *>(desk.tree->model()), &desk.window);
+    other.resize(200, 200);
+    other.show();
+    other.collapseAll();
+    hover(*desk.tree, open);
+    hover(other, open);
+    QTRY_VERIFY(other.isExpanded(open));
+    QVERIFY(desk.tree->isExpanded(open));
+    hover(*desk.tree, shut);
+    QTRY_VERIFY(desk.tree->isExpanded(shut));
 }
 
 void TestCodexPanel::tagsCanBeEmptiedInTheirDialog()
