@@ -5216,16 +5216,8 @@ What is said.
         <translation>Change what is selected in the codex</translation>
     </message>
     <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Filter the codex by name, alias or tag</source>
         <translation>Filter the codex by name, alias or tag</translation>
-    </message>
-    <message>
-        <source>Clear the filter</source>
-        <translation>Clear the filter</translation>
     </message>
     <message>
         <source>Codex</source>
@@ -5234,10 +5226,6 @@ What is said.
     <message>
         <source>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</source>
         <translation>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Columns</translation>
     </message>
     <message>
         <source>The people, places and things of your world stand here, sorted into categories.</source>
@@ -5513,16 +5501,8 @@ What is said.
         <translation>Add a document or a note behind the selected one.</translation>
     </message>
     <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
         <source>Filter the documents by title</source>
         <translation>Filter the documents by title</translation>
-    </message>
-    <message>
-        <source>Clear the filter</source>
-        <translation>Clear the filter</translation>
     </message>
     <message>
         <source>Documents</source>
@@ -5531,10 +5511,6 @@ What is said.
     <message>
         <source>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</source>
         <translation>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Columns</translation>
     </message>
     <message>
         <source>The chapters and scenes of your manuscript stand here.</source>
@@ -5601,6 +5577,14 @@ What is said.
     <message>
         <source>Kind:</source>
         <translation>Kind:</translation>
+    </message>
+    <message>
+        <source>No document has this title.</source>
+        <translation>No document has this title.</translation>
+    </message>
+    <message>
+        <source>Clear the Filter</source>
+        <translation>Clear the Filter</translation>
     </message>
 </context>
 <context>
@@ -6413,6 +6397,21 @@ What is said.
     <message>
         <source>Undo</source>
         <translation>Undo</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ObjectTree</name>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Clear the filter</translation>
     </message>
 </context>
 <context>

@@ -5216,16 +5216,8 @@ Lo que se dice.
         <translation>Cambia lo seleccionado en el códice</translation>
     </message>
     <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
         <source>Filter the codex by name, alias or tag</source>
         <translation>Filtrar el códice por nombre, alias o etiqueta</translation>
-    </message>
-    <message>
-        <source>Clear the filter</source>
-        <translation>Borrar el filtro</translation>
     </message>
     <message>
         <source>Codex</source>
@@ -5234,10 +5226,6 @@ Lo que se dice.
     <message>
         <source>Your worldbuilding codex: categories and entities. Right-click for actions; F2 renames, Del deletes.</source>
         <translation>El códice de su mundo: categorías y entidades. Botón derecho para las acciones; F2 cambia el nombre, Supr elimina.</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Columnas</translation>
     </message>
     <message>
         <source>The people, places and things of your world stand here, sorted into categories.</source>
@@ -5513,16 +5501,8 @@ Lo que se dice.
         <translation>Añade un documento o una nota detrás del seleccionado.</translation>
     </message>
     <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
         <source>Filter the documents by title</source>
         <translation>Filtrar los documentos por título</translation>
-    </message>
-    <message>
-        <source>Clear the filter</source>
-        <translation>Borrar el filtro</translation>
     </message>
     <message>
         <source>Documents</source>
@@ -5531,10 +5511,6 @@ Lo que se dice.
     <message>
         <source>The manuscript: documents and notes. Drag to reorder or drop onto another to nest; right-click for actions; Ins adds, F2 renames, Del deletes.</source>
         <translation>El manuscrito: documentos y notas. Arrastre para reordenar o suelte sobre otro para anidar; clic derecho para las acciones; Ins añade, F2 cambia el nombre, Supr elimina.</translation>
-    </message>
-    <message>
-        <source>Columns</source>
-        <translation>Columnas</translation>
     </message>
     <message>
         <source>The chapters and scenes of your manuscript stand here.</source>
@@ -5601,6 +5577,14 @@ Lo que se dice.
     <message>
         <source>Kind:</source>
         <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>No document has this title.</source>
+        <translation>Ningún documento tiene este título.</translation>
+    </message>
+    <message>
+        <source>Clear the Filter</source>
+        <translation>Borrar el filtro</translation>
     </message>
 </context>
 <context>
@@ -6413,6 +6397,21 @@ Lo que se dice.
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::ObjectTree</name>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtrar</translation>
+    </message>
+    <message>
+        <source>Clear the filter</source>
+        <translation>Borrar el filtro</translation>
     </message>
 </context>
 <context>
