@@ -3,6 +3,7 @@
 #include "app/storage/projectwriter.h"
 #include "cli/continuityfindings.h"
 #include "cli/projectsource.h"
+#include "cli/writeaccess.h"
 
 namespace vl::cli {
 
@@ -20,6 +21,9 @@ app::Result<QJsonValue> roundTrip(BatchMembers &request)
     const app::Result<ProjectSource> source = ProjectSource::open(path);
     if (!source)
         return source.asFailure();
+    const app::Result<WriteAccess> access = WriteAccess::to(fullPath(output));
+    if (!access)
+        return access.asFailure();
     if (const app::Result<> saved = app::saveProject(source->project(), output); !saved)
         return saved.asFailure();
     return QJsonValue(QJsonObject{{QStringLiteral("objects"), source->project().size()}});

@@ -8,6 +8,7 @@
 #include "app/text/import/plaintextimport.h"
 #include "cli/projectwriting.h"
 #include "cli/textfile.h"
+#include "cli/writeaccess.h"
 #include "core/commandstack.h"
 
 #include <algorithm>
@@ -83,6 +84,10 @@ ExitStatus runImport(const Arguments &arguments, Console &console)
         return console.fail(manuscript.message());
     for (const QString &message : manuscript->skipped)
         console.message(message);
+    const app::Result<WriteAccess> access =
+        WriteAccess::to(path, arguments.has(QStringLiteral("anyway")));
+    if (!access)
+        return console.fail(access.message());
     console.begin(Arguments::tr("Writing the project…"));
     const app::Result<int> count = addToProject(*manuscript, path);
     if (!count)

@@ -3,6 +3,7 @@
 #include "app/base/files.h"
 #include "app/text/markdowntext.h"
 #include "cli/projectwriting.h"
+#include "cli/writeaccess.h"
 
 namespace vl::cli {
 
@@ -11,6 +12,9 @@ ExitStatus runNew(const Arguments &arguments, Console &console)
     const QString path = fullPath(arguments.at(0));
     if (!isFreeForProject(path))
         return console.fail(app::withPath(Arguments::tr("There is something already: %1"), path));
+    const app::Result<WriteAccess> access = WriteAccess::to(path);
+    if (!access)
+        return console.fail(access.message());
     app::ProjectFiles carried;
     // A project is called like its file. The name stands in a file that goes along with it, and
     // that hosts of repositories show.

@@ -1,37 +1,18 @@
-#include "tests/support/cliprogram.h"
-#include "tests/support/folders.h"
-#include "tests/support/projectbuilder.h"
+#include "tests/cli/clitest.h"
 
-#include "app/storage/projectwriter.h"
+#include "app/storage/lock.h"
 #include "core/content/task.h"
-#include "core/content/timeline.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 
 using namespace vl::core;
 using namespace vl::test;
 
-namespace {
-
-QString text(const char *literal)
-{
-    return QString::fromUtf8(literal);
-}
-
-} // namespace
-
-class TestCliProjects : public QObject
+class TestCliProjects : public CliTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void usage_data();
     void usage();
     void helpNamesWhatThereIs();
@@ -47,57 +28,12 @@ private Q_SLOTS:
     void packAndUnpack();
     void readingTouchesNothing_data();
     void readingTouchesNothing();
+    void openElsewhere_data();
+    void openElsewhere();
     void repairsACopy();
     void listsBackups();
-    void texts_data();
-    void texts();
-    void exportsRtf();
-    void importsText();
-    void importsMarkdown();
-    void importAddsToAProject_data();
-    void importAddsToAProject();
-    void style();
-    void conflicts();
     void fullOutput();
-
-private:
-    Outcome run(const QStringList &arguments, const QByteArray &input = {}) const
-    {
-        return runCli(text(IVOREL_CLI), arguments, input, m_path);
-    }
-    /// The same with the arguments in one text, parted by blanks.
-    Outcome run(const char *arguments, const QByteArray &input = {}) const
-    {
-        return run(text(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts), input);
-    }
-    QString at(const char *path) const { return m_path + QLatin1Char('/') + text(path); }
-    /// A project of every kind in the folder "full", with an asset and a hidden file.
-    void makeFullProject() const;
-    QJsonObject infoOf(const char *path) const
-    {
-        return QJsonDocument::fromJson(run({text("info"), text(path), text("--json")}).output)
-            .object();
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QString m_path;
 };
-
-void TestCliProjects::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_path = m_folder->filePath(text("un été"));
-    QVERIFY(QDir().mkpath(m_path));
-    // Working copies are kept apart from those of whoever runs the tests.
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->filePath(text("data"))));
-}
-
-void TestCliProjects::makeFullProject() const
-{
-    QVERIFY(vl::app::saveProject(*fullProject(), at("full")));
-    putFile(at("full/assets/maps/é.png"), QByteArray("\x89PNG\0\n", 6));
-    putFile(at("full/.gitattributes"), "*.json text\n");
-}
 
 void TestCliProjects::usage_data()
 {
@@ -120,9 +56,9 @@ void TestCliProjects::usage_data()
     row("info a --json=1", "The option --json takes no value.", "info PROJECT [--json]");
     row("info a --json --json", "The option --json is given twice.", "info PROJECT [--json]");
     row("new a --name", "The option --name needs a value.", "new PROJECT [--name NAME]");
-    row("convert a", "DESTINATION is missing.", "convert SOURCE DESTINATION");
+    row("convert a", "DESTINATION is missing.", "convert SOURCE DESTINATION [--anyway]");
     row("health a --format pdf", "Unknown format: pdf", "health PROJECT [--format FORMAT]");
-    row("import docx a b", "Unknown format: docx", "import FORMAT SOURCE PROJECT");
+    row("import docx a b", "Unknown format: docx", "import FORMAT SOURCE PROJECT [--anyway]");
     const char *exportUsage = "export FORMAT PROJECT --output FILE [--title TITLE] [--author NAME] "
                               "[--contact TEXT] [--pen-name NAME]";
     row("export rtf a", "The option --output is missing.", exportUsage);
@@ -393,6 +329,73 @@ void TestCliProjects::readingTouchesNothing()
     QCOMPARE(namesIn(folder), QStringList{text("un été")}); // no working copy either
 }
 
+void TestCliProjects::openElsewhere_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("project"); // the one that somebody has open
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<int>("status");
+
+    const auto row = [](const char *command, const char *project, const char *state, int status) {
+        QTest::addRow("%s, %s", command, state)
+            << text(command) << text(project) << text(state) << status;
+    };
+    for (const char *project : {"full", "full.vellum"}) {
+        const bool isFolder = !text(project).contains(QLatin1Char('.'));
+        const char *import = isFolder ? "import text - full" : "import text - full.vellum";
+        const char *convert = isFolder ? "convert full.vellum full" : "convert full full.vellum";
+        const char *itself = isFolder ? "convert full full" : "convert full.vellum full.vellum";
+        for (const char *command : {import, convert, itself})
+            for (const char *state : {"here", "elsewhere", "unreadable"})
+                row(command, project, state, 3);
+        row(import, project, "gone", 0);
+        for (const char *command : {"info %1", "validate %1", "backups %1", "convert %1 other"})
+            row(text(command).arg(text(project)).toLatin1().constData(), project, "here", 0);
+    }
+    row("pack full full.vellum", "full.vellum", "here", 3);
+    row("pack full full.vellum", "full", "here", 0); // it is only read
+    row("repair full gone.vellum", "gone.vellum", "here", 3);
+    row("new gone.vellum", "gone.vellum", "elsewhere", 3);
+    row("convert full full.vellum --anyway", "full.vellum", "elsewhere", 0);
+    row("import text - full --anyway", "full", "unreadable", 0);
+    row("pack full full.vellum --anyway", "full.vellum", "here", 3); // that one runs for certain
+}
+
+void TestCliProjects::openElsewhere()
+{
+    QFETCH(const QString, command);
+    QFETCH(const QString, project);
+    QFETCH(const QString, state);
+    QFETCH(const int, status);
+    makeFullProject();
+    QCOMPARE(run("pack full full.vellum").status, 0);
+    vl::app::LockHolder holder = vl::app::LockHolder::current();
+    holder.user = text("ann");
+    holder.host = text("attic");
+    if (state == text("elsewhere"))
+        holder.machine = text("another one");
+    if (state == text("gone"))
+        holder.boot = text("before the last start");
+    const QString lock = vl::app::ProjectLock::filePath(at(project.toUtf8().constData()));
+    putFile(lock, state == text("unreadable") ? QByteArray("half a lo") : holder.toJson());
+    const FileMap before = filesUnder(m_path);
+    const Outcome outcome = run(command.toUtf8().constData(), "Words.\n");
+    QCOMPARE(outcome.status, status);
+    if (status == 0) {
+        // Its own lock goes when it is done; that of a program that runs stays.
+        const bool isLeftOver = state != text("here");
+        QCOMPARE(QFileInfo::exists(lock), !isLeftOver);
+        return;
+    }
+    QCOMPARE(filesUnder(m_path), before);
+    QCOMPARE(outcome.output, QByteArray());
+    QVERIFY2(outcome.messages.contains(at(project.toUtf8().constData())),
+             qUtf8Printable(outcome.messages));
+    QCOMPARE(outcome.messages.contains(text("ann has it open on “attic”")),
+             state != text("unreadable"));
+    QCOMPARE(outcome.messages.contains(text("--anyway")), state != text("here"));
+}
+
 void TestCliProjects::repairsACopy()
 {
     makeFullProject();
@@ -436,194 +439,6 @@ void TestCliProjects::listsBackups()
     QVERIFY(first.value(4).toInt() > 0);
     QVERIFY(lines.at(1).endsWith(text("\t7\t-\t-")));
     QVERIFY(!outcome.messages.isEmpty());
-}
-
-void TestCliProjects::texts_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("output");
-
-    const auto row = [](const char *name, const char *command, const char *input, int status,
-                        const char *output) {
-        QTest::newRow(name) << text(command) << QByteArray(input) << status << QByteArray(output);
-    };
-    row("render", "render", "*é*\n", 0, "<p><em>é</em></p>\n");
-    row("render from a named input", "render -", "a", 0, "<p>a</p>\n");
-    row("render a byte-order mark", "render", "\xEF\xBB\xBF# a", 0, "<h1>a</h1>\n");
-    row("render nothing", "render", "", 0, "");
-    row("style, nothing found", "style", "The sea was calm.\n", 0, "");
-    row("style", "style", "The sea.\nIt was very calm.\n", 1, "-:2:8: Filler word: very [very]\n");
-    row("style as JSON, nothing found", "style --json -", "The sea.\n", 0, "[\n]\n");
-}
-
-void TestCliProjects::texts()
-{
-    QFETCH(const QString, command);
-    QFETCH(const QByteArray, input);
-    QFETCH(const int, status);
-    QFETCH(const QByteArray, output);
-    Outcome outcome = run(command.toUtf8().constData(), input);
-    QCOMPARE(outcome.output, output);
-    QCOMPARE(outcome.messages, QString());
-    QCOMPARE(outcome.status, status);
-
-    outcome = run("render gone.md");
-    QCOMPARE(outcome.messages, text("Cannot read file: gone.md"));
-    QCOMPARE(outcome.status, 3);
-}
-
-void TestCliProjects::exportsRtf()
-{
-    makeFullProject();
-    QCOMPARE(run("pack full full.vellum").status, 0);
-    const QStringList options{text("--title"),   text("Die Größe"), text("--author=Ann Lee"),
-                              text("--contact"), text("1 Road"),    text("--pen-name"),
-                              text("A. Sea")};
-    Outcome outcome =
-        run(QStringList{text("export"), text("rtf"), text("full"), text("--output"), text("-")}
-            + options);
-    QCOMPARE(outcome.status, 0);
-    QVERIFY(outcome.output.startsWith("{\\rtf1"));
-    for (const char *part : {"Die Gr\\u246?\\u223?e", "LEE", "1 Road", "A. Sea"})
-        QVERIFY2(outcome.output.contains(part) || outcome.output.toUpper().contains(part), part);
-    const QByteArray expected = outcome.output;
-    outcome =
-        run(QStringList{text("export"), text("rtf"), text("full.vellum"), text("--output=x.rtf")}
-            + options);
-    QCOMPARE(outcome.status, 0);
-    QCOMPARE(outcome.output, QByteArray());
-    QVERIFY(fileBytes(at("x.rtf")) == expected);
-    outcome = run("export rtf full --output full");
-    QCOMPARE(outcome.messages, text("Cannot write file: full"));
-    QCOMPARE(outcome.status, 3);
-}
-
-void TestCliProjects::importsText()
-{
-    QByteArray book("THE SEA\n\nby Nobody\n\n");
-    for (int chapter = 1; chapter <= 3; ++chapter) {
-        book += "\n\nCHAPTER " + QByteArray(chapter, 'I') + "\n\n";
-        for (int paragraph = 0; paragraph < 4; ++paragraph)
-            book += "The waves came in at dusk, one after the other, and nobody on the long\n"
-                    "shore could say which of them was the first that had gone out again.\n\n";
-    }
-    putFile(at("sea.txt"), book);
-    for (const char *project : {"sea", "sea.vellum"}) {
-        const Outcome outcome = run({text("import"), text("text"), text("sea.txt"), text(project)});
-        QCOMPARE(outcome.messages, QString());
-        QVERIFY(outcome.output.startsWith("Documents added: "));
-        QCOMPARE(outcome.status, 0);
-        QVERIFY(infoOf(project).value(text("words")).toInt() >= 3 * 4 * 28);
-        QVERIFY(infoOf(project)[text("kinds")].toObject()[text("document")].toInt() >= 3);
-    }
-    Outcome outcome = run("import text gone.txt new");
-    QCOMPARE(outcome.status, 3);
-    QVERIFY(outcome.messages.contains(text("gone.txt")));
-    QVERIFY(!QFileInfo::exists(at("new")));
-    outcome = run("import text - piped", book);
-    QCOMPARE(outcome.status, 0);
-    QCOMPARE(infoOf("piped").value(text("words")), infoOf("sea").value(text("words")));
-}
-
-void TestCliProjects::importsMarkdown()
-{
-    putFile(at("book/1 Sea.md"), "# Part\n\nIntro.\n\n## Chapter\n\nText *here*.\n");
-    putFile(at("book/2 Land/a.md"), "Plain.\n");
-    QCOMPARE(run({text("import"), text("markdown"), text("book"), text("p")}).status, 0);
-    QVERIFY(infoOf("p")[text("kinds")].toObject()[text("document")].toInt() >= 3);
-    QCOMPARE(infoOf("p").value(text("words")).toInt(), 4);
-    QCOMPARE(
-        run({text("import"), text("markdown"), text("book/1 Sea.md"), text("p2.vellum")}).status,
-        0);
-    QCOMPARE(infoOf("p2.vellum").value(text("words")).toInt(), 3);
-}
-
-void TestCliProjects::importAddsToAProject_data()
-{
-    QTest::addColumn<QString>("project");
-
-    QTest::newRow("folder") << text("p");
-    QTest::newRow("bundle") << text("p.vellum");
-}
-
-void TestCliProjects::importAddsToAProject()
-{
-    QFETCH(const QString, project);
-    makeFullProject();
-    QCOMPARE(run({text("convert"), text("full"), project}).status, 0);
-    const QByteArray name = project.toUtf8();
-    const int before = infoOf(name)[text("kinds")].toObject()[text("document")].toInt();
-    const Outcome outcome = run({text("import"), text("markdown"), text("-"), project},
-                                "# New\n\nFour words of text.\n");
-    QCOMPARE(outcome.messages, QString());
-    QCOMPARE(outcome.output, QByteArray("Documents added: 1\n"));
-    QCOMPARE(infoOf(name)[text("kinds")].toObject()[text("document")].toInt(), before + 1);
-    QCOMPARE(run({text("convert"), project, text("after")}).status, 0);
-    // All that was there is there as it was, the asset too.
-    FileMap after = filesUnder(at("after"));
-    const FileMap full = filesUnder(at("full"));
-    for (auto file = full.begin(); file != full.end(); ++file)
-        QCOMPARE(after.take(file.key()), file.value());
-    QCOMPARE(after.size(), 1);
-    QVERIFY(after.first().contains("Four words of text."));
-}
-
-void TestCliProjects::style()
-{
-    Project project;
-    const auto add = [&project](const char *title, const char *body, qint32 index) {
-        auto document =
-            std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, text(title));
-        document->setBody(text(body));
-        document->setSortIndex(index);
-        project.add(std::move(document));
-    };
-    add("Two", "The the sea.", 1);
-    add("One", "Calm.\nIt was very calm.", 0);
-    QVERIFY(vl::app::saveProject(project, at("p")));
-    QCOMPARE(run("pack p p.vellum").status, 0);
-    for (const char *path : {"p", "p.vellum"}) {
-        Outcome outcome = run({text("style"), text(path)});
-        QCOMPARE(outcome.output, QByteArray("One:2:8: Filler word: very [very]\n"
-                                            "Two:1:1: Repeated word: The [The the]\n"));
-        QCOMPARE(outcome.status, 1);
-        outcome = run({text("style"), text("--json"), text(path)});
-        const QJsonArray list = QJsonDocument::fromJson(outcome.output).array();
-        QCOMPARE(outcome.status, 1);
-        QCOMPARE(list.size(), 2);
-        QCOMPARE(list[0][text("title")].toString(), text("One"));
-        const QJsonObject issue = list[0][text("issues")][0].toObject();
-        QCOMPARE(issue.value(text("start")).toInt(), 13);
-        QCOMPARE(issue.value(text("length")).toInt(), 4);
-        QCOMPARE(issue.value(text("kind")).toInt(), 2);
-        QCOMPARE(issue.value(text("message")).toString(), text("Filler word: very"));
-        QVERIFY(issue.contains(text("suggestion")));
-    }
-}
-
-void TestCliProjects::conflicts()
-{
-    Project project;
-    TimelineEventData data;
-    data.title = text("Landing");
-    data.participants = {ContentId::create()}; // nobody
-    project.add(std::make_unique<TimelineEvent>(ContentId::create(), data));
-    QVERIFY(vl::app::saveProject(project, at("p")));
-    Outcome outcome = run("conflicts p");
-    QCOMPARE(outcome.status, 1);
-    QVERIFY(outcome.output.contains("Landing"));
-    const QJsonObject found = QJsonDocument::fromJson(run("conflicts --json p").output).object();
-    QCOMPARE(found.value(text("rules")).toArray().size(), 0);
-    const QJsonObject first = found[text("timeline")][0].toObject();
-    QCOMPARE(first.value(text("message")).toString().toUtf8() + '\n', outcome.output);
-    QCOMPARE(first[text("eventIds")][0].toString(), project.ids().front().toString());
-
-    QCOMPARE(run("new fine").status, 0);
-    outcome = run("conflicts fine");
-    QCOMPARE(outcome.output, QByteArray());
-    QCOMPARE(outcome.status, 0);
 }
 
 void TestCliProjects::fullOutput()
