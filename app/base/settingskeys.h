@@ -13,6 +13,11 @@ inline constexpr SettingKey autoUpdateCheck{"general/autoUpdateCheck", "true"};
 inline constexpr SettingKey lastUpdateCheck{"general/lastUpdateCheck", ""};
 inline constexpr SettingKey welcomed{"onboarding/welcomed", ""};
 
+/// Whether projects are backed up without being asked, and in which folder; an empty one is the
+/// program's own.
+inline constexpr SettingKey backupsByThemselves{"backups/automatic", "true"};
+inline constexpr SettingKey backupFolder{"backups/folder", ""};
+
 // The editor: an empty family is the best reading font that is installed, sizes are points, the
 // line's width is in characters, its spacing in percent of a line.
 inline constexpr SettingKey editorFontFamily{"editor/fontFamily", ""};

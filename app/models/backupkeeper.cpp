@@ -12,7 +12,7 @@ namespace vl::app {
 
 namespace {
 
-constexpr int hourMilliseconds = 60 * 60 * 1000;
+constexpr qint64 dayMilliseconds = 24 * 60 * 60 * 1000;
 /// How often a folder is read again when a save came between.
 constexpr int tries = 3;
 
@@ -67,16 +67,24 @@ BackupKeeper::BackupKeeper(Workspace &workspace, StorageLocations locations, QOb
             enter();
         }
     });
-    connect(&workspace, &Workspace::flushRequested, this, [this] { ++*m_saves; });
+    connect(&workspace, &Workspace::flushRequested, this, [this] {
+        ++*m_saves;
+        lookAtDay();
+    });
     connect(&workspace, &Workspace::saved, this, [this] {
         ++*m_saves;
         m_savedSince = true;
         lookAtDay();
     });
-    m_hourly.setInterval(hourMilliseconds);
-    connect(&m_hourly, &QTimer::timeout, this, &BackupKeeper::lookAtDay);
-    m_hourly.start();
     enter();
+}
+
+void BackupKeeper::setFolder(const QString &folder)
+{
+    m_locations.chosenAutoBackups = folder;
+    m_toldFault.clear();
+    if (m_owed)
+        m_lastTime -= patience; // what could not be made there may be made here
 }
 
 BackupKeeper::~BackupKeeper()
@@ -98,9 +106,11 @@ void BackupKeeper::finish()
 
 void BackupKeeper::leave()
 {
-    if (!m_path.isEmpty() && m_savedSince)
+    if (!m_path.isEmpty() && m_isAutomatic && (m_savedSince || m_owed))
         run(m_path, {m_path, {}}, BackupReason::Closed);
     m_path.clear();
+    m_owed.reset();
+    m_toldFault.clear();
 }
 
 void BackupKeeper::enter()
@@ -110,14 +120,28 @@ void BackupKeeper::enter()
     if (!project.hasLocation())
         return;
     m_path = project.path();
-    run(m_path, {m_path, {}}, BackupReason::Opened);
+    if (m_isAutomatic)
+        run(m_path, {m_path, {}}, BackupReason::Opened);
+}
+
+/// Any other day will do, and 24 hours whatever the day: neither a clock that is set back nor one
+/// that stands still makes backups fail to appear.
+bool BackupKeeper::isNewDay() const
+{
+    return m_locations.now().date() != m_lastDay
+           || m_locations.uptime() - m_lastTime >= dayMilliseconds;
 }
 
 void BackupKeeper::lookAtDay()
 {
-    // Any other day will do: a clock that is set back makes no backups fail to appear.
-    if (!m_path.isEmpty() && m_savedSince && m_locations.now().date() != m_lastDay)
+    if (m_path.isEmpty() || !m_isAutomatic || m_running > 0)
+        return;
+    if (m_owed) {
+        if (m_locations.uptime() - m_lastTime >= patience)
+            run(m_path, {m_path, {}}, *m_owed);
+    } else if (m_savedSince && isNewDay()) {
         run(m_path, {m_path, {}}, BackupReason::Daily);
+    }
 }
 
 void BackupKeeper::backUpNow()
@@ -141,19 +165,34 @@ void BackupKeeper::run(const QString &projectPath, BackupContent content, Backup
 {
     m_savedSince = m_savedSince && reason == BackupReason::ByHand;
     m_lastDay = m_locations.now().date();
+    m_lastTime = m_locations.uptime();
+    ++m_running;
     const AutoBackups backups(projectPath, m_locations, &summarizeBackup);
     QtConcurrent::run(&m_pool, [backups, content = std::move(content), reason, saves = m_saves] {
         return addUndisturbed(backups, content, reason, *saves);
-    }).then(this, [this, reason](const Result<std::optional<BackupInfo>> &result) {
-        report(reason, result);
+    }).then(this, [this, projectPath, reason](const Result<std::optional<BackupInfo>> &result) {
+        report(projectPath, reason, result);
     });
 }
 
-void BackupKeeper::report(BackupReason reason, const Result<std::optional<BackupInfo>> &result)
+void BackupKeeper::report(const QString &projectPath, BackupReason reason,
+                          const Result<std::optional<BackupInfo>> &result)
 {
-    if (!result)
-        Q_EMIT failed(reason, result.message());
-    else if (*result)
+    --m_running;
+    const bool isPresent = projectPath == m_path;
+    if (!result) {
+        const bool isAsked = reason == BackupReason::ByHand;
+        if (isPresent && !isAsked)
+            m_owed = reason;
+        if (isAsked || std::exchange(m_toldFault, result.message()) != result.message())
+            Q_EMIT failed(reason, result.message());
+        return;
+    }
+    if (isPresent) {
+        m_owed.reset();
+        m_toldFault.clear();
+    }
+    if (*result)
         Q_EMIT made(reason);
     else
         Q_EMIT unchanged(reason);

@@ -4,10 +4,10 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QThreadPool>
-#include <QtCore/QTimer>
 
 #include <atomic>
 #include <memory>
+#include <optional>
 
 namespace vl::app {
 
@@ -17,12 +17,17 @@ class Workspace;
 BackupSummary summarizeBackup(const core::Project &project);
 
 /// Makes the backups that nobody asks for: when a project is opened, when it is closed and once a
-/// day. The work is done on a thread of its own; a backup of what did not change is not made.
+/// day, for which it looks at the clock whenever the editors hand in what is typed, as they do at
+/// each autosave. The work is done on a thread of its own; a backup of what did not change is not
+/// made, and one that failed is tried again after a while.
 class BackupKeeper final : public QObject
 {
     Q_OBJECT
 
 public:
+    /// How long it waits before it tries again what failed, in milliseconds.
+    static constexpr qint64 patience = 10 * 60 * 1000;
+
     BackupKeeper(Workspace &workspace, StorageLocations locations, QObject *parent = nullptr);
     /// Makes the backup at closing and waits for it.
     ~BackupKeeper() override;
@@ -31,7 +36,11 @@ public:
     AutoBackups backups() const;
     /// Makes a backup of the project as it is in the window, saved or not; it must have a place.
     void backUpNow();
-    /// Looks whether a day has begun; runs by itself each hour and after each save.
+    /// Whether backups are made that nobody asked for; they are unless told otherwise.
+    void setAutomatic(bool isAutomatic) { m_isAutomatic = isAutomatic; }
+    /// Where they are made from now on; empty for the program's own folder.
+    void setFolder(const QString &folder);
+    /// Makes the backup that is due: one that failed, or that of a new day.
     void lookAtDay();
     /// Waits for the backups that are being made.
     void finish();
@@ -41,21 +50,28 @@ Q_SIGNALS:
     void made(vl::app::BackupReason reason);
     /// The newest backup holds the same already.
     void unchanged(vl::app::BackupReason reason);
+    /// None was made. Of one that nobody asked for the same reason is told once, until one is made.
     void failed(vl::app::BackupReason reason, const QString &message);
 
 private:
     void leave();
     void enter();
     void run(const QString &projectPath, BackupContent content, BackupReason reason);
-    void report(BackupReason reason, const Result<std::optional<BackupInfo>> &result);
+    void report(const QString &projectPath, BackupReason reason,
+                const Result<std::optional<BackupInfo>> &result);
+    bool isNewDay() const;
 
     Workspace &m_workspace;
     StorageLocations m_locations;
     QThreadPool m_pool; ///< of one thread, so that one backup follows the other
-    QTimer m_hourly;
-    QString m_path;            ///< of the project whose backups are made; empty for none
-    bool m_savedSince = false; ///< since the last backup
-    QDate m_lastDay;           ///< of the last backup in this run, or of its try
+    bool m_isAutomatic = true;
+    QString m_path;                     ///< of the project whose backups are made; empty for none
+    bool m_savedSince = false;          ///< since the last backup
+    int m_running = 0;                  ///< those that are being made
+    QDate m_lastDay;                    ///< of the last backup in this run, or of its try
+    qint64 m_lastTime = 0;              ///< the same by the clock that only grows
+    std::optional<BackupReason> m_owed; ///< what the last one that failed was for
+    QString m_toldFault;
     std::shared_ptr<std::atomic<int>> m_saves; ///< begun or ended, told to the other thread
 };
 

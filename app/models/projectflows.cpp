@@ -79,7 +79,7 @@ bool ProjectFlows::open(const QString &givenPath)
         if (access->lock && access->lock->isFor(m_workspace.current().path()))
             m_lock = std::move(access->lock);
         access->lock.reset();
-        return RepairFlow(m_prompts, StorageLocations::standard(),
+        return RepairFlow(m_prompts, StorageLocations::of(m_settings),
                           [this](const QString &other) { return open(other); })
             .offer(path, opened.message());
     }

@@ -234,19 +234,22 @@ std::optional<AutoBackups::Kept> AutoBackups::Kept::fromName(const QString &file
 AutoBackups::AutoBackups(const QString &projectPath, const StorageLocations &locations,
                          Summarize summarize)
     : m_projectPath(projectPath)
-    , m_folder(locations.root + QStringLiteral("/autobackups/") + projectKey(projectPath))
+    , m_folder(locations.autoBackups() + u'/' + projectKey(projectPath))
     , m_baseName(bundleBaseName(projectPath))
     , m_locations(locations)
     , m_summarize(std::move(summarize))
 {
+    const QString standard = locations.standardAutoBackups() + u'/' + projectKey(projectPath);
+    if (standard != m_folder)
+        m_earlierFolder = standard;
 }
 
 /// The oldest first, by the order in which they were made.
-std::vector<AutoBackups::Kept> AutoBackups::kept() const
+std::vector<AutoBackups::Kept> AutoBackups::keptIn(const QString &folder) const
 {
     std::vector<Kept> list;
     const QDateTime now = m_locations.now();
-    QDirIterator entries(m_folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     while (entries.hasNext()) {
         entries.next();
         std::optional<Kept> kept = Kept::fromName(entries.fileName(), m_baseName);
@@ -262,6 +265,11 @@ std::vector<AutoBackups::Kept> AutoBackups::kept() const
         return a.number != b.number ? a.number < b.number : a.info.path < b.info.path;
     });
     return list;
+}
+
+std::vector<AutoBackups::Kept> AutoBackups::kept() const
+{
+    return keptIn(m_folder);
 }
 
 Result<QByteArray> AutoBackups::sumOf(const Kept &backup) const
@@ -290,6 +298,29 @@ Result<BackupSummary> AutoBackups::verify(const QString &path, const QByteArray 
     return m_summarize(**project);
 }
 
+/// Makes the folder, and looks whether there is room in it.
+Result<> AutoBackups::makeFolderFor(qint64 bytes) const
+{
+    const QString &chosen = m_locations.chosenAutoBackups;
+    // A disk that is not there now must not be taken for an empty folder.
+    if (!chosen.isEmpty() && !QFileInfo(chosen).isDir())
+        return failure(
+            withPath(AutoBackupText::tr("The folder for backups does not exist: %1"), chosen));
+    const QString project = QDir::cleanPath(m_projectPath) + u'/';
+    if ((m_folder + u'/').startsWith(project))
+        return failure(withPath(
+            AutoBackupText::tr("The folder for backups lies in the project itself: %1"), chosen));
+    // Some disks that can be taken along know of no permissions.
+    if (!makePrivateFolder(m_folder) && (chosen.isEmpty() || !QFileInfo(m_folder).isDir()))
+        return failure(
+            withPath(AutoBackupText::tr("Could not create the folder for: %1"), m_folder));
+    const qint64 room = QStorageInfo(m_folder).bytesAvailable();
+    if (room >= 0 && room < bytes + roomLeft)
+        return failure(
+            withPath(AutoBackupText::tr("There is not enough room for a backup in: %1"), m_folder));
+    return {};
+}
+
 Result<std::optional<BackupInfo>> AutoBackups::add(const BackupContent &content,
                                                    BackupReason reason) const
 {
@@ -302,13 +333,8 @@ Result<std::optional<BackupInfo>> AutoBackups::add(const BackupContent &content,
         if (newest && *newest == packed->sha256())
             return std::optional<BackupInfo>();
     }
-    if (!makePrivateFolder(m_folder))
-        return failure(
-            withPath(AutoBackupText::tr("Could not create the folder for: %1"), m_folder));
-    const qint64 room = QStorageInfo(m_folder).bytesAvailable();
-    if (room >= 0 && room < packed->size() + roomLeft)
-        return failure(
-            withPath(AutoBackupText::tr("There is not enough room for a backup in: %1"), m_folder));
+    if (const Result<> made = makeFolderFor(packed->size()); !made)
+        return made.asFailure();
 
     QDateTime now = m_locations.now().toUTC();
     if (!now.isValid() || now.date().year() < 1970 || now.date().year() > 9999)
@@ -385,6 +411,19 @@ std::vector<BackupInfo> AutoBackups::list() const
     std::reverse(own.begin(), own.end());
     for (Kept &backup : own)
         list.push_back(std::move(backup.info));
+    // By time, without changing the order of its own.
+    const auto insert = [&list](const BackupInfo &backup) {
+        auto place = std::find_if(list.begin(), list.end(), [&](const BackupInfo &other) {
+            return backup.time.isValid() && other.time.isValid() && other.time < backup.time;
+        });
+        list.insert(place, backup);
+    };
+    if (!m_earlierFolder.isEmpty()) {
+        std::vector<Kept> earlier = keptIn(m_earlierFolder);
+        std::reverse(earlier.begin(), earlier.end());
+        for (const Kept &backup : earlier)
+            insert(backup.info);
+    }
     QStringList replaced = m_locations.backups().list(m_baseName);
     std::reverse(replaced.begin(), replaced.end());
     const QDateTime now = m_locations.now();
@@ -396,11 +435,7 @@ std::vector<BackupInfo> AutoBackups::list() const
         backup.time = Backups::timeOf(path, m_baseName);
         if (backup.time > now)
             backup.time = QDateTime();
-        // By time, without changing the order of its own.
-        auto place = std::find_if(list.begin(), list.end(), [&](const BackupInfo &other) {
-            return backup.time.isValid() && other.time.isValid() && other.time < backup.time;
-        });
-        list.insert(place, backup);
+        insert(backup);
     }
     return list;
 }

@@ -53,7 +53,8 @@ struct BackupContent
 };
 
 /// The backups of one project that are made without being asked, and by hand: in a folder of their
-/// own, apart from those of what was replaced, so that neither pushes the other out. Works on files
+/// own, apart from those of what was replaced, so that neither pushes the other out. Those made
+/// before the user chose another folder stay where they are and are still listed. Works on files
 /// alone and may be used on any thread, by one at a time.
 class AutoBackups
 {
@@ -85,13 +86,16 @@ public:
 private:
     struct Kept;
 
+    std::vector<Kept> keptIn(const QString &folder) const;
     std::vector<Kept> kept() const;
+    Result<> makeFolderFor(qint64 bytes) const;
     Result<QByteArray> sumOf(const Kept &backup) const;
     Result<BackupSummary> verify(const QString &path, const QByteArray &sha256) const;
     void thin() const;
 
     QString m_projectPath;
     QString m_folder;
+    QString m_earlierFolder; ///< where they lay before the user chose another place, or empty
     QString m_baseName;
     StorageLocations m_locations;
     Summarize m_summarize;

@@ -1,6 +1,8 @@
 #include "app/storage/workingcopy.h"
 
 #include "app/base/files.h"
+#include "app/base/settings.h"
+#include "app/base/settingskeys.h"
 #include "app/base/sha256.h"
 
 #include <QtCore/QCoreApplication>
@@ -66,6 +68,16 @@ StorageLocations StorageLocations::standard()
 {
     StorageLocations locations;
     locations.root = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return locations;
+}
+
+StorageLocations StorageLocations::of(const Settings &settings)
+{
+    StorageLocations locations = standard();
+    // Below which folder a relative path would lie nobody could tell.
+    const QString chosen = settings.text(settings::backupFolder);
+    if (QDir::isAbsolutePath(chosen))
+        locations.chosenAutoBackups = QDir::cleanPath(chosen);
     return locations;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QString>
 
 #include <functional>
@@ -13,15 +14,28 @@
 
 namespace vl::app {
 
+class Settings;
+
 /// Where working copies and backups are kept, and the clock that dates the backups.
 struct StorageLocations
 {
     QString root; ///< a private folder of this user
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
+    /// Milliseconds since some moment, which only ever grow, whatever is done to the clock.
+    std::function<qint64()> uptime = [] { return QDeadlineTimer::current().deadline(); };
+    /// Where the user wants the backups that are made without being asked; empty for below `root`.
+    QString chosenAutoBackups;
 
     /// The system's folder for this program's data, and its clock.
     static StorageLocations standard();
+    /// The same with what the user chose instead.
+    static StorageLocations of(const Settings &settings);
 
+    QString standardAutoBackups() const { return root + QStringLiteral("/autobackups"); }
+    QString autoBackups() const
+    {
+        return chosenAutoBackups.isEmpty() ? standardAutoBackups() : chosenAutoBackups;
+    }
     QString workingFolder() const { return root + QStringLiteral("/working"); }
     QString backupFolder() const { return root + QStringLiteral("/backups"); }
     Backups backups() const { return Backups(backupFolder(), now); }

@@ -1,3 +1,4 @@
+#include "app/base/settings.h"
 #include "app/models/backupkeeper.h"
 #include "app/storage/autobackups.h"
 #include "cli/commands/commands.h"
@@ -10,7 +11,8 @@ namespace vl::cli {
 ExitStatus runBackups(const Arguments &arguments, Console &console)
 {
     console.begin(Arguments::tr("Reading the backups…"));
-    const app::AutoBackups backups(fullPath(arguments.at(0)), app::StorageLocations::standard(),
+    const app::AutoBackups backups(fullPath(arguments.at(0)),
+                                   app::StorageLocations::of(app::Settings()),
                                    &app::summarizeBackup);
     for (const app::BackupInfo &backup : backups.list()) {
         const app::Result<app::BackupSummary> summary = backups.summary(backup);

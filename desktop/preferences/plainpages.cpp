@@ -12,6 +12,7 @@
 #include <QtGui/QDesktopServices>
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -73,34 +74,57 @@ BackupsPage::BackupsPage(const PreferencesContext &context, QWidget *parent)
     : PreferencesPage(context, parent)
 {
     QFormLayout *group = addGroup(tr("Made by themselves"));
+    addFlag(group, tr("&Back up projects without being asked"), app::settings::backupsByThemselves);
     auto *about = new QLabel(
         tr("A project is backed up when it is opened, when it is closed and once a day, unless the "
-           "newest backup holds the same. The newest are kept, one a day of the last week, one a "
-           "week of the last two months, and those that you made yourself."),
+           "newest backup holds the same. The last five are kept, one a day of the last week, one "
+           "a week of the last two months, and those that you made yourself."),
         this);
     about->setWordWrap(true);
     group->addRow(about);
+    addPlace();
+}
 
+void BackupsPage::addPlace()
+{
     QFormLayout *place = addGroup(tr("Where they lie"));
-    const QString folder = app::StorageLocations::standard().backupFolder();
-    auto *path = new QLabel(QDir::toNativeSeparators(folder), this);
+    auto *path = new QLabel(this);
     path->setTextFormat(Qt::PlainText);
     path->setWordWrap(true);
     path->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     path->setAccessibleName(tr("Folder of the backups"));
     place->addRow(path);
+    follow(app::settings::backupFolder, path,
+           [this, path] { path->setText(QDir::toNativeSeparators(folder())); });
+
+    auto *choose = new QPushButton(tr("&Choose…"), this);
+    choose->setAccessibleDescription(tr("Folder of the backups"));
+    connect(choose, &QPushButton::clicked, this, &BackupsPage::choose);
     auto *open = new QPushButton(tr("&Open Folder"), this);
-    connect(open, &QPushButton::clicked, this, [folder] {
-        QDir().mkpath(folder);
-        QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+    connect(open, &QPushButton::clicked, this, [this] {
+        QDir().mkpath(folder());
+        QDesktopServices::openUrl(QUrl::fromLocalFile(folder()));
     });
     auto *list = new QPushButton(tr("Backups of This &Project…"), this);
     connect(list, &QPushButton::clicked, this->context().actions["file.backups"],
             &QAction::trigger);
-    for (QPushButton *button : {open, list}) {
+    for (QPushButton *button : {choose, open, list}) {
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         place->addRow(button);
     }
+}
+
+QString BackupsPage::folder() const
+{
+    return app::StorageLocations::of(settings()).autoBackups();
+}
+
+void BackupsPage::choose()
+{
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, tr("Folder of the Backups"), folder());
+    if (!chosen.isEmpty())
+        settings().set(app::settings::backupFolder, chosen);
 }
 
 UpdatesPage::UpdatesPage(const PreferencesContext &context, QWidget *parent)

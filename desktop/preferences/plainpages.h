@@ -29,6 +29,12 @@ class BackupsPage final : public PreferencesPage
 
 public:
     BackupsPage(const PreferencesContext &context, QWidget *parent);
+
+private:
+    void addPlace();
+    void choose();
+    /// Where they are made now.
+    QString folder() const;
 };
 
 /// Whether new versions are looked for, and when that was done last.

@@ -1,5 +1,6 @@
 #include "desktop/shell/projectcare.h"
 
+#include "app/base/settingskeys.h"
 #include "app/models/backupoperations.h"
 #include "app/models/newcontents.h"
 #include "app/models/projectflows.h"
@@ -28,10 +29,11 @@ ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, 
     : m_context(context)
     , m_flows(flows)
     , m_window(window)
-    , m_backups(context.workspace, app::StorageLocations::standard())
+    , m_backups(context.workspace, app::StorageLocations::of(context.settings))
     , m_journal(context.workspace, app::StorageLocations::standard())
     , m_deleted(context.workspace, app::StorageLocations::standard())
 {
+    followSettings();
     listen();
     askAboutUntitled();
     context.actions.bind("file.backUp", this, &ProjectCare::backUpNow);
@@ -40,6 +42,21 @@ ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, 
 }
 
 ProjectCare::~ProjectCare() = default;
+
+void ProjectCare::followSettings()
+{
+    const auto follow = [this] {
+        const app::Settings &settings = m_context.settings;
+        m_backups.setAutomatic(settings.flag(app::settings::backupsByThemselves));
+        m_backups.setFolder(app::StorageLocations::of(settings).chosenAutoBackups);
+    };
+    connect(&m_context.settings.changes(), &app::SettingsChanges::changed, this,
+            [follow](const QString &key) {
+                if (key.startsWith(QLatin1String("backups/")))
+                    follow();
+            });
+    follow();
+}
 
 void ProjectCare::listen()
 {
@@ -61,9 +78,8 @@ void ProjectCare::listen()
                 if (reason == app::BackupReason::ByHand)
                     m_context.prompts.showError(tr("Back Up Project"), message);
                 else
-                    m_context.notices.ask(QStringLiteral("backupFailed"),
-                                          tr("No backup was made: %1").arg(message),
-                                          {{tr("Show Backups"), [this] { showBackups(); }}});
+                    m_context.notices.show(tr("No backup was made: %1").arg(message),
+                                           tr("Show Backups"), [this] { showBackups(); });
             });
 }
 

@@ -31,6 +31,7 @@ public:
     void closing() { m_journal.giveUp(); }
 
 private:
+    void followSettings();
     void listen();
     void askAboutCrash();
     void askAboutUntitled();

@@ -9,7 +9,13 @@
 #include "tests/support/folders.h"
 #include "tests/support/projectbuilder.h"
 
+#include <QtCore/QProcess>
 #include <QtTest/QtTest>
+
+#include <cstdio>
+#ifdef IVOREL_FAULT_SHIM
+#include <dlfcn.h>
+#endif
 
 using namespace vl;
 using namespace vl::app;
@@ -35,6 +41,13 @@ private Q_SLOTS:
     void listsAndCounts();
     void madeWhenOpenedSavedAndClosed_data();
     void madeWhenOpenedSavedAndClosed();
+    void dailyWhateverTheClock_data();
+    void dailyWhateverTheClock();
+    void triesAgainWhatFailed_data();
+    void triesAgainWhatFailed();
+    void madeOnlyWhereWanted();
+    void fullDisk_data();
+    void fullDisk();
     void byHandHoldsWhatIsNotSaved();
     void restoresADocument_data();
     void restoresADocument();
@@ -55,6 +68,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     StorageLocations m_locations;
     QDateTime m_now;
+    qint64 m_uptime = 0; ///< milliseconds
     int m_changes = 0;
 };
 
@@ -66,6 +80,8 @@ void TestBackups::init()
     m_now = QDateTime(QDate(2024, 5, 6), QTime(12, 0), Qt::UTC);
     m_locations.root = at(QStringLiteral("data"));
     m_locations.now = [this] { return m_now; };
+    m_locations.uptime = [this] { return m_uptime; };
+    m_locations.chosenAutoBackups.clear();
 }
 
 BackupInfo TestBackups::made(const QString &folder, BackupReason reason)
@@ -325,14 +341,19 @@ void TestBackups::madeWhenOpenedSavedAndClosed()
         keeper->finish();
         QCOMPARE(reasons(), opened);
 
+        const auto settle = [&] {
+            keeper->finish();
+            QCoreApplication::processEvents();
+        };
+        settle();
         write(QStringLiteral("Two"));
         QVERIFY(workspace.current().save());
-        keeper->lookAtDay(); // the same day still
-        keeper->finish();
+        workspace.flush(); // the same day still
+        settle();
         QCOMPARE(reasons(), opened);
         m_now = m_now.addDays(1);
-        keeper->lookAtDay();
-        keeper->finish();
+        workspace.flush(); // as each tick of the autosave does
+        settle();
         QCOMPARE(reasons(), daily);
 
         write(QStringLiteral("Three"));
@@ -352,6 +373,248 @@ void TestBackups::madeWhenOpenedSavedAndClosed()
     }
     QCOMPARE(reasons().size(), 3);
 }
+
+namespace {
+
+/// An open project whose backups are kept, and what is told of them.
+struct KeptProject
+{
+    KeptProject(const QString &folder, const StorageLocations &locations)
+        : keeper(workspace, locations)
+    {
+        QObject::connect(&keeper, &BackupKeeper::made, &keeper,
+                         [this](BackupReason reason) { made.append(reason); });
+        QObject::connect(&keeper, &BackupKeeper::failed, &keeper,
+                         [this](BackupReason, const QString &fault) { faults.append(fault); });
+        write();
+        if (!workspace.current().saveAsFolder(folder))
+            qFatal("no place");
+        settle();
+    }
+    void write()
+    {
+        workspace.push<core::AddObjectCommand>(
+            workspace.project(),
+            std::make_unique<core::Document>(core::ContentId::create(), core::DocumentKind::Prose,
+                                             QStringLiteral("New")));
+    }
+    /// What the autosave does.
+    void tick()
+    {
+        workspace.flush();
+        if (workspace.current().isDirty() && !workspace.current().save())
+            qFatal("not saved");
+        settle();
+    }
+    void settle()
+    {
+        keeper.finish();
+        QCoreApplication::processEvents();
+    }
+
+    Workspace workspace;
+    BackupKeeper keeper;
+    QList<BackupReason> made;
+    QStringList faults;
+};
+
+} // namespace
+
+void TestBackups::dailyWhateverTheClock_data()
+{
+    QTest::addColumn<int>("clock");  // hours by which it goes on, or back, for each day that passes
+    QTest::addColumn<int>("uptime"); // hours
+    QTest::newRow("open for days") << 24 << 24;
+    QTest::newRow("asleep by night, when the other clock stands still") << 24 << 8;
+    QTest::newRow("a clock that stands still") << 0 << 24;
+    QTest::newRow("a clock that goes back") << -24 << 24;
+    QTest::newRow("a clock that is years ahead") << 24 * 3000 << 24;
+}
+
+void TestBackups::dailyWhateverTheClock()
+{
+    QFETCH(int, clock);
+    QFETCH(int, uptime);
+    KeptProject project(at(QStringLiteral("novel")), m_locations);
+    QCOMPARE(project.made, QList<BackupReason>{BackupReason::Opened});
+    for (int day = 1; day <= 3; ++day) {
+        m_now = m_now.addSecs(qint64(clock) * 3600);
+        m_uptime += qint64(uptime) * 3600 * 1000;
+        project.write();
+        for (int i = 0; i < 4; ++i)
+            project.tick();
+        QCOMPARE(project.made.size(), 1 + day);
+        QCOMPARE(project.made.last(), BackupReason::Daily);
+    }
+    m_uptime += 1000 * 3600 * 24;
+    m_now = m_now.addDays(1);
+    project.tick(); // nothing was written since
+    QCOMPARE(project.made.size(), 4);
+}
+
+void TestBackups::triesAgainWhatFailed_data()
+{
+    QTest::addColumn<bool>("isChosen");
+    QTest::addColumn<QString>("obstacle");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("a file in the folder's place") << false << "file"
+                                                  << "Could not create the folder for: ";
+    QTest::newRow("the chosen folder is not there") << true << ""
+                                                    << "The folder for backups does not exist: ";
+    QTest::newRow("a file where the chosen folder was")
+        << true << "file"
+        << "The folder for backups does not exist: ";
+}
+
+void TestBackups::triesAgainWhatFailed()
+{
+    QFETCH(bool, isChosen);
+    QFETCH(QString, obstacle);
+    QFETCH(QString, message);
+    const QString place = at(isChosen ? QStringLiteral("stick") : QStringLiteral("data"));
+    if (isChosen)
+        m_locations.chosenAutoBackups = place;
+    if (!obstacle.isEmpty())
+        putFile(place, "in the way");
+    KeptProject project(at(QStringLiteral("novel")), m_locations);
+    QCOMPARE(project.faults.size(), 1);
+    QVERIFY2(project.faults.first().startsWith(message), qPrintable(project.faults.first()));
+    // It is tried again now and then, without telling the same over and over.
+    for (int i = 0; i < 5; ++i) {
+        project.write();
+        project.tick();
+        m_uptime += BackupKeeper::patience;
+    }
+    QCOMPARE(project.faults.size(), 1);
+    QFile::remove(place);
+    QVERIFY(QDir().mkpath(place));
+    project.tick();
+    QCOMPARE(project.made, QList<BackupReason>{BackupReason::Opened});
+    const std::vector<BackupInfo> list = backups(at(QStringLiteral("novel"))).list();
+    QCOMPARE(list.size(), 1U);
+    QVERIFY(list.front().path.startsWith(place));
+    m_uptime += BackupKeeper::patience;
+    project.tick();
+    QCOMPARE(project.made.size(), 1);
+}
+
+void TestBackups::madeOnlyWhereWanted()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    const QString chosen = at(QStringLiteral("stick"));
+    QVERIFY(QDir().mkpath(chosen));
+    KeptProject project(folder, m_locations);
+    QCOMPARE(project.made.size(), 1);
+    const auto nextDay = [&] {
+        m_now = m_now.addDays(1);
+        project.write();
+        project.tick();
+        project.tick();
+    };
+    project.keeper.setAutomatic(false);
+    nextDay();
+    QCOMPARE(project.made.size(), 1);
+    project.keeper.backUpNow(); // who asks gets one
+    project.settle();
+    QCOMPARE(project.made, (QList<BackupReason>{BackupReason::Opened, BackupReason::ByHand}));
+    project.keeper.setAutomatic(true);
+    project.keeper.setFolder(chosen);
+    nextDay();
+    QCOMPARE(project.made.size(), 3);
+    // All are listed, whichever place they lie in.
+    const std::vector<BackupInfo> list = project.keeper.backups().list();
+    QCOMPARE(list.size(), 3U);
+    QVERIFY(list.front().path.startsWith(chosen));
+    QVERIFY(!list.back().path.startsWith(chosen));
+    QCOMPARE(backups(folder).list().size(), 2U);
+    // One that lies in the project would hold those before it.
+    project.keeper.setFolder(folder);
+    nextDay();
+    QCOMPARE(project.made.size(), 3);
+    QCOMPARE(project.faults.size(), 1);
+    QVERIFY(project.faults.first().startsWith(
+        QStringLiteral("The folder for backups lies in the project itself: ")));
+}
+
+void TestBackups::fullDisk_data()
+{
+    QTest::addColumn<QString>("mode");
+    for (const char *mode : {"once", "full", "refused"})
+        QTest::newRow(mode) << QString::fromLatin1(mode);
+}
+
+/// A backup is made again and again with its first, second, third… file call going wrong, until it
+/// ends undisturbed.
+void TestBackups::fullDisk()
+{
+#ifndef IVOREL_FAULT_SHIM
+    QSKIP("there is no library here that makes file calls fail");
+#else
+    QFETCH(QString, mode);
+    int at = 1;
+    for (;; ++at) {
+        QVERIFY2(at < 200, "it never ends undisturbed");
+        const QTemporaryDir root(QDir::tempPath() + QStringLiteral("/ivorel fàults-XXXXXX"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(IVOREL_FAULT_SHIM));
+        environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                           QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+        environment.insert(QStringLiteral("IVOREL_FAULT_ROOT"), root.path());
+        environment.insert(QStringLiteral("IVOREL_FAULT_AT"), QString::number(at));
+        environment.insert(QStringLiteral("IVOREL_FAULT_MODE"), mode);
+        QProcess child;
+        child.setProcessEnvironment(environment);
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        child.start(QCoreApplication::applicationFilePath(),
+                    {QStringLiteral("--fail"), root.path()});
+        QVERIFY(child.waitForFinished(60000));
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        const QByteArray told = child.readAllStandardOutput();
+        if (told == "undisturbed")
+            break;
+        QVERIFY2(told == "survived", told.constData());
+    }
+    QVERIFY2(at > 4, "hardly anything was disturbed");
+#endif
+}
+
+#ifdef IVOREL_FAULT_SHIM
+/// Makes a backup while a file call fails, then another when the disk is well again: what became of
+/// it, in words.
+static QByteArray backUpOnFailingDisk(const QString &root)
+{
+    const auto arm = reinterpret_cast<void (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_arm"));
+    const auto hasFired = reinterpret_cast<int (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_fired"));
+    if (!arm || !hasFired)
+        return "nothing makes calls fail";
+    const QString folder = root + QStringLiteral("/novel");
+    putFile(folder + QStringLiteral("/project.json"), "{}");
+    putFile(folder + QStringLiteral("/assets/picture"), QByteArray(100000, 'p'));
+    StorageLocations locations;
+    locations.root = root + QStringLiteral("/data");
+    const AutoBackups backups(folder, locations, &summarizeBackup);
+    arm();
+    const auto first = backups.add({folder, {}}, BackupReason::Opened);
+    const bool isDisturbed = hasFired() != 0;
+    if (!first && first.message().isEmpty())
+        return "no message";
+    for (const BackupInfo &backup : backups.list())
+        if (!loadBackup(backup.path))
+            return "half a backup is listed";
+    if (first && backups.list().empty())
+        return "a false success";
+    // What is left over of it does not keep the next one from being made.
+    if (!backups.add({folder, {}}, BackupReason::Daily))
+        return "the next one failed";
+    const std::vector<BackupInfo> list = backups.list();
+    if (list.size() != 1)
+        return "not one backup but " + QByteArray::number(int(list.size()));
+    const auto bundle = readBundle(list.front().path);
+    if (!bundle || bundle->archive.entries().size() != 2)
+        return "a file is missing in it";
+    return isDisturbed ? "survived" : "undisturbed";
+}
+#endif
 
 void TestBackups::byHandHoldsWhatIsNotSaved()
 {
@@ -471,5 +734,21 @@ void TestBackups::differences()
     QCOMPARE(lines.join(u'|'), shown);
 }
 
-QTEST_GUILESS_MAIN(TestBackups)
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+#ifdef IVOREL_FAULT_SHIM
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("--fail")) {
+        const QByteArray told = backUpOnFailingDisk(arguments.value(2));
+        return std::fwrite(told.constData(), 1, size_t(told.size()), stdout) == size_t(told.size())
+                   ? 0
+                   : 1;
+    }
+#endif
+    TestBackups test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_backups.moc"
