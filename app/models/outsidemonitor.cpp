@@ -19,6 +19,7 @@ namespace {
 
 constexpr int patienceMilliseconds = 3000;
 constexpr int lookAgainMilliseconds = 300;
+constexpr int handsMilliseconds = 100;
 
 /// What is put away before a decision is carried out; run on another thread.
 struct BackupWork
@@ -109,6 +110,9 @@ OutsideMonitor::OutsideMonitor(Workspace &workspace, StorageLocations locations,
 {
     m_patienceTimer.setSingleShot(true);
     m_patienceTimer.setInterval(lookAgainMilliseconds);
+    m_handsTimer.setSingleShot(true);
+    m_handsTimer.setInterval(handsMilliseconds);
+    connect(&m_handsTimer, &QTimer::timeout, this, &OutsideMonitor::decisionPrepared);
     connect(&m_patienceTimer, &QTimer::timeout, this, &OutsideMonitor::look);
     connect(&m_watcher, &OutsideWatcher::stirred, this, &OutsideMonitor::look);
     connect(&m_looking, &QFutureWatcherBase::finished, this, &OutsideMonitor::lookEnded);
@@ -140,6 +144,10 @@ void OutsideMonitor::follow()
     m_watcher.watch(m_workspace.current().path(), m_workspace.current().isBundle());
     m_waitingSince.invalidate();
     m_patienceTimer.stop();
+    if (m_handsTimer.isActive()) // it was about the project that is gone
+        m_decided.clear();
+    m_handsTimer.stop();
+    m_isPutOff = false;
     m_state = {};
     renewOffer();
 }
@@ -154,7 +162,7 @@ void OutsideMonitor::check()
 void OutsideMonitor::look()
 {
     OpenProject &project = m_workspace.current();
-    if (m_looking.isRunning() || m_deciding.isRunning() || project.isSaving()) {
+    if (isBusy() || project.isSaving()) {
         m_looksAgain = true;
         return;
     }
@@ -280,7 +288,7 @@ void OutsideMonitor::apply(const std::vector<ReconcileEntry> &entries)
 void OutsideMonitor::decide(Decision decision)
 {
     OpenProject &project = m_workspace.current();
-    if (m_deciding.isRunning() || !project.hasLocation())
+    if (m_deciding.isRunning() || m_handsTimer.isActive() || !project.hasLocation())
         return;
     if (project.history().isGroupOpen()) {
         Q_EMIT failed(tr("Something else is being done to the project; try again."));
@@ -332,16 +340,33 @@ void OutsideMonitor::decide(Decision decision)
         }));
 }
 
+bool OutsideMonitor::isStillTrue(const Prepared &prepared) const
+{
+    const OpenProject &project = m_workspace.current();
+    return isSameFinding(prepared.state, m_state)
+           && m_decidedGeneration == project.filesGeneration() && !project.isSaving()
+           && !project.history().isGroupOpen()
+           && (m_decision == Decision::Keep
+               || isAboutTheSame(m_decided, project.reconcile(m_state)));
+}
+
 void OutsideMonitor::decisionPrepared()
 {
+    // What is being dragged, or asked about in a dialog, stays as it is until that is over.
+    if (m_mayChange && !m_mayChange()) {
+        m_isPutOff = true;
+        m_handsTimer.start();
+        return;
+    }
     m_workspace.flush();
+    const bool wasPutOff = std::exchange(m_isPutOff, false);
     OpenProject &project = m_workspace.current();
     Prepared prepared = m_deciding.result();
-    const bool isSame =
-        isSameFinding(prepared.state, m_state) && m_decidedGeneration == project.filesGeneration()
-        && !project.isSaving() && !project.history().isGroupOpen()
-        && (m_decision == Decision::Keep || isAboutTheSame(m_decided, project.reconcile(m_state)));
-    if (!isSame) {
+    if (wasPutOff && (project.isSaving() || m_decidedGeneration != project.filesGeneration())) {
+        decide(m_decision); // a save came between, which is no reason to ask again
+        return;
+    }
+    if (!isStillTrue(prepared)) {
         Q_EMIT failed(tr("The project changed again meanwhile; look at the changes once more."));
         m_watcher.stir();
         return;

@@ -12,6 +12,7 @@
 #include <QtCore/QStringList>
 #include <QtCore/QTimer>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -42,13 +43,19 @@ public:
     /// question is settled already.
     std::vector<ReconcileEntry> entries() const;
     /// Whether a look or a decision is on its way.
-    bool isBusy() const { return m_looking.isRunning() || m_deciding.isRunning(); }
+    bool isBusy() const
+    {
+        return m_looking.isRunning() || m_deciding.isRunning() || m_handsTimer.isActive();
+    }
     /// Whether loading what is on disk would take more than half of the project away.
     bool removesMuch() const;
 
     OutsideWatcher &watcher() { return m_watcher; }
     /// How long files that hold nothing whole, or are all gone, are waited for, in milliseconds.
     void setPatience(int milliseconds) { m_patience = milliseconds; }
+    /// A decision is carried out only while this says that nothing is under the user's hands that
+    /// it would change; until then it waits. Without it nothing is.
+    void setMayChange(std::function<bool()> mayChange) { m_mayChange = std::move(mayChange); }
 
 public Q_SLOTS:
     /// Looks now; nothingFound() comes when there is nothing to tell, else offerChanged().
@@ -103,6 +110,7 @@ private:
     void renewOffer();
     void decide(Decision decision);
     void decisionPrepared();
+    bool isStillTrue(const Prepared &prepared) const;
     void carryOut();
     void tellMedia(const OutsideState &state);
 
@@ -118,6 +126,10 @@ private:
     QTimer m_patienceTimer;
     QElapsedTimer m_waitingSince; ///< for files to become whole
     int m_patience;
+
+    std::function<bool()> m_mayChange;
+    QTimer m_handsTimer;     ///< until the user's hands are looked at again
+    bool m_isPutOff = false; ///< a decision waited for them
 
     QFutureWatcher<Prepared> m_deciding;
     quint64 m_decidedGeneration = 0; ///< of the files when the decision was begun

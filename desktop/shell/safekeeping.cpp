@@ -7,7 +7,7 @@
 #include "desktop/dialogs/externalchangesdialog.h"
 #include "desktop/shell/notices.h"
 
-#include <QtGui/QGuiApplication>
+#include <QtWidgets/QApplication>
 
 namespace vl::desktop {
 
@@ -15,6 +15,14 @@ namespace {
 
 const QString outsideNotice = QStringLiteral("outsideChanges");
 const QString mediaNotice = QStringLiteral("outsideMedia");
+
+/// Nothing is put in place of what is under the user's hands: what is dragged or selected with the
+/// mouse, a menu, a dialog.
+bool areHandsFree()
+{
+    return QGuiApplication::mouseButtons() == Qt::NoButton && !QApplication::activePopupWidget()
+           && !QApplication::activeModalWidget();
+}
 
 } // namespace
 
@@ -25,6 +33,7 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
 {
     connect(&context.workspace, &app::Workspace::projectReplaced, this,
             &SafeKeeping::followProject);
+    m_outside.setMayChange(&areHandsFree);
     connect(&m_outside, &app::OutsideMonitor::offerChanged, this, &SafeKeeping::showOffer);
     connect(&m_outside, &app::OutsideMonitor::nothingFound, this, [this] {
         m_isAsked = false;

@@ -1,0 +1,206 @@
+#include "app/models/autosavecontroller.h"
+#include "app/models/documentoperations.h"
+#include "app/storage/projectpaths.h"
+#include "app/storage/projectwriter.h"
+#include "core/content/document.h"
+#include "desktop/panels/editortextwidget.h"
+#include "desktop/shell/mainwindow.h"
+#include "desktop/shell/safekeeping.h"
+#include "tests/support/folders.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QTreeView>
+
+using namespace vl;
+using core::Document;
+using core::DocumentKind;
+
+namespace {
+
+/// The window with a project of three scenes that is saved as a folder.
+struct Desk
+{
+    QTemporaryDir dir{QDir::tempPath() + QStringLiteral("/ivorel säfe-XXXXXX")};
+    bool isApart = qputenv("XDG_DATA_HOME", QFile::encodeName(dir.path()));
+    app::Settings settings{dir.filePath(QStringLiteral("settings.ini"))};
+    desktop::MainWindow window{settings};
+    desktop::EditorTextWidget *text = window.findChild<desktop::EditorTextWidget *>();
+    QTreeView *tree = window.findChild<QTreeView *>(QStringLiteral("documentsTree"));
+    app::AutosaveController &autosave = window.safeKeeping().autosave();
+    app::OutsideMonitor &outside = window.safeKeeping().outside();
+    QList<core::ContentId> ids;
+
+    Desk()
+    {
+        window.resize(1000, 700);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
+            qFatal("the window does not show");
+        for (const char *title : {"One", "Two", "Three"}) {
+            ids.append(app::DocumentOperations(window.workspace()).add(DocumentKind::Prose, {}));
+            document(ids.last())->setTitle(QString::fromLatin1(title));
+        }
+        window.workspace().select(ids.first());
+        if (!current().saveAsFolder(dir.filePath(QStringLiteral("folder"))))
+            qFatal("no place");
+        QCoreApplication::processEvents();
+    }
+    app::OpenProject &current() { return window.workspace().current(); }
+    Document *document(const core::ContentId &id)
+    {
+        return window.workspace().project().find<Document>(id);
+    }
+    QString bodyOnDisk(const core::ContentId &id)
+    {
+        const auto opened = app::OpenProject::openReadOnly(current().path());
+        const auto *found = opened ? (*opened)->project().find<Document>(id) : nullptr;
+        return found ? found->body() : QString();
+    }
+    /// What a co-author does: another body for the second scene, and a fourth one.
+    core::ContentId changeOutside()
+    {
+        const auto put = [this](const core::ContentId &id, const char *title) {
+            Document theirs(id, DocumentKind::Prose, QString::fromLatin1(title));
+            theirs.setBody(QStringLiteral("Theirs."));
+            theirs.setSortIndex(7);
+            test::putFile(current().path() + u'/' + app::objectPath(id),
+                          app::serializeObject(theirs));
+        };
+        const auto id = core::ContentId::create();
+        put(ids.at(1), "Two");
+        put(id, "Four");
+        return id;
+    }
+    void type(const char *words)
+    {
+        text->setFocus();
+        text->moveCursor(QTextCursor::End);
+        QTest::keyClicks(text, QString::fromLatin1(words));
+    }
+};
+
+} // namespace
+
+class TestSafeKeeping : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void savesBehindADialog();
+    void waitsForTheUsersHands_data();
+    void waitsForTheUsersHands();
+};
+
+void TestSafeKeeping::savesBehindADialog()
+{
+    Desk desk;
+    desk.type("Typed, and not handed in.");
+    QSignalSpy saved(&desk.autosave, &app::AutosaveController::saved);
+    bool isSavedBehind = false;
+    QTimer::singleShot(0, &desk.window, [&] {
+        auto *dialog = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *field = dialog->findChild<QLineEdit *>();
+        QTest::keyClicks(field, QStringLiteral("A na"));
+        desk.autosave.setInterval(10);
+        desk.autosave.start();
+        isSavedBehind =
+            saved.wait(10000) && dialog->isVisible() && field->hasFocus()
+            && desk.bodyOnDisk(desk.ids.first()) == QStringLiteral("Typed, and not handed in.");
+        QTest::keyClicks(field, QStringLiteral("me"));
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    const std::optional<QString> answer =
+        desk.window.prompts().askText(QStringLiteral("Rename"), QStringLiteral("Name:"), QString());
+    QVERIFY(isSavedBehind);
+    QCOMPARE(answer.value_or(QString()), QStringLiteral("A name"));
+    QVERIFY(!desk.current().isDirty());
+}
+
+void TestSafeKeeping::waitsForTheUsersHands_data()
+{
+    QTest::addColumn<QString>("hands"); // what they are at
+    QTest::newRow("a drag") << "drag";
+    QTest::newRow("a dialog") << "dialog";
+    QTest::newRow("a menu") << "menu";
+}
+
+/// While a row is dragged, or a dialog asks about one, a merge that was begun is put off; the
+/// autosave goes on. Then it is done, on top of what the user did.
+void TestSafeKeeping::waitsForTheUsersHands()
+{
+    QFETCH(QString, hands);
+    Desk desk;
+    const core::ContentId fourth = desk.changeOutside();
+    desk.outside.lookSoon();
+    QTRY_VERIFY_WITH_TIMEOUT(desk.outside.offer().kind != app::OutsideOffer::Kind::None, 20000);
+    QSignalSpy done(&desk.outside, &app::OutsideMonitor::done);
+    QSignalSpy saved(&desk.autosave, &app::AutosaveController::saved);
+    QAbstractItemModel &model = *desk.tree->model();
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy inserts(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy layouts(&model, &QAbstractItemModel::layoutChanged);
+    desk.type("Mine.");
+
+    QString fault = QStringLiteral("it never began");
+    const auto whileBusy = [&] {
+        desk.outside.load();
+        desk.autosave.saveNow();
+        QTest::qWait(600); // a merge takes a small part of that
+        fault = !done.isEmpty()                           ? QStringLiteral("merged")
+                : saved.isEmpty()                         ? QStringLiteral("not saved")
+                : !resets.isEmpty() || !inserts.isEmpty() ? QStringLiteral("rows changed")
+                : !layouts.isEmpty()                      ? QStringLiteral("rows moved")
+                                                          : QString();
+    };
+    if (hands == QLatin1String("drag")) {
+        // The drag ends at once on this platform, but the button is held; others want a true mouse.
+        if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+            QSKIP("nobody moves the mouse");
+        QWindow *handle = desk.window.windowHandle();
+        const auto place = [&](int row) {
+            const QPoint centre = desk.tree->visualRect(model.index(row, 0)).center();
+            return desk.tree->viewport()->mapTo(&desk.window, centre);
+        };
+        const QPoint from = place(0);
+        const QPoint to = place(2);
+        bool isOver = false;
+        QTest::mousePress(handle, Qt::LeftButton, {}, from);
+        QTest::mouseMove(handle, from + QPoint(0, 4));
+        QTimer::singleShot(100, &desk.window, [&] {
+            whileBusy();
+            QTest::mouseMove(handle, to);
+            QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
+            isOver = true;
+        });
+        QTest::mouseMove(handle, from + QPoint(0, 40));
+        QTRY_VERIFY_WITH_TIMEOUT(isOver, 20000);
+    } else if (hands == QLatin1String("dialog")) {
+        QTimer::singleShot(0, &desk.window, [&] {
+            whileBusy();
+            QApplication::activeModalWidget()->close();
+        });
+        desk.window.prompts().askText(QStringLiteral("Rename"), QStringLiteral("Name:"), {});
+    } else {
+        QMenu menu(&desk.window);
+        menu.addAction(QStringLiteral("Rename"));
+        QTimer::singleShot(0, &desk.window, [&] {
+            whileBusy();
+            menu.close();
+        });
+        menu.exec(desk.window.mapToGlobal(QPoint(10, 10)));
+    }
+    QCOMPARE(fault, QString());
+    QTRY_COMPARE_WITH_TIMEOUT(done.size(), 1, 20000);
+    QVERIFY(desk.document(fourth));
+    QCOMPARE(desk.document(desk.ids.at(1))->body(), QStringLiteral("Theirs."));
+    QCOMPARE(desk.document(desk.ids.first())->body(), QStringLiteral("Mine."));
+}
+
+QTEST_MAIN(TestSafeKeeping)
+#include "tst_safekeeping.moc"
