@@ -9,6 +9,9 @@ namespace {
 
 void keepDataApart()
 {
+    const char *const isApart = "IVOREL_TEST_IS_APART";
+    if (qEnvironmentVariableIsSet(isApart))
+        return; // the program again, started by its own test
     static const QTemporaryDir home;
     if (!home.isValid())
         qFatal("no folder for what the test keeps");
@@ -17,6 +20,7 @@ void keepDataApart()
         qunsetenv(name);
     // Programs that the test starts keep theirs there too.
     qputenv("HOME", QFile::encodeName(home.path()));
+    qputenv(isApart, "1");
 }
 
 } // namespace
