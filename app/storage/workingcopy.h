@@ -24,7 +24,7 @@ struct StorageLocations
     /// Milliseconds since some moment, which only ever grow, whatever is done to the clock.
     std::function<qint64()> uptime = [] { return QDeadlineTimer::current().deadline(); };
     /// Where the user wants the backups that are made without being asked; empty for below `root`.
-    QString chosenAutoBackups;
+    QString chosenAutoBackups = {};
 
     /// The system's folder for this program's data, and its clock.
     static StorageLocations standard();
