@@ -33,6 +33,7 @@ HandOver::HandOver(QWidget *window, app::Prompts &prompts, OpenHere openHere,
     , m_prompts(prompts)
     , m_openHere(std::move(openHere))
     , m_openElsewhere(std::move(openElsewhere))
+    , m_again(this)
 {
     m_again.setSingleShot(true);
     m_again.setInterval(againMilliseconds);

@@ -4,6 +4,8 @@
 #include <QtCore/QSocketNotifier>
 
 #ifdef Q_OS_LINUX
+#include <cerrno>
+
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -48,8 +50,11 @@ void ProcessWatch::watch([[maybe_unused]] qint64 process)
     stop();
 #if defined(Q_OS_LINUX) && defined(SYS_pidfd_open)
     m_handle = int(syscall(SYS_pidfd_open, pid_t(process), 0));
-    if (m_handle < 0)
+    if (m_handle < 0) {
+        if (errno == ESRCH) // it ended a moment ago
+            QMetaObject::invokeMethod(this, &ProcessWatch::ended, Qt::QueuedConnection);
         return;
+    }
     m_notifier = new QSocketNotifier(m_handle, QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, [this] {
         stop();

@@ -117,6 +117,7 @@ bool SingleInstanceServer::isListening() const
 void SingleInstanceServer::listen()
 {
     m_successor.stop();
+    m_waitsForName = false;
     if (!m_server->listen(m_name)) {
         QLocalServer::removeServer(m_name);
         m_server->listen(m_name);
@@ -163,6 +164,7 @@ void SingleInstanceServer::listenUnlessAnswered()
         probe.abort();
         watchName();
         m_successor.watch(successor->process);
+        m_waitsForName = true;
         return;
     }
     m_server->close();

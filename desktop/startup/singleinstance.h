@@ -41,6 +41,8 @@ public:
     ~SingleInstanceServer() override;
 
     bool isListening() const;
+    /// Whether another window answers to the name now, so that this one waits for its end.
+    bool waitsForName() const { return m_waitsForName; }
 
     /// A message is at most this many bytes long, its line feed included.
     static constexpr qsizetype maxMessageBytes = 64 * 1024;
@@ -65,6 +67,7 @@ private:
     QFileSystemWatcher m_nameWatch;
     ProcessWatch m_successor; ///< the process that holds the name now
     quint64 m_node = 0;       ///< of the socket's own entry in the file system
+    bool m_waitsForName = false;
     int m_lineTimeout = 5000; ///< in milliseconds
     int m_lockTries = 0;      ///< in vain, since the lock was had last
 };
