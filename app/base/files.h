@@ -101,6 +101,10 @@ struct FileIdentity
     bool operator==(const FileIdentity &) const = default;
 };
 
+/// The number that the file system gave to what stands at this path, be it a file, a folder or a
+/// socket; 0 when nothing stands there or the system has no such numbers.
+quint64 entryNode(const QString &path);
+
 /// Whether the two paths lead to one and the same existing file.
 bool areSameFile(const QString &a, const QString &b);
 

@@ -84,6 +84,11 @@ FileIdentity FileIdentity::of(const QString &path)
     return identity;
 }
 
+quint64 entryNode(const QString & /*path*/)
+{
+    return 0;
+}
+
 bool areSameFile(const QString &a, const QString &b)
 {
     const QString first = QFileInfo(a).canonicalFilePath();

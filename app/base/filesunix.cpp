@@ -282,6 +282,14 @@ FileIdentity FileIdentity::of(const QString &path)
     return identity;
 }
 
+quint64 entryNode(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return 0;
+    return quint64(status.st_ino);
+}
+
 bool areSameFile(const QString &a, const QString &b)
 {
     const FileIdentity first = FileIdentity::of(a);

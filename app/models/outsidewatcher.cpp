@@ -1,5 +1,6 @@
 #include "app/models/outsidewatcher.h"
 
+#include "app/base/files.h"
 #include "app/storage/outsidescan.h"
 #include "app/storage/projectpaths.h"
 
@@ -49,7 +50,10 @@ void OutsideWatcher::watch(const QString &path, bool isBundle)
     m_quiet.stop();
     m_sinceFirst.invalidate();
     m_asking.stop();
-    renew();
+    m_nodes.clear();
+    if (path.isEmpty())
+        renew();
+    // The look that follows the first answer begins to watch, and sees what came before it.
     askForTouched();
 }
 
@@ -61,25 +65,42 @@ void OutsideWatcher::setDelays(int quiet, int asking)
         m_asking.start(asking);
 }
 
-void OutsideWatcher::renew()
+QStringList OutsideWatcher::pathsToWatch() const
 {
-    for (const QStringList &old : {m_watcher.directories(), m_watcher.files()})
-        if (!old.isEmpty())
-            m_watcher.removePaths(old);
     if (m_path.isEmpty())
-        return;
-    QStringList paths;
+        return {};
     // The folder around it tells when the whole project is replaced.
     const QString parent = QFileInfo(m_path).absolutePath();
-    for (const QString &path :
-         m_isBundle ? QStringList{parent, m_path}
-                    : QStringList{parent, m_path, m_path + u'/' + objectsFolder(),
-                                  m_path + u'/' + taxonomyFolder(), m_path + u'/' + assetsFolder(),
-                                  m_path + u'/' + recordsPath()})
-        if (QFileInfo::exists(path))
-            paths.append(path);
-    if (!paths.isEmpty())
-        m_watcher.addPaths(paths);
+    QStringList paths = m_isBundle ? QStringList{parent, m_path}
+                                   : QStringList{parent,
+                                                 m_path,
+                                                 m_path + u'/' + objectsFolder(),
+                                                 m_path + u'/' + taxonomyFolder(),
+                                                 m_path + u'/' + assetsFolder(),
+                                                 m_path + u'/' + recordsPath()};
+    paths.removeIf([](const QString &path) { return !QFileInfo::exists(path); });
+    return paths;
+}
+
+void OutsideWatcher::renew()
+{
+    QStringList missing = pathsToWatch();
+    QStringList old = m_watcher.files();
+    const QStringList folders = m_watcher.directories();
+    for (const QString &folder : folders) {
+        // To begin to watch a folder of many files takes the system long.
+        const quint64 node = missing.contains(folder) ? entryNode(folder) : 0;
+        if (node != 0 && node == m_nodes.value(folder))
+            missing.removeAll(folder);
+        else
+            old.append(folder);
+    }
+    if (!old.isEmpty())
+        m_watcher.removePaths(old);
+    for (const QString &path : std::as_const(missing))
+        m_nodes.insert(path, entryNode(path));
+    if (!missing.isEmpty())
+        m_watcher.addPaths(missing);
 }
 
 void OutsideWatcher::stir()

@@ -3,6 +3,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFileSystemWatcher>
 #include <QtCore/QFutureWatcher>
+#include <QtCore/QHash>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QTimer>
@@ -39,10 +40,12 @@ Q_SIGNALS:
     void stirred();
 
 private:
+    QStringList pathsToWatch() const;
     void askForTouched();
     void takeSignature();
 
     QFileSystemWatcher m_watcher;
+    QHash<QString, quint64> m_nodes; ///< of the folders, when they began to be watched
     QString m_path;
     bool m_isBundle = false;
     QTimer m_quiet;

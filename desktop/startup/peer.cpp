@@ -1,13 +1,11 @@
 #include "desktop/startup/peer.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QSocketNotifier>
 
 #ifdef Q_OS_LINUX
 #include <cerrno>
 
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 #endif
@@ -23,16 +21,6 @@ std::optional<Peer> peerOf([[maybe_unused]] qintptr socket)
         return Peer{credentials.pid, credentials.uid == geteuid()};
 #endif
     return std::nullopt;
-}
-
-quint64 entryNode([[maybe_unused]] const QString &path)
-{
-#ifdef Q_OS_LINUX
-    struct stat status = {};
-    if (stat(QFile::encodeName(path).constData(), &status) == 0)
-        return quint64(status.st_ino);
-#endif
-    return 0;
 }
 
 ProcessWatch::ProcessWatch(QObject *parent)

@@ -19,9 +19,6 @@ struct Peer
 /// Who is at the other end of a connected local socket; nothing where the system does not tell.
 std::optional<Peer> peerOf(qintptr socket);
 
-/// The number of the file system's entry at this path; 0 when there is none or the system has none.
-quint64 entryNode(const QString &path);
-
 /// Tells when another process has ended, however it ended. Says nothing where the system cannot.
 class ProcessWatch final : public QObject
 {

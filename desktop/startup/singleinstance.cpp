@@ -1,5 +1,7 @@
 #include "desktop/startup/singleinstance.h"
 
+#include "app/base/files.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QLockFile>
 #include <QtCore/QTimer>
@@ -122,7 +124,7 @@ void SingleInstanceServer::listen()
         QLocalServer::removeServer(m_name);
         m_server->listen(m_name);
     }
-    m_node = entryNode(m_server->fullServerName());
+    m_node = app::entryNode(m_server->fullServerName());
     watchName();
 }
 
@@ -138,7 +140,7 @@ void SingleInstanceServer::watchName()
 
 bool SingleInstanceServer::holdsName() const
 {
-    return m_node != 0 && entryNode(m_server->fullServerName()) == m_node;
+    return m_node != 0 && app::entryNode(m_server->fullServerName()) == m_node;
 }
 
 void SingleInstanceServer::nameChanged()
