@@ -30,7 +30,7 @@ bool RepairFlow::offer(const QString &path, const QString &message)
         damaged.leftOut = repair->leftOut();
         damaged.conflicts = repair->conflicts();
         damaged.fromWorkingCopy = repair->fromWorkingCopy();
-        damaged.isRepairable = !damaged.leftOut.empty() || !damaged.fromWorkingCopy.isEmpty();
+        damaged.isRepairable = repair->isOfUse();
     }
     QString backupPath;
     const AutoBackups backups(path, m_locations, &summarizeBackup);

@@ -2,12 +2,14 @@
 
 #include "app/storage/archive.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QSet>
 #include <QtCore/QtEndian>
 
 #include <libdeflate.h>
 
 #include <optional>
+#include <utility>
 
 namespace vl::app {
 
@@ -119,10 +121,7 @@ private:
         m_budget -= header->size;
         const QByteArrayView data = QByteArrayView(m_bytes).sliced(header->begin, header->size);
         if (crcOf(data) == header->crc) {
-            if (!m_names.contains(name)) {
-                m_names.insert(name);
-                m_result.files.push_back({name, data.toByteArray()});
-            }
+            keep(name, data);
             return end;
         }
         m_result.damaged.append(name);
@@ -133,9 +132,21 @@ private:
         return isTrue ? end : offset + 1;
     }
 
+    /// What was appended to an archive is newer than what it repeats.
+    void keep(const QString &name, QByteArrayView data)
+    {
+        const auto known = m_places.constFind(name);
+        if (known == m_places.constEnd()) {
+            m_places.insert(name, m_result.files.size());
+            m_result.files.push_back({name, data.toByteArray()});
+        } else if (QByteArray &bytes = m_result.files[*known].bytes; bytes != data) {
+            m_result.repeated.push_back({name, std::exchange(bytes, data.toByteArray())});
+        }
+    }
+
     const QByteArray &m_bytes;
-    qint64 m_budget; ///< bytes that may still be summed
-    QSet<QString> m_names;
+    qint64 m_budget;                      ///< bytes that may still be summed
+    QHash<QString, std::size_t> m_places; ///< among the files
     SalvagedArchive m_result;
 };
 

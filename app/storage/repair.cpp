@@ -1,6 +1,7 @@
 #include "app/storage/repair.h"
 
 #include "app/base/files.h"
+#include "app/base/sha256.h"
 #include "app/storage/archivesalvage.h"
 #include "app/storage/bundle.h"
 #include "app/storage/lock.h"
@@ -67,15 +68,30 @@ QString unreadable(const QString &folder, const QString &path)
     return withPath(RepairText::tr("Could not read a project file: %1"), folder + u'/' + path);
 }
 
+/// The path with the first number from 2 that makes it one of its own.
+template<typename IsTaken>
+QString numberedPath(const QString &path, const IsTaken &isTaken)
+{
+    const qsizetype dot = path.lastIndexOf(u'.');
+    const qsizetype end = dot > path.lastIndexOf(u'/') + 1 ? dot : path.size();
+    QString free;
+    for (int i = 2; free.isEmpty() || isTaken(free); ++i)
+        free = QStringLiteral("%1-%2%3").arg(path.left(end), QString::number(i), path.mid(end));
+    return free;
+}
+
 /// Where a conflicting copy is put: under its own name, with a number when that is taken.
 template<typename IsTaken>
 QString asidePath(const QString &path, const IsTaken &isTaken)
 {
     const QString wanted = asideFolder + u'/' + path.section(u'/', -1);
-    QString free = wanted;
-    for (int i = 2; isTaken(free); ++i)
-        free = QStringLiteral("%1-%2.json").arg(wanted.chopped(5)).arg(i);
-    return free;
+    return isTaken(wanted) ? numberedPath(wanted, isTaken) : wanted;
+}
+
+QString repeatedReason(const QString &path)
+{
+    return RepairText::tr("The project file holds “%1” more than once; this is an earlier one.")
+        .arg(path);
 }
 
 } // namespace
@@ -126,10 +142,14 @@ Result<> ProjectRepair::readBundleFile(const StorageLocations &locations)
                         ArchiveWriter::maxBytes + 65535);
     if (!bytes)
         return bytes.asFailure();
+    m_sha256 = Sha256::of(*bytes);
     SalvagedArchive salvaged = salvageArchive(*bytes);
     ProjectFiles read;
     for (ProjectFile &file : salvaged.files)
         (isReadPath(file.path.toUtf8()) ? read : m_carried).push_back(std::move(file));
+    for (const ProjectFile &file : salvaged.repeated)
+        takeRepeated(file, read);
+    m_isSalvaged = !salvaged.isComplete;
     judge(std::move(read));
     for (const QString &name : std::as_const(salvaged.damaged))
         m_leftOut.push_back(
@@ -138,6 +158,28 @@ Result<> ProjectRepair::readBundleFile(const StorageLocations &locations)
     if (m_good.empty() && m_carried.empty())
         return failure(withPath(RepairText::tr("Nothing in this file can be read: %1"), m_path));
     return {};
+}
+
+/// An earlier file comes along under a name of its own, so that it can be compared.
+void ProjectRepair::takeRepeated(const ProjectFile &file, ProjectFiles &read)
+{
+    const auto isTaken = [&](const QString &path) {
+        const auto hasPath = [&path](const ProjectFile &other) { return other.path == path; };
+        return std::any_of(read.begin(), read.end(), hasPath)
+               || std::any_of(m_carried.begin(), m_carried.end(), hasPath)
+               || m_repeated.contains(path);
+    };
+    const QString path = numberedPath(file.path, isTaken);
+    if (file.path == recordsPath()) { // there is but one, and no other name is read as such
+        const auto kept = std::find_if(read.begin(), read.end(), [](const ProjectFile &other) {
+            return other.path == recordsPath();
+        });
+        m_leftOut.push_back({path, repeatedReason(file.path)});
+        m_conflicts.push_back({path, kept->path, file.bytes, kept->bytes});
+    } else {
+        (isReadPath(file.path.toUtf8()) ? read : m_carried).push_back({path, file.bytes});
+    }
+    m_repeated.emplace(path, file.path);
 }
 
 /// Of a file whose directory is lost nobody knows what it held, so all that the copy has is taken.
@@ -211,10 +253,13 @@ void ProjectRepair::leaveOutDuplicates(std::map<core::ContentId, std::vector<std
                 continue;
             const ProjectFile &copy = files[place];
             isLeftOut[place] = true;
+            const auto repeated = m_repeated.find(copy.path);
             m_leftOut.push_back(
-                {copy.path,
-                 RepairText::tr("Duplicate object id %1 in %2")
-                     .arg(id.toString(), QDir::toNativeSeparators(m_path + u'/' + copy.path))});
+                {copy.path, repeated != m_repeated.end()
+                                ? repeatedReason(repeated->second)
+                                : RepairText::tr("Duplicate object id %1 in %2")
+                                      .arg(id.toString(),
+                                           QDir::toNativeSeparators(m_path + u'/' + copy.path))});
             m_conflicts.push_back({copy.path, files[kept].path, copy.bytes, files[kept].bytes});
         }
     }
@@ -279,32 +324,32 @@ Result<> ProjectRepair::setConflictsAside(const StorageLocations &locations) con
         }
         return {};
     }
-    const Result<ReadBundle> bundle = readBundle(m_path);
-    if (!bundle)
-        return bundle.asFailure();
-    const Archive &archive = bundle->archive;
-    ProjectFiles files;
-    const auto isTaken = [&](const QString &path) {
-        return archive.find(path.toUtf8())
-               || std::any_of(files.begin(), files.end(),
-                              [&](const ProjectFile &file) { return file.path == path; });
+    return rewriteBundle(locations);
+}
+
+/// Writes the bundle anew, of what can be read of it, with the conflicting copies under new paths.
+Result<> ProjectRepair::rewriteBundle(const StorageLocations &locations) const
+{
+    ProjectFiles files = m_good;
+    files.insert(files.end(), m_carried.begin(), m_carried.end());
+    const auto isTaken = [&files](const QString &path) {
+        return std::any_of(files.begin(), files.end(),
+                           [&](const ProjectFile &file) { return file.path == path; });
     };
-    for (const Archive::Entry &entry : archive.entries()) {
-        const QString path = QString::fromUtf8(entry.name);
-        const bool isAside =
-            std::any_of(m_conflicts.begin(), m_conflicts.end(),
-                        [&](const ConflictingCopy &copy) { return copy.path == path; });
-        if (const std::optional<QByteArray> bytes = archive.content(entry))
-            files.push_back({isAside ? asidePath(path, isTaken) : path, *bytes});
-    }
+    for (const ConflictingCopy &copy : m_conflicts)
+        files.push_back({asidePath(copy.path, isTaken), copy.bytes});
     const Result<BundleSource> source = BundleSource::ofFiles(m_path, {}, std::move(files));
     if (!source)
         return source.asFailure();
-    const Result<QString> backup =
-        locations.backups().addBytes(bundleBaseName(m_path), archive.bytes());
-    if (!backup)
-        return backup.asFailure();
-    return BundleWriter(m_path).write(*source);
+    const Result<QByteArray> before =
+        readRegularFile(m_path, RepairText::tr("Could not open the project file: %1"),
+                        ArchiveWriter::maxBytes + 65535);
+    if (!before)
+        return before.asFailure();
+    if (Sha256::of(*before) != m_sha256)
+        return failure(RepairText::tr("The project changed outside Ivorel since you opened it."));
+    const Result<QString> backup = locations.backups().addBytes(bundleBaseName(m_path), *before);
+    return backup ? BundleWriter(m_path).write(*source) : Result<>(backup.asFailure());
 }
 
 } // namespace vl::app

@@ -24,7 +24,8 @@ struct LeftOutFile
 };
 
 /// A file that carries the id of another one and not the name that belongs to the id: what clients
-/// that keep folders in step make when two machines changed one file.
+/// that keep folders in step make when two machines changed one file. In an archive also an earlier
+/// file of a name that comes again; its path here has a number.
 struct ConflictingCopy
 {
     QString path;     ///< in the project
@@ -49,7 +50,15 @@ public:
     const QStringList &fromWorkingCopy() const { return m_fromWorkingCopy; }
     const std::vector<ConflictingCopy> &conflicts() const { return m_conflicts; }
     /// Whether all that is wrong are conflicting copies.
-    bool hasConflictsOnly() const { return m_leftOut.size() == m_conflicts.size(); }
+    bool hasConflictsOnly() const
+    {
+        return m_leftOut.size() == m_conflicts.size() && m_fromWorkingCopy.isEmpty();
+    }
+    /// Whether a copy would differ from what stands there.
+    bool isOfUse() const
+    {
+        return !m_leftOut.empty() || !m_fromWorkingCopy.isEmpty() || m_isSalvaged;
+    }
 
     /// Writes a copy that loads, as a ".vellum" file or as a folder by the ending of its path,
     /// where nothing stands yet or an empty folder.
@@ -67,8 +76,10 @@ private:
 
     Result<> readFolder();
     Result<> readBundleFile(const StorageLocations &locations);
+    Result<> rewriteBundle(const StorageLocations &locations) const;
     void fillFromWorkingCopy(const StorageLocations &locations, const QStringList &damaged,
                              bool isComplete);
+    void takeRepeated(const ProjectFile &file, ProjectFiles &read);
     void judge(ProjectFiles files);
     void leaveOutDuplicates(std::map<core::ContentId, std::vector<std::size_t>> byId,
                             const ProjectFiles &files, bool areObjects,
@@ -76,6 +87,9 @@ private:
 
     QString m_path; ///< absolute
     bool m_isFolder = false;
+    bool m_isSalvaged = false;              ///< the archive's directory is of no use
+    std::map<QString, QString> m_repeated;  ///< the names of earlier files, by their paths here
+    QByteArray m_sha256;                    ///< of the archive's bytes
     ProjectFiles m_good;                    ///< those read by the model that load
     ProjectFiles m_carried;                 ///< of an archive, the others
     std::vector<QByteArray> m_carriedPaths; ///< of a folder, the others

@@ -12,6 +12,7 @@
 #include "tests/support/fakeprompts.h"
 #include "tests/support/folders.h"
 #include "tests/support/projectbuilder.h"
+#include "tests/support/zipbuilder.h"
 
 #include <QtTest/QtTest>
 
@@ -63,6 +64,8 @@ private Q_SLOTS:
     void salvagesArchives();
     void takesFromTheWorkingCopy();
     void neverWritesOverAnything();
+    void repeatedEntries_data();
+    void repeatedEntries();
     void setsConflictsAside_data();
     void setsConflictsAside();
     void flow_data();
@@ -230,6 +233,68 @@ void TestRepair::neverWritesOverAnything()
     QCOMPARE(fileBytes(at(QStringLiteral("there.vellum"))), QByteArray("mine"));
     QVERIFY(!ProjectRepair::examine(at(QStringLiteral("nowhere.vellum")), m_locations));
     QVERIFY(!ProjectRepair::examine(at(QStringLiteral("there.vellum")), m_locations));
+}
+
+void TestRepair::repeatedEntries_data()
+{
+    QTest::addColumn<QString>("path"); // of what comes twice
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("last");
+    QTest::addColumn<QString>("leftOut");
+    const QByteArray one = documentBytes(1, QStringLiteral("one"));
+    const QByteArray other = documentBytes(1, QStringLiteral("elsewhere"));
+    const QString copy = objectFile(1).chopped(5) + QStringLiteral("-2.json");
+    QTest::newRow("a scene, the same") << objectFile(1) << one << one << "";
+    QTest::newRow("a scene, another") << objectFile(1) << other << one << copy;
+    QTest::newRow("a scene, damaged at first") << objectFile(1) << QByteArray("{") << one << copy;
+    QTest::newRow("the records") << "project.json" << QByteArray("{\"pinned\": []}")
+                                 << QByteArray("{\n}\n") << "project-2.json";
+}
+
+/// Tools that add to an archive leave the older file of a name in it.
+void TestRepair::repeatedEntries()
+{
+    QFETCH(QString, path);
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, last);
+    QFETCH(QString, leftOut);
+    FileMap files = wholeProject();
+    ZipArchive archive;
+    archive.entries.push_back({path.toUtf8(), first});
+    files.insert(path, last);
+    for (auto file = files.cbegin(); file != files.cend(); ++file)
+        archive.entries.push_back({file.key().toUtf8(), file.value()});
+    const QString bundle = at(QStringLiteral("novel.vellum"));
+    const QByteArray bytes = archive.bytes();
+    putFile(bundle, bytes);
+    QVERIFY(!OpenProject::open(bundle));
+
+    const Result<ProjectRepair> repair = ProjectRepair::examine(bundle, m_locations);
+    QVERIFY(repair && repair->isOfUse());
+    QStringList paths;
+    for (const LeftOutFile &file : repair->leftOut())
+        paths.append(file.path);
+    QCOMPARE(paths.join(u'|'), leftOut);
+    QVERIFY(repair->writeCopy(at(QStringLiteral("copy"))));
+    QCOMPARE(filesUnder(at(QStringLiteral("copy"))), files);
+    QCOMPARE(fileBytes(bundle), bytes);
+    const bool isConflict = !leftOut.isEmpty() && first != "{";
+    QCOMPARE(int(repair->conflicts().size()), int(isConflict));
+    if (!isConflict)
+        return;
+    QCOMPARE(repair->conflicts().front().bytes, first);
+    QVERIFY(repair->hasConflictsOnly());
+    QVERIFY(repair->setConflictsAside(m_locations));
+    files.insert(QStringLiteral("conflicting copies/") + leftOut.section(u'/', -1), first);
+    QVERIFY(extractBundle(bundle, at(QStringLiteral("unpacked"))));
+    QCOMPARE(filesUnder(at(QStringLiteral("unpacked"))), files);
+    const QStringList backups = m_locations.backups().list(QStringLiteral("novel"));
+    QCOMPARE(backups.size(), 1);
+    QCOMPARE(fileBytes(backups.first()), bytes);
+    // What was put there meanwhile is not written over.
+    putFile(bundle, "another one");
+    QVERIFY(!repair->setConflictsAside(m_locations));
+    QCOMPARE(fileBytes(bundle), QByteArray("another one"));
 }
 
 void TestRepair::setsConflictsAside_data()
