@@ -2,8 +2,9 @@
 // file under one folder. The program arms it with ivorel_fault_arm(); the rest comes from the
 // environment: IVOREL_FAULT_ROOT the folder, IVOREL_FAULT_AT the number of the call,
 // IVOREL_FAULT_MODE one of "kill", "once" (that call fails), "passing" (it and the next two fail),
-// "full" (it and all later ones that need space fail) and "refused" (it and all later ones fail).
-// Syncs that do not fail are left out, for speed.
+// "full" (it and all later ones that need space fail), "refused" (it and all later ones fail) and
+// "busy" (the same, but for syncs, which may be of files elsewhere). Syncs that do not fail are
+// left out, for speed.
 
 #include <cerrno>
 #include <csignal>
@@ -29,7 +30,8 @@ enum class Mode
     Once,
     Passing,
     Full,
-    Refused
+    Refused,
+    Busy
 } mode = Mode::Once;
 
 template<typename Function>
@@ -62,8 +64,16 @@ bool fails(bool needsSpace = true)
     fired = true;
     if (mode == Mode::Kill)
         kill(getpid(), SIGKILL);
-    errno = mode == Mode::Full ? ENOSPC : mode == Mode::Refused ? EACCES : EIO;
+    errno = mode == Mode::Full      ? ENOSPC
+            : mode == Mode::Refused ? EACCES
+            : mode == Mode::Busy    ? EBUSY
+                                    : EIO;
     return true;
+}
+
+bool syncFails()
+{
+    return mode != Mode::Busy && fails();
 }
 
 int opened(int handle, bool forWriting)
@@ -108,6 +118,8 @@ void ivorel_fault_arm()
         mode = Mode::Full;
     if (wanted && std::strcmp(wanted, "refused") == 0)
         mode = Mode::Refused;
+    if (wanted && std::strcmp(wanted, "busy") == 0)
+        mode = Mode::Busy;
     root = failAt > 0 ? std::getenv("IVOREL_FAULT_ROOT") : nullptr;
 }
 
@@ -149,17 +161,17 @@ ssize_t write(int handle, const void *bytes, size_t size)
 
 int fsync(int handle)
 {
-    return fails() ? -1 : 0 * handle;
+    return syncFails() ? -1 : 0 * handle;
 }
 
 int fdatasync(int handle)
 {
-    return fails() ? -1 : 0 * handle;
+    return syncFails() ? -1 : 0 * handle;
 }
 
 int syncfs(int handle) noexcept
 {
-    return fails() ? -1 : 0 * handle;
+    return syncFails() ? -1 : 0 * handle;
 }
 
 int close(int handle)

@@ -1,20 +1,12 @@
-#include "app/base/files.h"
-#include "app/models/autosavecontroller.h"
-#include "app/storage/openproject.h"
-#include "app/storage/projectpaths.h"
-#include "core/commands/documentcommands.h"
-#include "core/commands/objectcommands.h"
-#include "tests/support/folders.h"
+#include "tests/app/models/autosavedesk.h"
 
-#include <QtTest/QtTest>
+#include "app/base/files.h"
 
 #include <algorithm>
 #include <cstdio>
-#ifdef IVOREL_FAULT_SHIM
-#include <dlfcn.h>
-#endif
 
 using namespace vl;
+using Desk = test::AutosaveDesk;
 
 class TestAutosave : public QObject
 {
@@ -34,52 +26,7 @@ private Q_SLOTS:
     void runsInsideAnotherEventLoop();
     void savesThatMeetAnOpenGroup();
     void bundleReplacedDuringSave();
-    void failingDisk_data();
-    void failingDisk();
 };
-
-namespace {
-
-/// An open project with one document, saved as a folder or a bundle, and its controller.
-struct Desk
-{
-    explicit Desk(bool asBundle = false)
-    {
-        project.push(std::make_unique<core::AddObjectCommand>(
-            project.project(), std::make_unique<core::Document>(id, core::DocumentKind::Prose,
-                                                                QStringLiteral("One"))));
-        const Result<> done = asBundle
-                                  ? project.saveAsBundle(dir.filePath(QStringLiteral("a b.vellum")))
-                                  : project.saveAsFolder(dir.filePath(QStringLiteral("folder")));
-        if (!done)
-            qFatal("%s", qPrintable(done.message()));
-    }
-    template<typename T = void>
-    using Result = app::Result<T>;
-
-    core::Document &document() { return *project.project().find<core::Document>(id); }
-    void write(const QString &body)
-    {
-        project.push(std::make_unique<core::SetDocumentBodyCommand>(document(), body));
-    }
-    QString file() const { return dir.filePath(QStringLiteral("folder/")) + app::objectPath(id); }
-    /// The body as somebody finds it who opens the project anew.
-    QString bodyOnDisk() const
-    {
-        const auto opened = app::OpenProject::open(project.path());
-        return opened ? (*opened)->project().find<core::Document>(id)->body() : opened.message();
-    }
-
-    QTemporaryDir dir{QDir::tempPath() + QStringLiteral("/ivorel säve-XXXXXX")};
-    const core::ContentId id = core::ContentId::create();
-    app::OpenProject project;
-    app::AutosaveController autosave{project};
-    QSignalSpy asked{&autosave, &app::AutosaveController::aboutToSave};
-    QSignalSpy saved{&autosave, &app::AutosaveController::saved};
-    QSignalSpy failed{&autosave, &app::AutosaveController::saveFailed};
-};
-
-} // namespace
 
 void TestAutosave::savesWhatIsUnsaved_data()
 {
@@ -298,9 +245,9 @@ void TestAutosave::bundleReplacedDuringSave()
             return std::any_of(names.begin(), names.end(), app::isUnfinishedFileName);
         };
         QTRY_VERIFY(isBeingWritten() || !desk.project.isSaving());
-        QCOMPARE(std::rename(QFile::encodeName(away).constData(),
-                             QFile::encodeName(path).constData()),
-                 0);
+        QCOMPARE(
+            std::rename(QFile::encodeName(away).constData(), QFile::encodeName(path).constData()),
+            0);
         desk.project.finishSaving();
         if (test::fileBytes(path) != theirs) {
             ++replaced;
@@ -318,122 +265,5 @@ void TestAutosave::bundleReplacedDuringSave()
     QVERIFY2(replaced <= 1, qPrintable(QString::number(replaced)));
 }
 
-void TestAutosave::failingDisk_data()
-{
-    QTest::addColumn<bool>("asBundle");
-    QTest::addColumn<QString>("mode");
-    for (const char *mode : {"once", "full", "refused"}) {
-        QTest::addRow("folder, %s", mode) << false << QString::fromLatin1(mode);
-        QTest::addRow("bundle, %s", mode) << true << QString::fromLatin1(mode);
-    }
-}
-
-/// A save by the timer is done again and again with its first, second, third… file call going
-/// wrong, until it ends undisturbed.
-void TestAutosave::failingDisk()
-{
-#ifndef IVOREL_FAULT_SHIM
-    QSKIP("there is no library here that makes file calls fail");
-#else
-    QFETCH(bool, asBundle);
-    QFETCH(QString, mode);
-    const QString memory = QStringLiteral("/dev/shm");
-    const QString place = QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
-    int at = 1;
-    for (;; ++at) {
-        QVERIFY2(at < 500, "it never ends undisturbed");
-        const QTemporaryDir root(place + QStringLiteral("/ivorel fàults-XXXXXX"));
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(IVOREL_FAULT_SHIM));
-        environment.insert(QStringLiteral("ASAN_OPTIONS"),
-                           QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
-        environment.insert(QStringLiteral("TMPDIR"), root.path());
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), root.filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("IVOREL_FAULT_ROOT"), root.path());
-        environment.insert(QStringLiteral("IVOREL_FAULT_AT"), QString::number(at));
-        environment.insert(QStringLiteral("IVOREL_FAULT_MODE"), mode);
-        QProcess child;
-        child.setProcessEnvironment(environment);
-        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        child.start(QCoreApplication::applicationFilePath(),
-                    {QStringLiteral("--fail"),
-                     asBundle ? QStringLiteral("bundle") : QStringLiteral("folder")});
-        QVERIFY(child.waitForFinished(60000));
-        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-        const QByteArray told = child.readAllStandardOutput();
-        if (told == "undisturbed")
-            break;
-        QVERIFY2(told == "survived", told.constData());
-    }
-    QVERIFY2(at > 4, "hardly anything was disturbed");
-#endif
-}
-
-namespace {
-
-#ifdef IVOREL_FAULT_SHIM
-/// One save with a file call that fails: what became of it, in words; then, once the disk is well
-/// again, the save by the next tick.
-QByteArray saveOnFailingDisk(bool asBundle)
-{
-    const auto arm = reinterpret_cast<void (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_arm"));
-    const auto hasFired = reinterpret_cast<int (*)()>(dlsym(RTLD_DEFAULT, "ivorel_fault_fired"));
-    if (!arm || !hasFired)
-        return "nothing makes calls fail";
-    const QString words = QStringLiteral("Words.");
-    Desk desk(asBundle);
-    desk.write(words);
-    const auto tick = [&desk] {
-        desk.saved.clear();
-        desk.failed.clear();
-        desk.autosave.saveNow();
-        QEventLoop loop;
-        QObject::connect(&desk.autosave, &app::AutosaveController::saved, &loop, &QEventLoop::quit);
-        QObject::connect(&desk.autosave, &app::AutosaveController::saveFailed, &loop,
-                         &QEventLoop::quit);
-        loop.exec();
-    };
-    arm();
-    tick();
-    const bool isDisturbed = hasFired() != 0;
-    qputenv("IVOREL_FAULT_AT", "0");
-    arm();
-    if (desk.saved.size() + desk.failed.size() != 1)
-        return "it did not tell how it ended";
-    if (desk.document().body() != words)
-        return "the words are not in the window any more";
-    if (!desk.failed.isEmpty()) {
-        if (!desk.project.isDirty())
-            return "clean after a failure";
-        if (desk.failed.first().first().toString().isEmpty())
-            return "no message";
-        tick();
-        if (desk.saved.isEmpty())
-            return "the next tick failed: " + desk.failed.first().first().toString().toUtf8();
-    }
-    if (desk.project.isDirty() || desk.bodyOnDisk() != words)
-        return "a false success";
-    return isDisturbed ? "survived" : "undisturbed";
-}
-#endif
-
-} // namespace
-
-int main(int argc, char *argv[])
-{
-    QCoreApplication application(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
-#ifdef IVOREL_FAULT_SHIM
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--fail")) {
-        const QByteArray told = saveOnFailingDisk(arguments.value(2) == QLatin1String("bundle"));
-        return std::fwrite(told.constData(), 1, size_t(told.size()), stdout) == size_t(told.size())
-                   ? 0
-                   : 1;
-    }
-#endif
-    TestAutosave test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestAutosave)
 #include "tst_autosave.moc"
