@@ -42,8 +42,8 @@ public:
                     .arg(fontMetrics()
                              .elidedText(shown, Qt::ElideMiddle, grid(lineSteps * 3))
                              .replace(u'&', QLatin1String("&&"))));
-        setAccessibleName(tr("Remove “%1”").arg(shown));
-        setToolTip(tr("%1: press to remove.").arg(shown));
+        setAccessibleName(TokensFieldEditor::tr("Remove “%1”").arg(shown));
+        setToolTip(app::plainToolTip(TokensFieldEditor::tr("%1: press to remove.").arg(shown)));
         setVisible(true);
     }
 };
