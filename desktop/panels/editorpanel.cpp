@@ -134,7 +134,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
 
 EditorPanel::~EditorPanel()
 {
-    setDistractionFree(false);
+    // The text may lie in the window without distractions, which goes with its parent, this.
     delete m_strip; // both look at the text field
     delete m_session;
 }
