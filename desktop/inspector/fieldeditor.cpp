@@ -1,17 +1,16 @@
 #include "desktop/inspector/fieldeditor.h"
 
 #include "app/models/inspectormodel.h"
+#include "app/models/objecttexts.h"
 #include "desktop/inspector/choiceeditors.h"
 #include "desktop/inspector/fieldlisteditor.h"
 #include "desktop/inspector/pictureseditor.h"
 #include "desktop/inspector/texteditors.h"
 #include "desktop/inspector/timedvalueseditor.h"
 #include "desktop/inspector/tokenseditor.h"
-#include "desktop/shell/theme.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
@@ -24,43 +23,12 @@ namespace {
 
 constexpr int pauseMilliseconds = 2000;
 
-/// A label whose colour lies between that of the text and that of the ground, in every theme.
-class QuietLabel final : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void changeEvent(QEvent *event) override
-    {
-        QLabel::changeEvent(event);
-        // Its own palette is set from that of the parent, so that of the parent is watched.
-        if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::Polish)
-            takeColour();
-    }
-    bool event(QEvent *event) override
-    {
-        if (event->type() == QEvent::Polish)
-            takeColour();
-        return QLabel::event(event);
-    }
-
-private:
-    void takeColour()
-    {
-        const QPalette whole = QApplication::palette();
-        QPalette own = palette();
-        own.setColor(QPalette::WindowText, mix(whole.color(QPalette::WindowText),
-                                               whole.color(QPalette::Window), quietAmount));
-        setPalette(own);
-    }
-};
-
 } // namespace
 
 QLabel *quietLabel(const QString &text, QWidget *parent)
 {
-    auto *label = new QuietLabel(text, parent);
+    auto *label = new QLabel(text, parent);
+    label->setForegroundRole(QPalette::PlaceholderText);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
@@ -80,7 +48,7 @@ FieldEditor::FieldEditor(const app::InspectorField &field, const FieldEditorCont
     m_column->addWidget(m_label);
     m_column->addWidget(m_problem);
     m_problem->hide();
-    m_label->setToolTip(field.help);
+    m_label->setToolTip(app::plainToolTip(field.help));
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseMilliseconds);
     connect(&m_pause, &QTimer::timeout, this, &FieldEditor::commit);
@@ -94,7 +62,7 @@ void FieldEditor::setControl(QWidget *control, QWidget *focused)
         target->setAccessibleName(m_field.label);
     target->setAccessibleDescription(m_field.help);
     if (!m_field.help.isEmpty())
-        target->setToolTip(m_field.help);
+        target->setToolTip(app::plainToolTip(m_field.help));
     m_label->setBuddy(target);
     // No mark of a shortcut is meant in a label that the user named.
     m_label->setText(QString(m_field.label).replace(u'&', QLatin1String("&&")));

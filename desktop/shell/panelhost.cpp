@@ -128,6 +128,10 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
             if (key == QLatin1String(app::settings::theme.name)
                 || key == QLatin1String(app::settings::fontScale.name))
                 drawIcons();
+            // The style sheet keeps the colours that the palette had.
+            if (key == QLatin1String(app::settings::theme.name)
+                && !m_manager->styleSheet().isEmpty())
+                m_manager->setStyleSheet(dockStyleSheet());
         },
         Qt::QueuedConnection);
     m_firstLayout = saveLayout();

@@ -31,6 +31,11 @@ void FocusRing::leaveTo(QWidget *widget)
 
 void FocusRing::follow(QWidget *focused)
 {
+    if (m_focused)
+        m_focused->removeEventFilter(this);
+    m_focused = focused;
+    if (focused)
+        focused->installEventFilter(this);
     const bool isExempt =
         !focused || focused->isWindow() || focused->property(exemptProperty).toBool();
     if (isExempt) {
@@ -40,7 +45,17 @@ void FocusRing::follow(QWidget *focused)
     }
     if (!m_frame)
         m_frame = new QFocusFrame;
+    m_frame->setWidget(nullptr);
     m_frame->setWidget(focused);
+}
+
+bool FocusRing::eventFilter(QObject *watched, QEvent *event)
+{
+    // A style sheet that is laid anew, as with another theme, takes the ring away.
+    if (event->type() == QEvent::StyleChange && watched == m_focused)
+        QMetaObject::invokeMethod(
+            this, [this] { follow(m_focused); }, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
 }
 
 } // namespace vl::desktop

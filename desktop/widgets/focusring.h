@@ -20,8 +20,12 @@ public:
     /// For a text that fills its panel: the caret shows well enough that it has the focus.
     static void leaveTo(QWidget *widget);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void follow(QWidget *focused);
+
+    QPointer<QWidget> m_focused;
 
     QPointer<QFocusFrame> m_frame; ///< goes with the window it lies in
 };
