@@ -1,5 +1,7 @@
 #include "app/models/backupsmodel.h"
 
+#include "app/models/objecttexts.h"
+
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
@@ -127,7 +129,8 @@ QVariant BackupsModel::data(const QModelIndex &index, int role) const
         return index.column() >= ScenesColumn ? int(Qt::AlignRight | Qt::AlignVCenter)
                                               : int(Qt::AlignLeft | Qt::AlignVCenter);
     case Qt::ToolTipRole:
-        return row.fault.isEmpty() ? QDir::toNativeSeparators(row.backup.path) : row.fault;
+        return plainToolTip(row.fault.isEmpty() ? QDir::toNativeSeparators(row.backup.path)
+                                                : row.fault);
     default:
         return {};
     }

@@ -177,7 +177,7 @@ QVariant TimedValuesModel::data(const QModelIndex &index, int role) const
                            : QString();
     case Qt::ToolTipRole: {
         const QString problem = problemOf(row);
-        return problem.isEmpty() ? data(index, Qt::DisplayRole) : QVariant(problem);
+        return plainToolTip(problem.isEmpty() ? data(index, Qt::DisplayRole).toString() : problem);
     }
     case ProblemRole:
         return problemOf(row);

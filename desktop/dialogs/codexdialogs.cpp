@@ -1,6 +1,7 @@
 #include "desktop/dialogs/codexdialogs.h"
 
 #include "app/models/codexmerge.h"
+#include "app/models/objecttexts.h"
 #include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
@@ -22,7 +23,8 @@ namespace vl::desktop {
 namespace {
 
 constexpr int widthSteps = 110;
-constexpr int heightSteps = 90;
+constexpr int usualHeightSteps = 90;
+constexpr int lowSteps = 1; // no higher than its text
 constexpr int longestValue = 60;
 
 struct Texts
@@ -48,16 +50,26 @@ public:
         layout->addWidget(label);
         m_column->setSpacing(grid(2));
         layout->addLayout(m_column, 1);
-        auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-        m_go = buttons->addButton(action, QDialogButtonBox::AcceptRole);
+        m_go = new QPushButton(action, this);
         m_go->setDefault(true);
-        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-        connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-        layout->addWidget(buttons);
-        resize(grid(widthSteps), grid(heightSteps));
     }
     QVBoxLayout *column() const { return m_column; }
     QPushButton *go() const { return m_go; }
+
+    /// Adds the buttons, which Tab reaches after all that was put in between, and asks.
+    bool ask(QWidget *focused, int heightSteps = usualHeightSteps)
+    {
+        auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+        buttons->addButton(m_go, QDialogButtonBox::AcceptRole);
+        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        layout()->addWidget(buttons);
+        sizeDialog(this, widthSteps, heightSteps);
+        if (heightSteps == lowSteps)
+            resize(width(), layout()->totalHeightForWidth(width()));
+        focused->setFocus();
+        return exec() == QDialog::Accepted;
+    }
 
 private:
     QVBoxLayout *m_column;
@@ -89,20 +101,22 @@ std::optional<QSet<QString>> askMerge(const QString &source, const QString &targ
     table->setHorizontalSpacing(grid(4));
     table->setVerticalSpacing(grid(2));
     QList<std::pair<QString, QRadioButton *>> choices;
+    QRadioButton *first = nullptr;
     for (int row = 0; row < int(conflicts.size()); ++row) {
         const app::MergeConflict &conflict = conflicts.at(row);
         auto *label = new QLabel(conflict.label, page);
         label->setTextFormat(Qt::PlainText);
         auto *kept = new QRadioButton(buttonText(conflict.kept), page);
         auto *other = new QRadioButton(buttonText(conflict.other), page);
-        kept->setToolTip(conflict.kept);
-        other->setToolTip(conflict.other);
+        kept->setToolTip(app::plainToolTip(conflict.kept));
+        other->setToolTip(app::plainToolTip(conflict.other));
         kept->setAccessibleDescription(conflict.label);
         other->setAccessibleDescription(conflict.label);
         auto *group = new QButtonGroup(page);
         group->addButton(kept);
         group->addButton(other);
         kept->setChecked(true);
+        first = first ? first : kept;
         table->addWidget(label, row, 0);
         table->addWidget(kept, row, 1);
         table->addWidget(other, row, 2);
@@ -117,9 +131,9 @@ std::optional<QSet<QString>> askMerge(const QString &source, const QString &targ
     scroll->setWidget(page);
     scroll->setVisible(!conflicts.isEmpty());
     sheet.column()->addWidget(scroll, 1);
-    if (conflicts.isEmpty())
-        sheet.resize(sheet.width(), sheet.minimumSizeHint().height());
-    if (sheet.exec() != QDialog::Accepted)
+    scroll->setFocusPolicy(Qt::NoFocus);
+    const bool isAgreed = conflicts.isEmpty() ? sheet.ask(sheet.go(), lowSteps) : sheet.ask(first);
+    if (!isAgreed)
         return std::nullopt;
     QSet<QString> taken;
     for (const auto &[key, button] : choices)
@@ -159,8 +173,7 @@ std::optional<SplitChoice> askSplit(const QString &entity,
     QObject::connect(name, &QLineEdit::textChanged, &sheet, [&](const QString &text) {
         sheet.go()->setEnabled(!text.simplified().isEmpty());
     });
-    name->setFocus();
-    if (sheet.exec() != QDialog::Accepted)
+    if (!sheet.ask(name))
         return std::nullopt;
     SplitChoice choice;
     choice.name = name->text().simplified();
@@ -207,7 +220,7 @@ askTemplates(const QList<core::EntityTemplate> &templates, QWidget *parent)
     });
     QObject::connect(remove, &QPushButton::clicked, list,
                      [list] { delete list->takeItem(list->currentRow()); });
-    if (sheet.exec() != QDialog::Accepted)
+    if (!sheet.ask(list))
         return std::nullopt;
     QList<core::EntityTemplate> kept;
     for (int row = 0; row < list->count(); ++row) {

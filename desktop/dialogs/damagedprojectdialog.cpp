@@ -1,7 +1,9 @@
 #include "desktop/dialogs/damagedprojectdialog.h"
 
+#include "app/models/objecttexts.h"
 #include "app/models/readablefile.h"
 #include "desktop/dialogs/differenceview.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QDir>
@@ -56,6 +58,7 @@ void DamagedProjectDialog::addFiles(QLayout *layout)
     m_files = new QListWidget(split);
     m_files->setAccessibleName(tr("Files that a repaired copy leaves out"));
     m_files->setUniformItemSizes(true);
+    m_files->setItemDelegate(new RowDelegate(m_files));
     for (const app::LeftOutFile &file : m_project.leftOut) {
         const app::ConflictingCopy *conflict = conflictOf(file.path);
         const QString text =
@@ -64,7 +67,7 @@ void DamagedProjectDialog::addFiles(QLayout *layout)
                                 app::readableName(conflict->original, conflict->originalBytes))
                      : file.path;
         auto *item = new QListWidgetItem(text, m_files);
-        item->setToolTip(file.reason);
+        item->setToolTip(app::plainToolTip(file.reason));
     }
     m_details = new DifferenceView(split);
     split->setStretchFactor(0, 2);

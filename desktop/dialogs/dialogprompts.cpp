@@ -2,12 +2,15 @@
 
 #include "app/storage/lock.h"
 #include "desktop/dialogs/damagedprojectdialog.h"
+#include "desktop/widgets/grid.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -16,39 +19,76 @@ namespace vl::desktop {
 namespace {
 
 const QLatin1String bundleSuffix(".vellum");
+constexpr int boxSteps = 80; ///< the least width of the text in a box
+constexpr int fieldSteps = 90;
+
+/// A question or notice. Names that the user gave stand in it, so that nothing is taken for markup.
+class Box final : public QMessageBox
+{
+public:
+    Box(Icon icon, const QString &title, const QString &text, const QString &detail,
+        QWidget *window)
+        : QMessageBox(icon, title, text, NoButton, window)
+    {
+        setTextFormat(Qt::PlainText);
+        auto *first = findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+        first->setMinimumWidth(grid(boxSteps));
+        if (detail.isEmpty())
+            return;
+        QFont bold = first->font();
+        bold.setBold(true);
+        first->setFont(bold);
+        setInformativeText(detail);
+        // It would guess for itself what the text is.
+        findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"))
+            ->setTextFormat(Qt::PlainText);
+    }
+
+    /// Asks; the way out is the "Cancel" that is added to the buttons.
+    QAbstractButton *ask(QAbstractButton *atHand = nullptr)
+    {
+        QPushButton *cancel = addButton(Cancel);
+        setDefaultButton(atHand ? qobject_cast<QPushButton *>(atHand) : cancel);
+        setEscapeButton(cancel);
+        // A box grows no wider than this, and would cut long answers.
+        auto *buttons = findChild<QDialogButtonBox *>();
+        if (buttons->sizeHint().width() > screen()->availableSize().width() / 2)
+            buttons->setOrientation(Qt::Vertical);
+        exec();
+        return clickedButton();
+    }
+};
+
+/// Shows the label of the field as it is.
+void setLabel(QInputDialog &dialog, const QString &text)
+{
+    dialog.setLabelText(text); // which makes the label
+    auto *label = dialog.findChild<QLabel *>();
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setText(QString(text).replace(u'&', QLatin1String("&&")));
+}
 
 } // namespace
 
 app::Prompts::Unsaved DialogPrompts::askUnsaved(const QString &projectName)
 {
-    QMessageBox box(QMessageBox::Question, tr("Unsaved Changes"),
-                    tr("“%1” has changes that are not saved.").arg(projectName),
-                    QMessageBox::NoButton, m_window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(tr("What you wrote since the last save is lost if you discard it."));
-    const auto *save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    Box box(QMessageBox::Question, tr("Unsaved Changes"),
+            tr("“%1” has changes that are not saved.").arg(projectName),
+            tr("What you wrote since the last save is lost if you discard it."), m_window);
+    auto *save = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
     const auto *discard = box.addButton(tr("&Discard Changes"), QMessageBox::DestructiveRole);
-    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(qobject_cast<QPushButton *>(box.buttons().constFirst()));
-    box.setEscapeButton(cancel);
-    box.exec();
-    if (box.clickedButton() == save)
+    const QAbstractButton *answer = box.ask(save);
+    if (answer == save)
         return Unsaved::Save;
-    return box.clickedButton() == discard ? Unsaved::Discard : Unsaved::Cancel;
+    return answer == discard ? Unsaved::Discard : Unsaved::Cancel;
 }
 
 bool DialogPrompts::confirm(const QString &question, const QString &detail, const QString &action)
 {
-    QMessageBox box(QMessageBox::Question, QCoreApplication::applicationName(), question,
-                    QMessageBox::NoButton, m_window);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(detail);
+    Box box(QMessageBox::Question, QCoreApplication::applicationName(), question, detail, m_window);
     const auto *go = box.addButton(action, QMessageBox::DestructiveRole);
-    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(cancel);
-    box.setEscapeButton(cancel);
-    box.exec();
-    return box.clickedButton() == go;
+    return box.ask() == go;
 }
 
 QString DialogPrompts::chooseProjectToOpen()
@@ -87,48 +127,44 @@ QString DialogPrompts::chooseFolderToSave(const QString & /*suggestion*/)
 std::optional<QString> DialogPrompts::askText(const QString &title, const QString &label,
                                               const QString &text)
 {
-    bool isTyped = false;
-    const QString typed =
-        QInputDialog::getText(m_window, title, label, QLineEdit::Normal, text, &isTyped);
-    return isTyped ? std::optional(typed) : std::nullopt;
+    QInputDialog dialog(m_window);
+    dialog.setWindowTitle(title);
+    dialog.setTextValue(text);
+    setLabel(dialog, label);
+    dialog.resize(grid(fieldSteps), dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
 
 QString DialogPrompts::chooseOne(const QString &title, const QString &label,
                                  const QStringList &texts)
 {
-    bool isChosen = false;
-    const QString text = QInputDialog::getItem(m_window, title, label, texts, 0, false, &isChosen);
-    return isChosen ? text : QString();
+    QInputDialog dialog(m_window);
+    dialog.setWindowTitle(title);
+    dialog.setComboBoxItems(texts);
+    dialog.setComboBoxEditable(false);
+    setLabel(dialog, label);
+    dialog.resize(grid(fieldSteps), dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 int DialogPrompts::choose(const QString &title, const QString &question, const QStringList &answers)
 {
-    QMessageBox box(QMessageBox::Question, title, question, QMessageBox::NoButton, m_window);
-    box.setTextFormat(Qt::PlainText);
+    Box box(QMessageBox::Question, title, question, {}, m_window);
     QList<QAbstractButton *> buttons;
     for (const QString &answer : answers)
         buttons.append(box.addButton(answer, buttons.isEmpty() ? QMessageBox::AcceptRole
                                                                : QMessageBox::ActionRole));
-    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
-    if (!buttons.isEmpty())
-        box.setDefaultButton(qobject_cast<QPushButton *>(buttons.constFirst()));
-    box.setEscapeButton(cancel);
-    box.exec();
-    return int(buttons.indexOf(box.clickedButton()));
+    return int(buttons.indexOf(box.ask(buttons.value(0))));
 }
 
 void DialogPrompts::showInformation(const QString &title, const QString &message)
 {
-    QMessageBox box(QMessageBox::Information, title, message, QMessageBox::Ok, m_window);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Box(QMessageBox::Information, title, message, {}, m_window).exec();
 }
 
 void DialogPrompts::showError(const QString &title, const QString &message)
 {
-    QMessageBox box(QMessageBox::Warning, title, message, QMessageBox::Ok, m_window);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Box(QMessageBox::Warning, title, message, {}, m_window).exec();
 }
 
 app::DamageAnswer DialogPrompts::askDamaged(const app::DamagedProject &project)
@@ -141,9 +177,6 @@ app::DamageAnswer DialogPrompts::askDamaged(const app::DamagedProject &project)
 app::Prompts::Locked DialogPrompts::askLocked(const QString &projectName,
                                               const app::LockHolder &holder, app::HolderState state)
 {
-    QMessageBox box(QMessageBox::Information, tr("Open Project"),
-                    tr("“%1” is open already.").arg(projectName), QMessageBox::NoButton, m_window);
-    box.setTextFormat(Qt::PlainText);
     const QString since = QLocale().toString(holder.since.toLocalTime(), QLocale::ShortFormat);
     QString who = holder.token.isEmpty()
                       ? tr("Nobody knows who has it open: its lock cannot be read.")
@@ -153,21 +186,19 @@ app::Prompts::Locked DialogPrompts::askLocked(const QString &projectName,
         who += QLatin1String("\n\n")
                + tr("If no program has it open any more, a crash or a broken connection left the "
                     "lock behind; then open it anyway.");
-    box.setInformativeText(who);
+    Box box(QMessageBox::Information, tr("Open Project"),
+            tr("“%1” is open already.").arg(projectName), who, m_window);
     const auto *copy = box.addButton(tr("Open a &Copy…"), QMessageBox::AcceptRole);
     QPushButton *readOnly = box.addButton(tr("Open &Read-Only"), QMessageBox::AcceptRole);
     const auto *anyway = state == app::HolderState::Unknown
                              ? box.addButton(tr("Open &Anyway"), QMessageBox::DestructiveRole)
                              : nullptr;
-    QPushButton *cancel = box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(readOnly);
-    box.setEscapeButton(cancel);
-    box.exec();
-    if (box.clickedButton() == copy)
+    const QAbstractButton *answer = box.ask(readOnly);
+    if (answer == copy)
         return Locked::OpenCopy;
-    if (box.clickedButton() == readOnly)
+    if (answer == readOnly)
         return Locked::ReadOnly;
-    return anyway && box.clickedButton() == anyway ? Locked::OpenAnyway : Locked::Cancel;
+    return anyway && answer == anyway ? Locked::OpenAnyway : Locked::Cancel;
 }
 
 } // namespace vl::desktop

@@ -1,6 +1,7 @@
 #include "desktop/dialogs/externalchangesdialog.h"
 
 #include "desktop/dialogs/differenceview.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QFontDatabase>
@@ -61,7 +62,7 @@ ExternalChangesDialog::ExternalChangesDialog(const app::OutsideState &state,
     m_files->setCurrentIndex(m_model.index(0, 0));
     showFile();
     updateState();
-    resize(grid(230), grid(165));
+    sizeDialog(this, 230, 165);
     m_files->setFocus();
 }
 
@@ -71,6 +72,7 @@ void ExternalChangesDialog::buildFiles()
     m_files->setAccessibleName(tr("Changed files"));
     m_files->setRootIsDecorated(false);
     m_files->setUniformRowHeights(true);
+    m_files->setItemDelegate(new RowDelegate(m_files));
     m_files->setAllColumnsShowFocus(true);
     m_files->header()->setStretchLastSection(false);
     m_files->header()->setSectionResizeMode(app::ExternalChangesModel::File, QHeaderView::Stretch);

@@ -1,6 +1,8 @@
 #include "desktop/dialogs/recentlydeleteddialog.h"
 
+#include "app/models/objecttexts.h"
 #include "desktop/dialogs/differenceview.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QLocale>
@@ -47,6 +49,7 @@ RecentlyDeletedDialog::RecentlyDeletedDialog(std::vector<app::DeletedGroup> grou
     m_tree->setAccessibleName(tr("Recently deleted"));
     m_tree->setHeaderLabels({tr("Title"), tr("Deleted")});
     m_tree->setUniformRowHeights(true);
+    m_tree->setItemDelegate(new RowDelegate(m_tree));
     m_text->setAccessibleName(tr("Text of what was deleted"));
     auto *split = new QSplitter(this);
     split->setChildrenCollapsible(false);
@@ -66,7 +69,7 @@ RecentlyDeletedDialog::RecentlyDeletedDialog(std::vector<app::DeletedGroup> grou
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &RecentlyDeletedDialog::showChosen);
     m_tree->setCurrentItem(m_tree->topLevelItem(0));
     showChosen();
-    resize(grid(220), grid(130));
+    sizeDialog(this, 220, 130);
 }
 
 void RecentlyDeletedDialog::fill()
@@ -91,7 +94,7 @@ void RecentlyDeletedDialog::fill()
                                        : new QTreeWidgetItem(open.constLast());
             row->setText(0, item.name);
             row->setText(1, base == 0 ? date : QString());
-            row->setToolTip(0, item.path);
+            row->setToolTip(0, app::plainToolTip(item.path));
             row->setData(0, groupRole, qulonglong(i));
             row->setData(0, pathRole, item.path);
             row->setData(0, textRole, item.text);

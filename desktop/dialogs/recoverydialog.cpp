@@ -1,6 +1,8 @@
 #include "desktop/dialogs/recoverydialog.h"
 
+#include "app/models/objecttexts.h"
 #include "desktop/dialogs/differenceview.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtWidgets/QDialogButtonBox>
@@ -59,7 +61,7 @@ RecoveryDialog::RecoveryDialog(const app::Recovery &recovery, QWidget *parent)
     connect(m_tree, &QTreeWidget::itemChanged, this, &RecoveryDialog::updateButtons);
     m_tree->setCurrentItem(m_tree->topLevelItem(0));
     updateButtons();
-    resize(grid(220), grid(130));
+    sizeDialog(this, 220, 130);
 }
 
 void RecoveryDialog::fill()
@@ -68,6 +70,7 @@ void RecoveryDialog::fill()
     m_tree->setHeaderLabels({tr("Title"), tr("State")});
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
+    m_tree->setItemDelegate(new RowDelegate(m_tree));
     const QStringList advised = m_recovery.advisedPaths();
     for (const app::RecoveredFile &file : m_recovery.files()) {
         auto *item = new QTreeWidgetItem(m_tree);
@@ -81,7 +84,7 @@ void RecoveryDialog::fill()
             state = tr("new");
         item->setText(1,
                       file.changedElsewhere ? tr("%1; the project’s is newer").arg(state) : state);
-        item->setToolTip(0, file.change.path);
+        item->setToolTip(0, app::plainToolTip(file.change.path));
     }
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -1,6 +1,7 @@
 #include "desktop/dialogs/restoredocumentdialog.h"
 
 #include "desktop/dialogs/differenceview.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QLocale>
@@ -40,6 +41,7 @@ RestoreDocumentDialog::RestoreDocumentDialog(QList<app::BackupDocument> document
     m_tree->setAccessibleName(tr("Documents in the backup"));
     m_tree->setHeaderLabels({tr("Title"), tr("Words"), tr("State")});
     m_tree->setUniformRowHeights(true);
+    m_tree->setItemDelegate(new RowDelegate(m_tree));
     m_tree->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     auto *split = new QSplitter(this);
     split->setChildrenCollapsible(false);

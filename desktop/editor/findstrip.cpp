@@ -10,7 +10,6 @@
 #include <QtCore/QLocale>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextDocument>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -119,8 +118,10 @@ QWidget *FindStrip::makeReplaceRow()
     m_replacement->setPlaceholderText(tr("Replace with"));
     m_replacement->setAccessibleName(tr("Replace with"));
     m_replacement->installEventFilter(this);
-    m_keepsCase = new QCheckBox(tr("&Keep case"), m_replaceRow);
-    m_keepsCase->setToolTip(tr("“Tide” becomes “Ebb” and “TIDE” becomes “EBB”."));
+    m_keepsCase =
+        makeToggle("keepCase", tr("Keep the case of what is replaced"), QStringLiteral("Alt+K"));
+    m_keepsCase->setAccessibleDescription(tr("“Tide” becomes “Ebb” and “TIDE” becomes “EBB”."));
+    m_keepsCase->setToolTip(m_keepsCase->toolTip() + u'\n' + m_keepsCase->accessibleDescription());
     auto *one = new QPushButton(tr("Re&place"), m_replaceRow);
     connect(one, &QPushButton::clicked, this, &FindStrip::replaceOne);
     m_replaceAll = new QPushButton(tr("Replace A&ll"), m_replaceRow);

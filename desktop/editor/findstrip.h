@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class QCheckBox;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -80,7 +79,7 @@ private:
     QToolButton *m_words = nullptr;
     QToolButton *m_expression = nullptr;
     QToolButton *m_inSelection = nullptr;
-    QCheckBox *m_keepsCase = nullptr;
+    QToolButton *m_keepsCase = nullptr;
     ElidedLabel *m_count = nullptr;
     QWidget *m_replaceRow = nullptr;
     QPushButton *m_replaceAll = nullptr;

@@ -81,7 +81,8 @@ void FieldListEditor::showValue()
             if (field.required)
                 text = tr("%1, to be filled").arg(text);
             auto *item = new QListWidgetItem(text, m_list);
-            item->setToolTip(field.description.isEmpty() ? text : field.description);
+            item->setToolTip(
+                app::plainToolTip(field.description.isEmpty() ? text : field.description));
             item->setData(Qt::UserRole, field.key);
         }
     }

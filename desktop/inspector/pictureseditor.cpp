@@ -100,7 +100,7 @@ void PicturesEditor::showValue()
             const auto *media = workspace.project().find<core::Media>(id);
             const QString caption = media ? app::rowText(media->caption()) : tr("(missing)");
             auto *item = new QListWidgetItem(icon(QStringLiteral("image")), caption, m_strip);
-            item->setToolTip(caption);
+            item->setToolTip(app::plainToolTip(caption));
             item->setData(Qt::UserRole, id.toString());
             item->setData(Qt::AccessibleTextRole,
                           caption.isEmpty() ? tr("Picture without a caption") : caption);

@@ -28,7 +28,7 @@ constexpr int widestComboCharacters = 24;
 GeneralPage::GeneralPage(const PreferencesContext &context, QWidget *parent)
     : PreferencesPage(context, parent)
 {
-    addFlag(addGroup(tr("Start")), tr("&Reopen the last project"), app::settings::reopenLast);
+    addFlag(addGroup(tr("Start")), tr("Re&open the last project"), app::settings::reopenLast);
 
     QFormLayout *group = addGroup(tr("Language"));
     QList<Choice> choices{{QString(), tr("As the system")}};

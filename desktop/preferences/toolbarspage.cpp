@@ -1,6 +1,7 @@
 #include "desktop/preferences/toolbarspage.h"
 
 #include "desktop/actions/actionregistry.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/shell/maintoolbar.h"
 
 #include <QtCore/QSignalBlocker>
@@ -16,6 +17,7 @@ ToolBarsPage::ToolBarsPage(const PreferencesContext &context, QWidget *parent)
 {
     auto *label = new QLabel(tr("&Entries of the tool bar “Main”:"), this);
     label->setBuddy(m_list);
+    m_list->setItemDelegate(new RowDelegate(m_list));
     m_list->setAccessibleName(tr("Entries of the tool bar “Main”"));
     column()->addWidget(label);
     column()->addWidget(m_list, 1);

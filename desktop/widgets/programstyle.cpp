@@ -15,7 +15,8 @@ namespace vl::desktop {
 namespace {
 
 constexpr int ringPixels = 2;
-constexpr int darkLightness = 128; // of 255
+constexpr int darkLightness = 128;   // of 255
+constexpr double controlLines = 1.7; // the height of buttons and fields in lines of text
 
 /// Views and texts fill their panel: there the ring lies on their own edge.
 bool isInside(const QWidget *frame)
@@ -68,9 +69,47 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return qRound(QProxyStyle::pixelMetric(metric, option, widget) * qMax(1.0, fontScale()));
+    case PM_MenuPanelWidth: // the line that the outline is drawn on
+        return 1;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return widget && widget->isWindow() ? grid(6) : grid(2);
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return grid(2);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                     const QSize &contents, const QWidget *widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    switch (type) {
+    case CT_PushButton:
+        size += QSize(grid(2), 0);
+        [[fallthrough]];
+    case CT_ComboBox:
+    case CT_SpinBox:
+    case CT_LineEdit:
+        size.setHeight(qMax(size.height(), qRound(option->fontMetrics.height() * controlLines)));
+        break;
+    case CT_MenuItem:
+        if (entry && entry->menuItemType != QStyleOptionMenuItem::Separator)
+            size.setHeight(
+                qMax(size.height(), qRound(option->fontMetrics.height() * controlLines)));
+        break;
+    case CT_MenuBarItem:
+        size += QSize(grid(1), grid(1));
+        break;
+    default:
+        break;
+    }
+    return size;
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
@@ -129,6 +168,28 @@ QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption *optio
         return icon(QStringLiteral("error"));
     case SP_LineEditClearButton:
         return icon(QStringLiteral("close"));
+    case SP_ArrowBack:
+        return icon(QStringLiteral("previous"));
+    case SP_ArrowForward:
+    case SP_CommandLink:
+        return icon(QStringLiteral("next"));
+    case SP_FileDialogToParent:
+        return icon(QStringLiteral("up"));
+    case SP_FileDialogNewFolder:
+        return icon(QStringLiteral("add"));
+    case SP_FileDialogListView:
+        return icon(QStringLiteral("board"));
+    case SP_FileDialogDetailedView:
+        return icon(QStringLiteral("menu"));
+    case SP_DirIcon:
+    case SP_DirLinkIcon:
+    case SP_DirHomeIcon:
+    case SP_ComputerIcon:
+    case SP_DriveHDIcon:
+        return icon(QStringLiteral("open"));
+    case SP_FileIcon:
+    case SP_FileLinkIcon:
+        return icon(QStringLiteral("document"));
     default:
         return QProxyStyle::standardIcon(which, option, widget);
     }
