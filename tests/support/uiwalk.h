@@ -40,6 +40,8 @@ inline QStringList unnamedControls(const QWidget *window)
 {
     QStringList unnamed;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
+        if (widget->window() != window->window())
+            continue; // a dialog over it
         const bool isControl =
             qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
             || qobject_cast<QAbstractItemView *>(widget) || qobject_cast<QComboBox *>(widget)
@@ -61,7 +63,8 @@ inline QStringList clippedTexts(const QWidget *window)
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const auto *button = qobject_cast<const QAbstractButton *>(widget);
-        if (!widget->isVisible() || (!label && !button) || widget->inherits("ads::CElidingLabel")
+        if (!widget->isVisible() || widget->window() != window->window() || (!label && !button)
+            || widget->inherits("ads::CElidingLabel")
             || widget->inherits("vl::desktop::ElidedLabel"))
             continue;
         const QString text = label ? label->text() : button->text();
