@@ -154,7 +154,8 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
         return new desktop::RestoreDocumentDialog({document}, &desk.window);
     });
     add("BackupsDialog", [](Desk &desk) {
-        const app::StorageLocations locations{desk.dir.path()};
+        app::StorageLocations locations;
+        locations.root = desk.dir.path();
         return new desktop::BackupsDialog(
             app::AutoBackups(desk.dir.filePath(QStringLiteral("a.vellum")), locations,
                              [](const core::Project &) { return app::BackupSummary(); }),

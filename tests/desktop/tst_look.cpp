@@ -1,28 +1,20 @@
 #include "app/base/settingskeys.h"
-#include "app/models/documentoperations.h"
-#include "app/models/workspace.h"
-#include "desktop/dialogs/backupsdialog.h"
-#include "desktop/dialogs/damagedprojectdialog.h"
-#include "desktop/dialogs/fielddialog.h"
-#include "desktop/dialogs/pickdialog.h"
-#include "desktop/dialogs/restoredocumentdialog.h"
-#include "desktop/preferences/catalogue.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/mainwindow.h"
-#include "desktop/shell/notices.h"
+#include "desktop/shell/noticebar.h"
 #include "desktop/shell/theme.h"
 #include "desktop/widgets/grid.h"
 #include "desktop/widgets/programstyle.h"
 #include "tests/support/fakeprompts.h"
-#include "tests/support/uiwalk.h"
 
-#include <QtCore/QTranslator>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QKeySequenceEdit>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStackedWidget>
@@ -41,85 +33,6 @@ struct Desk
     desktop::MainWindow window{settings, &prompts};
 };
 
-using MakeSurface = std::function<QWidget *(Desk &)>;
-
-/// The window or dialog that an action opens.
-QWidget *opened(Desk &desk, const char *action)
-{
-    desk.window.show();
-    desk.window.actions()[action]->trigger();
-    for (QWidget *other : QApplication::topLevelWidgets())
-        if (other->isVisible() && other != &desk.window && desk.window.isAncestorOf(other))
-            return other;
-    return &desk.window;
-}
-
-/// Everything the user can look at; a new dialog is a new line.
-QList<std::pair<QString, MakeSurface>> surfaces()
-{
-    QList<std::pair<QString, MakeSurface>> list;
-    list.append(
-        {QStringLiteral("window with nothing in it"), [](Desk &desk) { return &desk.window; }});
-    list.append({QStringLiteral("window with a document and notices"), [](Desk &desk) {
-                     app::Workspace &workspace = desk.window.workspace();
-                     workspace.select(
-                         app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {}));
-                     auto *notices = desk.window.findChild<desktop::Notices *>();
-                     notices->offerUndo(QStringLiteral("Deleted “The Count at Dusk”."));
-                     notices->ask(QStringLiteral("outside"),
-                                  QStringLiteral("Another program changed three files."),
-                                  {{QStringLiteral("Look at the Changes"), {}},
-                                   {QStringLiteral("Keep Mine"), {}}});
-                     return &desk.window;
-                 }});
-    for (size_t page = 0; page < desktop::preferencesCatalogue().size(); ++page)
-        list.append({QLatin1String("preferences, ")
-                         + QLatin1String(desktop::preferencesCatalogue()[page].title),
-                     [page](Desk &desk) {
-                         auto *dialog = new desktop::PreferencesDialog(
-                             {desk.settings, desk.actions, desk.prompts}, &desk.window);
-                         dialog->findChild<QListWidget *>()->setCurrentRow(int(page));
-                         return dialog;
-                     }});
-    const auto add = [&list](const char *name, const MakeSurface &make) {
-        list.append({QLatin1String(name), make});
-    };
-    for (const char *id : {"file.quickOpen", "edit.findInProject", "edit.find", "file.new",
-                           "help.welcome", "help.about"})
-        add(id, [id](Desk &desk) { return opened(desk, id); });
-    add("new field", [](Desk &desk) {
-        return new desktop::FieldDialog(QStringLiteral("New Field in “People”"), {},
-                                        QStringLiteral("Add Field"), &desk.window);
-    });
-    add("choice of a name", [](Desk &desk) {
-        return new desktop::PickDialog(
-            QStringLiteral("Merge Entity"), QStringLiteral("Merge “Mara Tolvey” into:"),
-            {QStringLiteral("Ilen Dask")}, QStringLiteral("Merge"), &desk.window);
-    });
-    add("damaged project", [](Desk &desk) {
-        app::DamagedProject project;
-        project.path = QStringLiteral("/home/someone/Books/The Low Lamps.vellum");
-        project.message = QStringLiteral("Invalid JSON in file: objects/1.json");
-        project.hasBackup = true;
-        project.isRepairable = true;
-        return new desktop::DamagedProjectDialog(project, &desk.window);
-    });
-    add("document of a backup", [](Desk &desk) {
-        app::BackupDocument document;
-        document.title = QStringLiteral("The Count at Dusk");
-        document.after = QStringLiteral("The lamps of Vessarine were lit from the water upward.");
-        return new desktop::RestoreDocumentDialog({document}, &desk.window);
-    });
-    add("backups", [](Desk &desk) {
-        const app::StorageLocations locations{desk.dir.path()};
-        return new desktop::BackupsDialog(
-            app::AutoBackups(desk.dir.filePath(QStringLiteral("a.vellum")), locations,
-                             [](const core::Project &) { return app::BackupSummary(); }),
-            &desk.window);
-    });
-    return list;
-}
-
 } // namespace
 
 class TestLook : public QObject
@@ -129,10 +42,6 @@ class TestLook : public QObject
 private Q_SLOTS:
     void initTestCase();
     void cleanup();
-    void everyControlHasAName_data();
-    void everyControlHasAName();
-    void nothingIsClipped_data();
-    void nothingIsClipped();
     void textIsLegible_data();
     void textIsLegible();
     void aThemeLeavesNothingOfTheOneBefore();
@@ -148,61 +57,6 @@ void TestLook::initTestCase()
 void TestLook::cleanup()
 {
     desktop::applyFontScale(1.0);
-}
-
-void TestLook::everyControlHasAName_data()
-{
-    QTest::addColumn<int>("surface");
-    const auto all = surfaces();
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(qPrintable(all.at(i).first)) << i;
-}
-
-void TestLook::everyControlHasAName()
-{
-    QFETCH(int, surface);
-    Desk desk;
-    QWidget *shown = surfaces().at(surface).second(desk);
-    shown->show();
-    const QStringList unnamed = test::unnamedControls(shown);
-    QVERIFY2(unnamed.isEmpty(), qPrintable(unnamed.join(u'\n')));
-}
-
-void TestLook::nothingIsClipped_data()
-{
-    QTest::addColumn<int>("surface");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<double>("scale");
-    const auto all = surfaces();
-    for (int i = 0; i < all.size(); ++i)
-        for (const char *language : {"en", "es"})
-            for (const double scale : {1.0, 2.0})
-                QTest::addRow("%s, %s, %g", qPrintable(all.at(i).first), language, scale)
-                    << i << QString(QLatin1String(language)) << scale;
-}
-
-void TestLook::nothingIsClipped()
-{
-    QFETCH(int, surface);
-    QFETCH(QString, language);
-    QFETCH(double, scale);
-    QTranslator texts;
-    QVERIFY(texts.load(QStringLiteral(IVOREL_TRANSLATIONS "/ivorel_%1.qm").arg(language)));
-    QCoreApplication::installTranslator(&texts);
-    desktop::applyFontScale(scale);
-    {
-        Desk desk;
-        desk.window.resize(1280, 800);
-        QWidget *shown = surfaces().at(surface).second(desk);
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowExposed(shown));
-        QCoreApplication::processEvents();
-        QVERIFY2(shown->width() <= 1280 && shown->height() <= 800,
-                 qPrintable(QStringLiteral("%1x%2").arg(shown->width()).arg(shown->height())));
-        const QStringList clipped = test::clippedTexts(shown);
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u'\n')));
-    }
-    QCoreApplication::removeTranslator(&texts);
 }
 
 void TestLook::textIsLegible_data()
