@@ -3,6 +3,7 @@
 #include "app/base/settingskeys.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 namespace vl::app {
@@ -21,11 +22,31 @@ QString nameOf(const SettingKey &key)
 Settings::Settings()
     : m_store(std::make_unique<QSettings>())
 {
+    keepDamaged();
 }
 
 Settings::Settings(const QString &iniFile)
     : m_store(std::make_unique<QSettings>(iniFile, QSettings::IniFormat))
 {
+    keepDamaged();
+}
+
+void Settings::keepDamaged()
+{
+    m_store->allKeys(); // or a part is first read when it is asked for
+    if (m_store->status() != QSettings::FormatError)
+        return;
+    // The next value that is set writes the file anew with what could be read of it.
+    const QString copy = place() + QLatin1String(".damaged");
+    QFile::remove(copy);
+    if (QFile::copy(place(), copy))
+        m_damagedCopy = copy;
+}
+
+bool Settings::areKept() const
+{
+    m_store->sync();
+    return m_store->status() != QSettings::AccessError && m_store->isWritable();
 }
 
 QString Settings::text(const SettingKey &key) const
@@ -102,6 +123,13 @@ void Settings::addRecentProject(const QString &path)
     if (list.size() > mostRecentProjects)
         list.resize(mostRecentProjects);
     set(settings::recentProjects, list.join(u'\n'));
+}
+
+void Settings::removeRecentProject(const QString &path)
+{
+    QStringList list = recentProjects();
+    if (list.removeAll(path) > 0)
+        set(settings::recentProjects, list.join(u'\n'));
 }
 
 void Settings::clearRecentProjects()

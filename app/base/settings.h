@@ -54,10 +54,22 @@ public:
     /// The projects opened last, as absolute paths, the latest first; at most eight.
     QStringList recentProjects() const;
     void addRecentProject(const QString &path);
+    void removeRecentProject(const QString &path);
     void clearRecentProjects();
 
+    /// Where the settings are kept.
+    QString place() const { return m_store->fileName(); }
+    /// Whether what is set gets there; false where the file or its folder cannot be written to.
+    bool areKept() const;
+    /// The file that was put aside at the start because parts of it could not be read; empty when
+    /// all of it was read.
+    QString damagedCopy() const { return m_damagedCopy; }
+
 private:
+    void keepDamaged();
+
     std::unique_ptr<QSettings> m_store;
+    QString m_damagedCopy;
     std::unique_ptr<SettingsChanges> m_changes = std::make_unique<SettingsChanges>();
 };
 

@@ -34,6 +34,7 @@ public:
     app::Workspace &workspace() { return m_workspace; }
     app::ProjectFlows &flows() { return m_flows; }
     app::Prompts &prompts() { return m_prompts; }
+    Notices &notices() { return *m_notices; }
     SafeKeeping &safeKeeping() { return *m_safeKeeping; }
     ActionRegistry &actions() { return m_actions; }
     const ActionRegistry &actions() const { return m_actions; }

@@ -4,6 +4,7 @@
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/icons.h"
 #include "desktop/shell/mainwindow.h"
+#include "desktop/shell/notices.h"
 #include "desktop/startup/handover.h"
 #include "desktop/startup/updatecheck.h"
 #include "desktop/startup/updatestatus.h"
@@ -23,7 +24,8 @@ namespace vl::desktop {
 namespace {
 
 constexpr int captureMilliseconds = 1500;
-constexpr int paintMilliseconds = 1000; // after which a window is taken for one nobody sees
+constexpr int settleMilliseconds = 1000; // after the start; nothing that can wait comes before
+constexpr int paintMilliseconds = 1000;  // after which a window is taken for one nobody sees
 
 } // namespace
 
@@ -131,7 +133,26 @@ void StartUp::afterFirstPaint()
         return;
     open();
     m_updates->schedule();
+    QTimer::singleShot(settleMilliseconds, this, &StartUp::tellOfSettings);
     Q_EMIT done();
+}
+
+void StartUp::tellOfSettings()
+{
+    const QString place = QDir::toNativeSeparators(m_settings.place());
+    if (!m_settings.areKept())
+        m_window->notices().ask(QStringLiteral("settings"),
+                                tr("Settings are not kept: %1 cannot be written to. What you set "
+                                   "lasts until Ivorel is closed.")
+                                    .arg(place),
+                                {});
+    else if (const QString copy = m_settings.damagedCopy(); !copy.isEmpty())
+        m_window->notices().ask(QStringLiteral("settings"),
+                                tr("The settings file was damaged. What could be read of it is in "
+                                   "use; it is kept as %1.")
+                                    .arg(QDir::toNativeSeparators(copy)),
+                                {});
+    Q_EMIT settled();
 }
 
 void StartUp::open()

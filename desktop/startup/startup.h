@@ -55,6 +55,8 @@ public:
 Q_SIGNALS:
     /// The projects are open and everything the start brings was shown.
     void done();
+    /// What could wait was done too.
+    void settled();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -66,6 +68,7 @@ private:
     void open();
     void reopenLast();
     void welcome();
+    void tellOfSettings();
     void capture();
 
     Launch m_launch;

@@ -1,6 +1,7 @@
 #include "app/base/settingskeys.h"
 #include "app/storage/openproject.h"
 #include "desktop/shell/mainwindow.h"
+#include "desktop/shell/noticebar.h"
 #include "desktop/startup/handover.h"
 #include "desktop/startup/startup.h"
 #include "tests/support/fakeprompts.h"
@@ -9,6 +10,7 @@
 #include <QtNetwork/QLocalSocket>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
@@ -39,12 +41,13 @@ private Q_SLOTS:
     void handOver();
     void handOverWaitsForDialog();
     void handOverDialogAsWorded();
+    void aRunningWindowTakesOver();
 
     void opensWhatWasAskedFor_data();
     void opensWhatWasAskedFor();
     void capture();
-    void damagedSettings_data();
-    void damagedSettings();
+    void faultySettings_data();
+    void faultySettings();
     void language_data();
     void language();
 };
@@ -237,6 +240,36 @@ struct Start
 
 } // namespace
 
+void TestStartUp::aRunningWindowTakesOver()
+{
+    Start start;
+    const QString other = start.dir.filePath(QStringLiteral("Other.vellum"));
+    {
+        app::OpenProject saved;
+        QVERIFY(saved.saveAsBundle(other));
+    }
+    const QString name = freshName();
+    app::Settings settings(start.settingsFile);
+    StartUp startUp(Launch::from({QStringLiteral("ivorel"), start.project}), settings,
+                    &start.prompts);
+    QVERIFY(!startUp.handOver(name));
+    startUp.showWindow();
+    const QSignalSpy done(&startUp, &StartUp::done);
+    QTRY_COMPARE(done.size(), 1);
+    startUp.window().showMinimized();
+
+    app::Settings laterSettings(start.settingsFile);
+    StartUp later(Launch::from({QStringLiteral("ivorel"), other}), laterSettings, &start.prompts);
+    QVERIFY(later.handOver(name));
+    QTRY_COMPARE(startUp.window().workspace().current().name(), QStringLiteral("Other"));
+    QVERIFY(!startUp.window().isMinimized());
+    QCOMPARE(start.prompts.questions.size(), 1);
+    StartUp newWindow(
+        Launch::from({QStringLiteral("ivorel"), QStringLiteral("--new-instance"), other}),
+        laterSettings, &start.prompts);
+    QVERIFY(!newWindow.handOver(name));
+}
+
 void TestStartUp::opensWhatWasAskedFor_data()
 {
     QTest::addColumn<QString>("argument");
@@ -290,31 +323,64 @@ void TestStartUp::capture()
     QCOMPARE(image.size(), startUp.window().size());
 }
 
-void TestStartUp::damagedSettings_data()
+void TestStartUp::faultySettings_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("noise") << QByteArray("\x00\xff[\x01\x02]]\n==\n%general]\nx", 20);
-    QTest::newRow("cut off") << QByteArray("[General]\nrecentProjects=\"/a\\nb");
+    QTest::addColumn<QString>("blocked"); // where something else stands
+    QTest::addColumn<QString>("told");    // how it begins
+    const QString damaged = QStringLiteral("The settings file was damaged.");
+    const QString notKept = QStringLiteral("Settings are not kept: ");
+    QTest::newRow("noise") << QByteArray("\x00\xff[\x01\x02]]\n==\n%general]\nx", 20) << ""
+                           << damaged;
+    QTest::newRow("cut off") << QByteArray("[General]\nrecentProjects=\"/a\\nb") << ""
+                             << "";
     QTest::newRow("wrong values") << QByteArray(
         "[general]\nlayout=@ByteArray(\\x1\\x2garbage)\ngeometry=@Variant(\\0)\n"
-        "[appearance]\ntheme=Mauve\nlanguage=!!\n[a11y]\nuiFontScale=nan\n");
-    QTest::newRow("no file can be there") << QByteArray();
+        "[appearance]\ntheme=Mauve\nlanguage=!!\n[a11y]\nuiFontScale=nan\n")
+                                  << ""
+                                  << "";
+    QTest::newRow("the file cannot be written") << QByteArray() << "file" << notKept;
+    QTest::newRow("the folder cannot be written") << QByteArray() << "folder" << notKept;
 }
 
-void TestStartUp::damagedSettings()
+void TestStartUp::faultySettings()
 {
     QFETCH(QByteArray, bytes);
+    QFETCH(QString, blocked);
+    QFETCH(QString, told);
     Start start;
-    QVERIFY(QFile::remove(start.settingsFile));
-    if (bytes.isNull()) {
-        QVERIFY(QDir().mkpath(start.settingsFile + QStringLiteral("/x")));
+    const QString folder = start.dir.filePath(QStringLiteral("config"));
+    const QString place = folder + QStringLiteral("/settings.ini");
+    if (blocked == QLatin1String("file")) {
+        QVERIFY(QDir().mkpath(place + QStringLiteral("/x")));
     } else {
-        QFile file(start.settingsFile);
+        QVERIFY(blocked == QLatin1String("folder") || QDir().mkpath(folder));
+        QFile file(blocked == QLatin1String("folder") ? folder : place);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    QCOMPARE(start.titleAfter({start.project}), QStringLiteral("My Novel"));
+    app::Settings settings(place);
+    settings.set(app::settings::autoUpdateCheck, false);
+    StartUp startUp(Launch::from({QStringLiteral("ivorel"), start.project}), settings,
+                    &start.prompts);
+    const QSignalSpy settled(&startUp, &StartUp::settled);
+    startUp.showWindow();
+    QTRY_COMPARE(settled.size(), 1);
+    QCOMPARE(startUp.window().workspace().current().name(), QStringLiteral("My Novel"));
     QVERIFY(start.prompts.errors.isEmpty());
+    QStringList notices;
+    for (const QLabel *label : startUp.window().findChild<NoticeBar *>()->findChildren<QLabel *>())
+        notices.append(label->text());
+    QCOMPARE(notices.size(), told.isEmpty() ? 0 : 1);
+    if (!told.isEmpty())
+        QVERIFY2(notices.constFirst().startsWith(told), qPrintable(notices.constFirst()));
+    // What could not be read is not lost.
+    const bool isPutAside = told == QLatin1String("The settings file was damaged.");
+    QCOMPARE(QFile::exists(place + QStringLiteral(".damaged")), isPutAside);
+    // What the user sets holds all the same, and the window closes as ever.
+    settings.set(app::settings::theme, QStringLiteral("Sepia"));
+    QCOMPARE(QApplication::palette().color(QPalette::Base), QColor(0xfa, 0xf3, 0xe0));
+    QVERIFY(startUp.window().close());
 }
 
 void TestStartUp::language_data()
