@@ -66,6 +66,27 @@ bool ProjectFlows::openHere(const QString &path)
     return mayClose() && open(path);
 }
 
+bool ProjectFlows::openRecent(const QString &path)
+{
+    if (QFileInfo::exists(path))
+        return openHere(path);
+    const QString message =
+        tr("The project could not be found: %1").arg(QDir::toNativeSeparators(path));
+    const int answer =
+        m_prompts.choose(tr("Open Project"), message, {tr("&Locate…"), tr("&Remove from List")});
+    if (answer == 1)
+        m_settings.removeRecentProject(path);
+    if (answer != 0)
+        return false;
+    const bool isBundle = path.endsWith(QLatin1String(".vellum"), Qt::CaseInsensitive);
+    const QString found =
+        isBundle ? m_prompts.chooseProjectToOpen() : m_prompts.chooseProjectFolderToOpen();
+    if (found.isEmpty() || !openHere(found))
+        return false;
+    m_settings.removeRecentProject(path);
+    return true;
+}
+
 bool ProjectFlows::open(const QString &givenPath)
 {
     std::optional<Access> access = askAccess(givenPath);

@@ -36,6 +36,9 @@ public:
     bool chooseAndOpenFolder();
     /// Asks what becomes of unsaved work, then opens.
     bool openHere(const QString &path);
+    /// The same for one of the recent projects. When it is gone, the user may tell where it is now,
+    /// or have it taken from the list.
+    bool openRecent(const QString &path);
     /// Opens without asking; a project that does not load leaves the present one open.
     bool open(const QString &path);
     /// Asks for a place when the project has none, and before it writes over what others changed.

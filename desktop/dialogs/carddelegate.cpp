@@ -59,7 +59,8 @@ void CardDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
 
     const bool isSelected = row.state.testFlag(QStyle::State_Selected);
-    const bool isEnabled = row.state.testFlag(QStyle::State_Enabled);
+    const bool isEnabled =
+        row.state.testFlag(QStyle::State_Enabled) && !index.data(IsDimRole).toBool();
     const QColor strong =
         row.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
     const QColor quiet =

@@ -15,6 +15,7 @@ public:
     {
         DetailRole = Qt::UserRole + 100, ///< the text below the title
         IsPathRole,                      ///< it is a path: cut in its middle, on one line
+        IsDimRole,                       ///< it is drawn as if it were off
     };
 
     using QStyledItemDelegate::QStyledItemDelegate;

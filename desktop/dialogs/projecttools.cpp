@@ -59,7 +59,7 @@ void ProjectTools::showWelcome()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &WelcomeDialog::chosen, this, &ProjectTools::begin);
     connect(dialog, &WelcomeDialog::recentChosen, this,
-            [this](const QString &path) { m_flows.openHere(path); });
+            [this](const QString &path) { m_flows.openRecent(path); });
     dialog->open();
     m_context.settings.set(app::settings::welcomed, true);
 }

@@ -172,8 +172,7 @@ QListWidget *WelcomeDialog::makeRecent(const QStringList &paths)
         item->setData(Qt::AccessibleDescriptionRole, item->data(CardDelegate::DetailRole));
         item->setData(pathRole, path);
         item->setToolTip(app::plainToolTip(shown));
-        if (!isThere)
-            item->setFlags(Qt::NoItemFlags);
+        item->setData(CardDelegate::IsDimRole, !isThere);
     }
     return list;
 }

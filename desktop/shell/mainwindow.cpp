@@ -145,7 +145,7 @@ void MainWindow::buildMenus()
     auto *menus = new WindowMenus(
         this, {m_actions, m_settings, *m_appearance, *m_layouts, *m_panels, *m_notices});
     connect(menus, &WindowMenus::recentChosen, this,
-            [this](const QString &path) { m_flows.openHere(path); });
+            [this](const QString &path) { m_flows.openRecent(path); });
     addToolBar(new MainToolBar(m_actions, m_settings, this));
 }
 

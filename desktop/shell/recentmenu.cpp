@@ -76,9 +76,11 @@ void RecentMenu::lookForMissing()
     auto *watcher = new QFutureWatcher<QSet<QString>>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
         const QSet<QString> missing = watcher->result();
-        for (QAction *entry : std::as_const(m_entries)) {
+        for (qsizetype i = 0; i < m_entries.size(); ++i) {
+            QAction *entry = m_entries[i];
             const QString path = entry->data().toString();
-            entry->setEnabled(!missing.contains(path));
+            const QString text = entryText(int(i) + 1, path);
+            entry->setText(missing.contains(path) ? tr("%1 (not found)").arg(text) : text);
             const QString shown = QDir::toNativeSeparators(path);
             entry->setToolTip(
                 app::plainToolTip(missing.contains(path) ? tr("Not found: %1").arg(shown) : shown));

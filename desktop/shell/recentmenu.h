@@ -12,7 +12,7 @@ class Settings;
 
 namespace vl::desktop {
 
-/// The projects opened last as entries of a menu; those that are gone are greyed.
+/// The projects opened last as entries of a menu; those that are gone are told as such.
 class RecentMenu final : public QObject
 {
     Q_OBJECT

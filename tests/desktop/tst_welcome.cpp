@@ -57,7 +57,7 @@ class TestWelcome : public QObject
 
 private Q_SLOTS:
     void theWelcomeLeadsOn();
-    void missingProjectsAreNotOffered();
+    void missingProjectsAreLookedFor();
     void aProjectIsMade();
     void aboutTellsWhatItStandsOn();
 };
@@ -77,7 +77,7 @@ void TestWelcome::theWelcomeLeadsOn()
     QVERIFY(desk.window.findChild<NewProjectDialog *>());
 }
 
-void TestWelcome::missingProjectsAreNotOffered()
+void TestWelcome::missingProjectsAreLookedFor()
 {
     Window desk;
     const auto made = app::ProjectMaker::make(
@@ -89,13 +89,19 @@ void TestWelcome::missingProjectsAreNotOffered()
     QVERIFY(welcome);
     auto *recent = welcome->findChild<QListWidget *>(QStringLiteral("welcomeRecent"));
     QCOMPARE(recent->count(), 2);
-    QVERIFY(!recent->item(0)->flags().testFlag(Qt::ItemIsEnabled));
+    // The answer is to look for it, and it is found elsewhere.
+    desk.prompts.path = *made;
     QTest::mouseClick(recent->viewport(), Qt::LeftButton, {},
                       recent->visualItemRect(recent->item(0)).center());
-    QVERIFY(welcome->isVisible());
-    QTest::mouseClick(recent->viewport(), Qt::LeftButton, {},
-                      recent->visualItemRect(recent->item(1)).center());
+    QCOMPARE(desk.prompts.questions.size(), 1);
     QCOMPARE(desk.window.workspace().current().name(), QStringLiteral("Here"));
+    QCOMPARE(desk.settings.recentProjects(), QStringList{*made});
+
+    // Or to forget it.
+    desk.settings.addRecentProject(desk.dir.filePath(QStringLiteral("Gone folder")));
+    desk.prompts.choice = 1;
+    QVERIFY(!desk.window.flows().openRecent(desk.settings.recentProjects().constFirst()));
+    QCOMPARE(desk.settings.recentProjects(), QStringList{*made});
 }
 
 void TestWelcome::aProjectIsMade()
