@@ -82,7 +82,8 @@ QWidget *Palette::makeHint()
     auto *hint = new QWidget(this);
     auto *row = new QHBoxLayout(hint);
     row->setContentsMargins(grid(1), 0, grid(1), 0);
-    auto *signs = new QLabel(tr("> commands    # tags    @ headings"), hint);
+    auto *signs =
+        new QLabel(tr("> commands    # tags    @ headings    Ctrl+Enter: show and go on"), hint);
     signs->setTextFormat(Qt::PlainText);
     signs->setForegroundRole(QPalette::PlaceholderText);
     m_count->setForegroundRole(QPalette::PlaceholderText);
@@ -132,7 +133,7 @@ void Palette::moveTo(int row)
     QAccessible::updateAccessibility(&event);
 }
 
-void Palette::choose(int row)
+void Palette::choose(int row, bool goesOn)
 {
     const app::QuickOpenModel::Choice choice = m_model.choose(row);
     switch (choice.next) {
@@ -141,7 +142,12 @@ void Palette::choose(int row)
     case app::QuickOpenModel::Choice::Next::Query:
         m_field->setText(choice.text);
         return;
-    default:
+    case app::QuickOpenModel::Choice::Next::ShowObject:
+    case app::QuickOpenModel::Choice::Next::ShowText:
+        if (goesOn) // the panels show it already
+            return;
+        [[fallthrough]];
+    case app::QuickOpenModel::Choice::Next::Trigger:
         leave();
         m_handler(choice);
     }
@@ -165,7 +171,7 @@ bool Palette::handleKey(const QKeyEvent &event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        choose(current);
+        choose(current, event.modifiers().testFlag(Qt::ControlModifier));
         return true;
     case Qt::Key_Down:
     case Qt::Key_Tab:

@@ -15,8 +15,8 @@ class QStackedWidget;
 namespace vl::desktop {
 
 /// The command palette: a field laid over the window that finds documents, entities and commands
-/// as the user types. Enter opens, the arrows choose, Esc leaves everything as it is. It goes when
-/// the focus goes elsewhere.
+/// as the user types. Enter opens, Ctrl+Enter shows the document or entity and goes on, the arrows
+/// choose, Esc leaves everything as it is. It goes when the focus goes elsewhere.
 class Palette final : public QFrame
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ protected:
 private:
     QWidget *makeHint();
     void search(const QString &query);
-    void choose(int row);
+    void choose(int row, bool goesOn = false);
     void moveTo(int row);
     bool handleKey(const QKeyEvent &event);
     void leave();

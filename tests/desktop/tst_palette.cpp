@@ -46,6 +46,7 @@ class TestPalette : public QObject
 
 private Q_SLOTS:
     void enterOpensADocument();
+    void ctrlEnterGoesOn();
     void choosingAnEntitySelectsIt();
     void actionsAreTriggered();
     void headingsLeadIntoTheText();
@@ -69,6 +70,26 @@ void TestPalette::enterOpensADocument()
     // It opens empty again, with the place before as its first row.
     field = desk.openPalette();
     QVERIFY(field && field->text().isEmpty());
+}
+
+void TestPalette::ctrlEnterGoesOn()
+{
+    Window desk;
+    const ContentId storm =
+        desk.addDocument(QStringLiteral("Storm one"), QStringLiteral("rain")).id();
+    const ContentId second =
+        desk.addDocument(QStringLiteral("Storm two"), QStringLiteral("sun")).id();
+    QLineEdit *field = desk.openPalette();
+    QVERIFY(field);
+    QTest::keyClicks(field, QStringLiteral("storm"));
+    QSet<ContentId> shown;
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(field, Qt::Key_Return, Qt::ControlModifier);
+        QVERIFY(desk.palette()->isVisible() && field->hasFocus());
+        shown.insert(desk.window.findChild<desktop::EditorPanel *>()->session()->documentId());
+        QTest::keyClick(field, Qt::Key_Down);
+    }
+    QCOMPARE(shown, (QSet<ContentId>{storm, second}));
 }
 
 void TestPalette::choosingAnEntitySelectsIt()
