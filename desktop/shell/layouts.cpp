@@ -6,7 +6,11 @@
 #include "desktop/shell/notices.h"
 #include "desktop/shell/panelhost.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QMenu>
+
+#include <algorithm>
+#include <iterator>
 
 namespace vl::desktop {
 
@@ -14,6 +18,30 @@ namespace {
 
 const QString sessionKey = QStringLiteral("general/layout");
 const QString namesKey = QStringLiteral("general/layoutNames");
+
+/// A layout for one sort of work.
+struct ShippedLayout
+{
+    const char *name;
+    Arrangement arrangement;
+};
+
+constexpr int halfBelow = 40;
+
+// clang-format off
+const ShippedLayout shippedLayouts[] = {
+    {QT_TRANSLATE_NOOP("Layouts", "Write"), {{"manuscript", "editor"}, 18, 0, halfBelow}},
+    {QT_TRANSLATE_NOOP("Layouts", "Plan"), {{"manuscript", "editor", "inspector"}, 34, 28, halfBelow}},
+    {QT_TRANSLATE_NOOP("Layouts", "World"), {{"codex", "editor", "inspector"}, 24, 34, halfBelow}},
+    {QT_TRANSLATE_NOOP("Layouts", "Play"), {{"manuscript", "codex", "editor", "inspector"}, 26, 26, 65}},
+    {QT_TRANSLATE_NOOP("Layouts", "Edit"), {{"manuscript", "editor", "inspector"}, 18, 22, halfBelow}},
+};
+// clang-format on
+
+QString nameOf(const ShippedLayout &layout)
+{
+    return QCoreApplication::translate("Layouts", layout.name);
+}
 
 /// A name may hold anything, a key of the settings may not.
 QString stateKey(const QString &name)
@@ -48,16 +76,20 @@ void Layouts::showIn(QMenu *menu)
 {
     const auto fill = [this, menu] {
         menu->clear();
-        const QStringList all = names();
-        for (const QString &name : all) {
-            QString text = name;
-            menu->addAction(text.replace(u'&', QLatin1String("&&")), this,
-                            [this, name] { apply(name); });
-        }
-        menu->menuAction()->setEnabled(!all.isEmpty());
+        for (const ShippedLayout &layout : shippedLayouts)
+            addTo(menu, nameOf(layout), [this, &layout] { m_panels.arrange(layout.arrangement); });
+        menu->addSeparator();
+        for (const QString &name : names())
+            addTo(menu, name, [this, name] { apply(name); });
     };
     connect(this, &Layouts::changed, menu, fill);
     fill();
+}
+
+void Layouts::addTo(QMenu *menu, const QString &name, const std::function<void()> &apply)
+{
+    QString text = name;
+    menu->addAction(text.replace(u'&', QLatin1String("&&")), this, apply);
 }
 
 QStringList Layouts::names() const
@@ -108,6 +140,16 @@ void Layouts::askAndSave()
             .simplified();
     if (name.isEmpty())
         return;
+    const bool isShipped = std::any_of(
+        std::begin(shippedLayouts), std::end(shippedLayouts), [&name](const ShippedLayout &layout) {
+            return name.compare(nameOf(layout), Qt::CaseInsensitive) == 0;
+        });
+    if (isShipped) {
+        m_prompts.showError(
+            tr("Save Current Layout"),
+            tr("“%1” is a layout that comes with Ivorel. Choose another name.").arg(name));
+        return;
+    }
     if (names().contains(name)
         && !m_prompts.confirm(tr("There is a layout “%1” already.").arg(name),
                               tr("The present arrangement takes its place."), tr("&Replace")))

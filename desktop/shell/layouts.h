@@ -3,6 +3,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
+#include <functional>
+
 class QMenu;
 
 namespace vl::app {
@@ -16,7 +18,8 @@ class ActionRegistry;
 class Notices;
 class PanelHost;
 
-/// The user's own layouts of the panels, kept under their names, and the one of the last session.
+/// The layouts that come with the program, the user's own, kept under their names, and the one of
+/// the last session.
 class Layouts final : public QObject
 {
     Q_OBJECT
@@ -29,6 +32,7 @@ public:
     void bind(ActionRegistry &actions);
     /// Keeps the menu filled with an entry a layout.
     void showIn(QMenu *menu);
+    /// The names of the user's own.
     QStringList names() const;
     /// Keeps the present layout under the name, in place of an older one of that name.
     void save(const QString &name);
@@ -43,6 +47,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void addTo(QMenu *menu, const QString &name, const std::function<void()> &apply);
     void askAndSave();
     void askAndRemove();
     void keep(const QString &name, const QByteArray &state);

@@ -186,37 +186,48 @@ void PanelHost::placeStrays()
     stretchCentre();
 }
 
+int PanelHost::widthNeeded(std::initializer_list<DockSide> sides) const
+{
+    int need = 0;
+    for (const PanelRow &row : panelCatalogue())
+        if (const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+            dock && !dock->isClosed()
+            && std::find(sides.begin(), sides.end(), row.side) != sides.end())
+            need = qMax(need, dock->widget()->minimumSizeHint().width());
+    return need;
+}
+
 void PanelHost::sizeAreas()
 {
     const int width = m_manager->window()->width();
-    const auto needOf = [this](std::initializer_list<DockSide> sides) {
-        int need = 0;
-        for (const PanelRow &row : panelCatalogue())
-            if (const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
-                dock && !dock->isClosed()
-                && std::find(sides.begin(), sides.end(), row.side) != sides.end())
-                need = qMax(need, dock->widget()->minimumSizeHint().width());
-        return need;
-    };
     // Large texts must not push the manuscript out between the sides, nor be cut themselves.
     const int most = width * 28 / 100;
-    const int left = qMax(qMin(std::clamp(width * 23 / 100, grid(60), grid(84)), most),
-                          needOf({DockSide::Left, DockSide::LeftBelow}));
-    const int right = qMax(qMin(std::clamp(width * 22 / 100, grid(60), grid(88)), most),
-                           needOf({DockSide::Right}));
-    QList<int> sizes;
+    sizeAreas(qMin(std::clamp(width * 23 / 100, grid(60), grid(84)), most),
+              qMin(std::clamp(width * 22 / 100, grid(60), grid(88)), most), 40);
+}
+
+void PanelHost::sizeAreas(int left, int right, int leftBelow)
+{
     const auto isShown = [this](DockSide side) {
         return m_areas[side] && !m_areas[side]->isHidden();
     };
-    if (isShown(DockSide::Left) || isShown(DockSide::LeftBelow))
+    const bool showsLeft = isShown(DockSide::Left) || isShown(DockSide::LeftBelow);
+    const bool showsRight = isShown(DockSide::Right);
+    left = qMax(left, widthNeeded({DockSide::Left, DockSide::LeftBelow}));
+    right = qMax(right, widthNeeded({DockSide::Right}));
+    const int centre =
+        m_manager->window()->width() - (showsLeft ? left : 0) - (showsRight ? right : 0);
+    // A side that is closed keeps its place in the row.
+    QList<int> sizes;
+    if (m_areas[DockSide::Left] || m_areas[DockSide::LeftBelow])
         sizes.append(left);
-    sizes.append(width - left - right);
-    if (isShown(DockSide::Right))
+    sizes.append(centre);
+    if (m_areas[DockSide::Right])
         sizes.append(right);
     if (m_areas[DockSide::Center])
         m_manager->setSplitterSizes(m_areas[DockSide::Center], sizes);
-    if (isShown(DockSide::LeftBelow))
-        m_manager->setSplitterSizes(m_areas[DockSide::LeftBelow], {3 * left, 2 * left});
+    if (m_areas[DockSide::LeftBelow])
+        m_manager->setSplitterSizes(m_areas[DockSide::LeftBelow], {100 - leftBelow, leftBelow});
 }
 
 void PanelHost::stretchCentre()
@@ -248,6 +259,24 @@ void PanelHost::resetLayout()
     m_manager->restoreState(m_firstLayout.mid(checkSize), layoutVersion);
     placeStrays();
     sizeAreas();
+    dress();
+}
+
+void PanelHost::arrange(const Arrangement &arrangement)
+{
+    m_manager->restoreState(m_firstLayout.mid(checkSize), layoutVersion);
+    placeStrays();
+    const auto &panels = arrangement.panels;
+    for (const PanelRow &row : panelCatalogue()) {
+        const bool isOpen = std::any_of(panels.begin(), panels.end(), [&row](const char *name) {
+            return QLatin1String(name) == QLatin1String(row.objectName);
+        });
+        if (ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName)))
+            dock->toggleView(isOpen);
+    }
+    const int width = m_manager->window()->width();
+    sizeAreas(width * arrangement.left / 100, width * arrangement.right / 100,
+              arrangement.leftBelow);
     dress();
 }
 

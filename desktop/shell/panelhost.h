@@ -21,6 +21,15 @@ class CDockWidget;
 
 namespace vl::desktop {
 
+/// Which panels are open and how much of the window's width the sides take.
+struct Arrangement
+{
+    std::initializer_list<const char *> panels; ///< object names, each on the side of the catalogue
+    int left;                                   ///< in percent, like the others
+    int right;
+    int leftBelow; ///< of the left side's height
+};
+
 /// Makes a dock of each panel of the catalogue. The only place that knows the docking library.
 class PanelHost final : public QObject
 {
@@ -34,6 +43,8 @@ public:
     /// One entry a panel, ticked while it is open.
     void addToggles(QMenu *menu) const;
     void resetLayout();
+    /// Begins from the first layout, then opens these panels alone.
+    void arrange(const Arrangement &arrangement);
     QByteArray saveLayout() const;
     /// Shows the first layout, and gives false, when the state is damaged or of another version.
     bool restoreLayout(const QByteArray &state);
@@ -50,6 +61,8 @@ private:
     void place(ads::CDockWidget *dock, const PanelRow &row);
     void placeStrays();
     void sizeAreas();
+    void sizeAreas(int left, int right, int leftBelow);
+    int widthNeeded(std::initializer_list<DockSide> sides) const;
     void dress();
     void fetchFloating();
     void stretchCentre();
