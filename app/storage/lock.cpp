@@ -5,6 +5,7 @@
 #include "app/storage/projectkey.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
@@ -38,7 +39,7 @@ constexpr Field fields[] = {
     {"host", &LockHolder::host},       {"user", &LockHolder::user},
     {"machine", &LockHolder::machine}, {"boot", &LockHolder::boot},
     {"space", &LockHolder::space},     {"processStart", &LockHolder::processStart},
-    {"token", &LockHolder::token},
+    {"token", &LockHolder::token},     {"place", &LockHolder::place},
 };
 
 QString textOfFile(const QString &path)
@@ -85,6 +86,13 @@ HolderState processState(const LockHolder &holder)
 #else
     return HolderState::Unknown;
 #endif
+}
+
+/// Names the place of a lock, whichever way leads there.
+QString placeOf(const QString &lockPath)
+{
+    const QFileInfo info(lockPath);
+    return hidden(QFile::encodeName(info.dir().canonicalPath() + u'/' + info.fileName()));
 }
 
 Result<QByteArray> readLock(const QString &path)
@@ -140,8 +148,12 @@ HolderState stateOf(const LockHolder &holder, const LockHolder &self)
         return HolderState::Unknown;
     if (!self.boot.isEmpty() && holder.boot != self.boot)
         return HolderState::Gone;
-    // In another space of processes its number says nothing here.
-    return holder.space == self.space ? processState(holder) : HolderState::Unknown;
+    // In another space of processes its number says nothing here, and neither does its path.
+    if (holder.space != self.space)
+        return HolderState::Unknown;
+    const bool isCopy =
+        !holder.place.isEmpty() && !self.place.isEmpty() && holder.place != self.place;
+    return isCopy ? HolderState::Gone : processState(holder);
 }
 
 QString ProjectLock::filePath(const QString &projectPath)
@@ -166,9 +178,11 @@ LockAttempt ProjectLock::create(const QString &path, const LockHolder &self)
     return attempt;
 }
 
-LockAttempt ProjectLock::take(const QString &projectPath, const LockHolder &self)
+LockAttempt ProjectLock::take(const QString &projectPath, const LockHolder &program)
 {
     const QString path = filePath(projectPath);
+    LockHolder self = program;
+    self.place = placeOf(path);
     LockAttempt attempt = create(path, self);
     if (attempt.lock || !QFileInfo::exists(path))
         return attempt;

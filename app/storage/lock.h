@@ -23,6 +23,7 @@ struct LockHolder
     QString space;        ///< in which the numbers of processes are given; empty where there is one
     QString processStart; ///< in clock ticks of the machine; empty where that cannot be known
     QString token;        ///< drawn for this lock
+    QString place;        ///< where the project lies; a lock copied along with it is nobody's
 
     /// This program, now.
     static LockHolder current();
@@ -62,7 +63,7 @@ class ProjectLock
 {
 public:
     /// Locks the project at the path. A lock whose program is gone for certain is replaced.
-    static LockAttempt take(const QString &projectPath, const LockHolder &self);
+    static LockAttempt take(const QString &projectPath, const LockHolder &program);
     /// Locks it although another program's lock stands there, which the user says is left over.
     static LockAttempt takeOver(const QString &projectPath, const LockHolder &self);
 

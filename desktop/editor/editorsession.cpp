@@ -263,8 +263,12 @@ void EditorSession::followText(const core::Document &changed)
     } else {
         m_pause.stop();
         const QTextCursor edit = m_live->apply(app::difference(before, after, m_text->caret()));
-        m_text->setTextCursor(edit);
-        m_text->ensureCursorVisible();
+        // Only a step back or forth leads to what it changes; what others did leaves the writer
+        // where she is.
+        if (m_context.workspace.isStepping()) {
+            m_text->setTextCursor(edit);
+            m_text->ensureCursorVisible();
+        }
     }
 }
 

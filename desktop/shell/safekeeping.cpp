@@ -177,6 +177,12 @@ void SafeKeeping::tell(const QString &message)
 {
     m_context.notices.withdraw(outsideNotice);
     m_context.notices.show(message);
+    // What came of it says more than that it was saved.
+    if (m_context.workspace.current().isSaving())
+        connect(
+            &m_context.workspace, &app::Workspace::saved, this,
+            [this, message] { m_context.notices.show(message); },
+            Qt::ConnectionType(Qt::AutoConnection | Qt::SingleShotConnection));
 }
 
 } // namespace vl::desktop

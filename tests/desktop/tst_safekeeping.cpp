@@ -92,6 +92,7 @@ class TestSafeKeeping : public QObject
 private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesBehindADialog();
+    void theCaretStaysInAMerge();
     void waitsForTheUsersHands_data();
     void waitsForTheUsersHands();
 };
@@ -120,6 +121,28 @@ void TestSafeKeeping::savesBehindADialog()
     QVERIFY(isSavedBehind);
     QCOMPARE(answer.value_or(QString()), QStringLiteral("A name"));
     QVERIFY(!desk.current().isDirty());
+}
+
+void TestSafeKeeping::theCaretStaysInAMerge()
+{
+    Desk desk;
+    desk.type("It was night. The lamps were lit.");
+    QVERIFY(desk.current().save());
+    desk.text->select(14, 17);
+    Document theirs(desk.ids.first(), DocumentKind::Prose, QStringLiteral("One"));
+    theirs.setBody(QStringLiteral("It was a dark night. The lamps were lit."));
+    test::putFile(desk.current().path() + u'/' + app::objectPath(desk.ids.first()),
+                  app::serializeObject(theirs));
+    desk.outside.lookSoon();
+    QTRY_VERIFY_WITH_TIMEOUT(desk.outside.offer().kind != app::OutsideOffer::Kind::None, 20000);
+    QSignalSpy done(&desk.outside, &app::OutsideMonitor::done);
+    desk.outside.load();
+    QTRY_COMPARE_WITH_TIMEOUT(done.size(), 1, 20000);
+    QCOMPARE(desk.text->text(), theirs.body());
+    QCOMPARE(desk.text->textCursor().selectedText(), QStringLiteral("The"));
+    // A step back leads to what it takes away.
+    desk.window.workspace().undo();
+    QCOMPARE(desk.text->caret(), qsizetype(7));
 }
 
 void TestSafeKeeping::waitsForTheUsersHands_data()

@@ -402,6 +402,7 @@ struct KeptProject
     void tick()
     {
         workspace.flush();
+        settle(); // a save that comes between would be backed up too
         if (workspace.current().isDirty() && !workspace.current().save())
             qFatal("not saved");
         settle();

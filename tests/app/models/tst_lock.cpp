@@ -30,6 +30,7 @@ private Q_SLOTS:
     void foreignTexts();
     void isNoPartOfTheProject();
     void placeThatCannotBeWritten();
+    void copiedAlong();
     void takenOver();
     void flow_data();
     void flow();
@@ -167,6 +168,28 @@ void TestLock::placeThatCannotBeWritten()
         ProjectLock::take(at(QStringLiteral("place/Novel.vellum")), LockHolder::current());
     QVERIFY(!attempt.lock);
     QVERIFY(!attempt.holder);
+}
+
+/// Version control and file managers take the lock along to where nobody has the project open.
+void TestLock::copiedAlong()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    const QString copy = at(QStringLiteral("clone"));
+    putFile(folder + QStringLiteral("/project.json"), "{}");
+    const LockAttempt first = ProjectLock::take(folder, LockHolder::current());
+    QVERIFY(first.lock);
+    putFiles(copy, filesUnder(folder));
+    QVERIFY(QFileInfo::exists(ProjectLock::filePath(copy)));
+    QVERIFY(QFile::link(folder, at(QStringLiteral("link"))));
+    {
+        const LockAttempt second = ProjectLock::take(copy, LockHolder::current());
+        QVERIFY(second.lock);
+        QVERIFY(!second.holder);
+    }
+    QVERIFY(!QFileInfo::exists(ProjectLock::filePath(copy)));
+    // Another way to the same place is no other place.
+    QVERIFY(ProjectLock::take(at(QStringLiteral("link")), LockHolder::current()).holder);
+    QVERIFY(ProjectLock::take(folder, LockHolder::current()).holder);
 }
 
 void TestLock::takenOver()
