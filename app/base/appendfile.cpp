@@ -18,8 +18,10 @@ bool AppendFile::append(QByteArrayView bytes)
     if (!m_file) {
         auto file = std::make_unique<QFile>(m_path);
         if (!file->open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered,
-                        QFile::ReadOwner | QFile::WriteOwner))
+                        QFile::ReadOwner | QFile::WriteOwner)) {
+            m_error = file->errorString();
             return false;
+        }
         m_file = std::move(file);
         m_size = 0;
     }
@@ -27,6 +29,7 @@ bool AppendFile::append(QByteArrayView bytes)
         m_size += bytes.size();
         return true;
     }
+    m_error = m_file->errorString();
     // What follows must not stand behind half a piece.
     if (!m_file->resize(m_size) || !m_file->seek(m_size))
         m_file.reset();
@@ -35,8 +38,10 @@ bool AppendFile::append(QByteArrayView bytes)
 
 bool AppendFile::renameTo(const QString &path)
 {
-    if (!renamePath(m_path, path, Durability::Atomic))
+    if (!renamePath(m_path, path, Durability::Atomic)) {
+        m_error = qt_error_string();
         return false;
+    }
     m_path = path;
     return true;
 }
@@ -44,12 +49,15 @@ bool AppendFile::renameTo(const QString &path)
 bool AppendFile::sync()
 {
 #if defined(Q_OS_LINUX)
-    return m_file && ::fdatasync(m_file->handle()) == 0;
+    const bool isSynced = m_file && ::fdatasync(m_file->handle()) == 0;
 #elif defined(Q_OS_UNIX)
-    return m_file && ::fsync(m_file->handle()) == 0;
+    const bool isSynced = m_file && ::fsync(m_file->handle()) == 0;
 #else
-    return m_file != nullptr;
+    const bool isSynced = m_file != nullptr;
 #endif
+    if (!isSynced)
+        m_error = qt_error_string();
+    return isSynced;
 }
 
 bool AppendFile::remove()

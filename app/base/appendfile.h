@@ -19,6 +19,8 @@ public:
     bool isOpen() const { return m_file != nullptr; }
     /// In bytes.
     qint64 size() const { return m_size; }
+    /// Why the last call failed, in the system's words.
+    const QString &error() const { return m_error; }
 
     /// Adds the bytes; the file is made by the first call, and anything that stood there goes. On
     /// failure none of them stays, as far as the system lets them be taken away.
@@ -34,6 +36,7 @@ private:
     QString m_path;
     std::unique_ptr<QFile> m_file; ///< while it is open
     qint64 m_size = 0;
+    QString m_error;
 };
 
 } // namespace vl::app

@@ -7,17 +7,15 @@
 #include "app/storage/projectwriter.h"
 #include "core/content/document.h"
 
-#include <QtCore/QDir>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
-#include <QtCore/QUuid>
+
+#include <algorithm>
 
 namespace vl::app {
 
 namespace {
 
-const QLatin1String extension(".journal");
-const QLatin1String foundMark(".found");
-const QString untitledStart = QStringLiteral("untitled-");
 /// So many bytes are chosen at a time; then the interface has its turn.
 constexpr qsizetype turnBytes = 256 * 1024;
 
@@ -29,12 +27,25 @@ std::optional<QByteArray> readBase(const QString &folder, const QString &path)
     return bytes ? std::optional(*bytes) : std::nullopt;
 }
 
+/// Whether the journal goes on from a file that stands in the folder: that of a project which was
+/// moved, as no two projects have files in common.
+bool goesOnFrom(const FoundJournal &found, const QString &folder)
+{
+    const Result<Journal> journal = readJournal(found.path);
+    return journal
+           && std::any_of(journal->files.begin(), journal->files.end(), [&](const auto &entry) {
+                  const auto present = readBase(folder, entry.first);
+                  return present && entry.second.goesOnFrom(present);
+              });
+}
+
 } // namespace
 
 JournalKeeper::JournalKeeper(Workspace &workspace, StorageLocations locations, QObject *parent)
     : QObject(parent)
     , m_workspace(workspace)
     , m_locations(std::move(locations))
+    , m_shelf(m_locations)
 {
     m_pool.setMaxThreadCount(1);
     m_timer.setSingleShot(true);
@@ -52,12 +63,13 @@ JournalKeeper::JournalKeeper(Workspace &workspace, StorageLocations locations, Q
         enter();
     });
     connect(&workspace, &Workspace::locationChanged, this, [this] {
-        if (!m_writer || m_writer->path() != journalPath()) {
+        const OpenProject &project = m_workspace.current();
+        if (project.origin() != m_origin || project.folder() != m_folder) {
             giveUp();
             enter();
         }
     });
-    collectUntitled();
+    m_pool.start([shelf = m_shelf] { shelf.thin(); });
     enter();
 }
 
@@ -66,85 +78,69 @@ JournalKeeper::~JournalKeeper()
     if (m_workspace.current().isDirty())
         writeDue();
     m_pool.waitForDone();
+    if (m_hasJournal)
+        m_workspace.current().leaveMedia();
 }
 
-QString JournalKeeper::journalPath() const
+QString JournalKeeper::newJournalPath() const
 {
     const OpenProject &project = m_workspace.current();
-    const QString name = project.hasLocation() ? projectKey(project.path()) : m_untitled;
-    return m_locations.workingFolder() + u'/' + name + extension;
+    if (!project.origin().isEmpty())
+        return m_shelf.newPath(project.origin());
+    // Its media stand beside it.
+    return m_locations.workingFolder() + u'/'
+           + QFileInfo(JournalShelf::journalOf(project.folder())).fileName();
 }
 
 void JournalKeeper::enter()
 {
     const OpenProject &project = m_workspace.current();
-    m_found = project.hasLocation() ? collect(journalPath()) : QStringList();
-    if (!project.hasLocation())
-        m_untitled = untitledStart + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const QString folder = project.folder();
+    m_origin = project.origin();
+    m_folder = project.folder();
+    lookForJournals();
     m_writer = std::make_shared<JournalWriter>(
-        journalPath(), JournalHeader{project.path(), LockHolder::current()},
-        [folder](const QString &path) { return readBase(folder, path); });
+        newJournalPath(), JournalHeader{m_origin, LockHolder::current()},
+        [folder = m_folder](const QString &path) { return readBase(folder, path); });
     m_hasJournal = false;
     Q_EMIT foundChanged();
 }
 
-void JournalKeeper::collectUntitled()
+void JournalKeeper::lookForJournals()
 {
-    const QDir folder(m_locations.workingFolder());
-    const QStringList names = folder.entryList({untitledStart + u'*'}, QDir::Files, QDir::Name);
-    QStringList journals;
-    for (const QString &name : names)
-        journals.append(name.left(name.indexOf(extension) + extension.size()));
-    journals.removeDuplicates();
-    for (const QString &name : std::as_const(journals))
-        m_foundUntitled += collect(folder.filePath(name));
-}
-
-/// Puts a journal aside whose program is gone, so that a new one can be begun; gives it and those
-/// put aside earlier that nobody decided about.
-QStringList JournalKeeper::collect(const QString &journalPath)
-{
-    if (const Result<Journal> journal = readJournal(journalPath)) {
-        const LockHolder self = LockHolder::current();
-        const LockHolder &writer = journal->header.writer;
-        // This program has the project of its own journal open no more, or would not open it; of
-        // one without a place it may have another window.
-        const bool isOwn = writer.process == self.process && writer.boot == self.boot
-                           && writer.processStart == self.processStart;
-        const bool isInUse = isOwn ? journal->header.projectPath.isEmpty()
-                                   : stateOf(writer, self) == HolderState::Running;
-        if (isInUse)
-            return {};
-        int number = 0;
-        QString aside;
-        do
-            aside = journalPath + foundMark + QString::number(++number);
-        while (QFile::exists(aside));
-        renamePath(journalPath, aside, Durability::Atomic);
-    }
-    const QFileInfo info(journalPath);
-    QStringList found;
-    const QStringList names = QDir(info.path()).entryList(QDir::Files, QDir::Name);
-    for (const QString &name : names) {
-        if (name.startsWith(info.fileName() + foundMark))
-            found.append(info.path() + u'/' + name);
-    }
-    return found;
-}
-
-void JournalKeeper::removeFound()
-{
-    for (const QString &path : std::as_const(m_found))
-        removeFile(path, Durability::Atomic);
     m_found.clear();
+    m_foundElsewhere.clear();
+    const QString here = m_origin.isEmpty() ? QString() : absoluteProjectPath(m_origin);
+    for (FoundJournal &journal : m_shelf.left()) {
+        const bool isHere =
+            !here.isEmpty() && !journal.projectPath.isEmpty()
+            && (absoluteProjectPath(journal.projectPath) == here
+                || (!QFileInfo::exists(journal.projectPath) && goesOnFrom(journal, m_folder)));
+        if (isHere)
+            m_found.append(journal.path);
+        else
+            m_foundElsewhere.push_back(std::move(journal));
+    }
 }
 
-void JournalKeeper::removeFoundUntitled()
+void JournalKeeper::adopt(const QStringList &journals)
 {
-    for (const QString &path : std::as_const(m_foundUntitled))
-        removeFile(path, Durability::Atomic);
-    m_foundUntitled.clear();
+    std::erase_if(m_foundElsewhere, [&](const FoundJournal &journal) {
+        const bool isMeant = journals.contains(journal.path);
+        if (isMeant)
+            m_found.append(journal.path);
+        return isMeant;
+    });
+    Q_EMIT foundChanged();
+}
+
+void JournalKeeper::settle(const QStringList &journals)
+{
+    for (const QString &path : journals) {
+        m_shelf.keep(path);
+        m_found.removeAll(path);
+        std::erase_if(m_foundElsewhere,
+                      [&path](const FoundJournal &journal) { return journal.path == path; });
+    }
 }
 
 void JournalKeeper::giveUp()
@@ -153,17 +149,21 @@ void JournalKeeper::giveUp()
     m_due.clear();
     m_pending.clear();
     m_isBehind = false;
+    if (!std::exchange(m_fault, QString()).isEmpty())
+        Q_EMIT caughtUp();
     if (std::exchange(m_hasJournal, false))
         m_pool.start([writer = m_writer] { writer->clear(); });
 }
 
-void JournalKeeper::finish()
+bool JournalKeeper::finish()
 {
     while (m_timer.isActive() || !m_due.isEmpty()) {
         m_timer.stop();
         writeDue();
     }
     m_pool.waitForDone();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall); // how it ended
+    return m_fault.isEmpty();
 }
 
 void JournalKeeper::schedule(int milliseconds)
@@ -254,18 +254,26 @@ void JournalKeeper::post(std::vector<FileChange> changes)
     m_hasJournal = true;
     // The pool is waited for before this goes.
     m_pool.start([this, writer = m_writer, changes = std::move(changes)] {
-        if (writer->write(changes)) {
-            writer->sync();
-            return;
-        }
-        const auto tryAgain = [this, writer] {
-            if (writer != m_writer || !m_hasJournal)
-                return;
-            m_isBehind = true;
-            schedule(delay);
-        };
-        QMetaObject::invokeMethod(this, tryAgain, Qt::QueuedConnection);
+        const Result<> result = writer->write(changes);
+        QMetaObject::invokeMethod(
+            this, [this, writer, result] { written(writer, result); }, Qt::QueuedConnection);
     });
+}
+
+void JournalKeeper::written(const std::shared_ptr<JournalWriter> &writer, const Result<> &result)
+{
+    if (writer != m_writer || !m_hasJournal)
+        return;
+    if (result) {
+        m_isBehind = false;
+        if (!std::exchange(m_fault, QString()).isEmpty())
+            Q_EMIT caughtUp();
+        return;
+    }
+    m_isBehind = true;
+    schedule(delay);
+    if (std::exchange(m_fault, result.message()) != m_fault)
+        Q_EMIT fellBehind(m_fault);
 }
 
 } // namespace vl::app

@@ -9,15 +9,11 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QUuid>
 
-#include <algorithm>
 #include <atomic>
 
 namespace vl::app {
 
 namespace {
-
-const QString timeFormat = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
-constexpr int timeSize = 19;
 
 struct DeletedText
 {
@@ -28,7 +24,7 @@ struct DeletedText
 
 DeletedStore::DeletedStore(const QString &key, const StorageLocations &locations)
     : m_folder(locations.workingFolder() + u'/' + key + QStringLiteral(".deleted"))
-    , m_locations(locations)
+    , m_files(m_folder, QStringLiteral(".json"), locations.now)
 {
 }
 
@@ -42,49 +38,27 @@ Result<> DeletedStore::add(const DeletedStep &step) const
         files.append(QJsonObject{{QLatin1String("path"), file.path},
                                  {QLatin1String("text"), QString::fromUtf8(file.bytes)}});
     const QJsonObject json{{QLatin1String("label"), step.label}, {QLatin1String("files"), files}};
-    QDateTime now = m_locations.now().toUTC();
-    if (!now.isValid() || now.date().year() < 1970 || now.date().year() > 9999)
-        now = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
     // The number keeps the order of what was deleted at one instant.
     static std::atomic<quint32> count = 0;
     const QString number = QStringLiteral("%1").arg(++count, 10, 10, QLatin1Char('0'));
-    const QString path = QStringLiteral("%1/%2-%3-%4.json")
-                             .arg(m_folder, now.toString(timeFormat), number,
-                                  QUuid::createUuid().toString(QUuid::Id128));
+    const QString path =
+        m_folder + u'/'
+        + m_files.newName(number + u'-' + QUuid::createUuid().toString(QUuid::Id128));
     return writeFile(path, QJsonDocument(json).toJson(QJsonDocument::Compact), {failed, failed},
                      Durability::Atomic);
-}
-
-/// The latest first.
-QStringList DeletedStore::fileNames() const
-{
-    QStringList names = QDir(m_folder).entryList({QStringLiteral("*.json")}, QDir::Files);
-    names.removeIf([this](const QString &name) {
-        return name.size() <= timeSize || name.at(timeSize) != u'-'
-               || !QDateTime::fromString(name.left(timeSize), timeFormat).isValid();
-    });
-    std::sort(names.begin(), names.end(), std::greater<>());
-    return names;
-}
-
-QDateTime DeletedStore::timeIn(const QString &fileName) const
-{
-    QDateTime time = QDateTime::fromString(fileName.left(timeSize), timeFormat);
-    time.setTimeSpec(Qt::UTC);
-    return time > m_locations.now() ? QDateTime() : time;
 }
 
 std::vector<DeletedStep> DeletedStore::list() const
 {
     std::vector<DeletedStep> steps;
-    for (const QString &name : fileNames()) {
+    for (const QString &name : m_files.names()) {
         const Result<QByteArray> bytes = readRegularFile(m_folder + u'/' + name, QString());
         if (!bytes)
             continue;
         const QJsonObject json = QJsonDocument::fromJson(*bytes).object();
         DeletedStep step;
         step.file = m_folder + u'/' + name;
-        step.time = timeIn(name);
+        step.time = m_files.timeIn(name);
         step.label = json.value(QLatin1String("label")).toString();
         for (const QJsonValue file : json.value(QLatin1String("files")).toArray())
             step.files.push_back({file[QLatin1String("path")].toString(),
@@ -102,18 +76,13 @@ void DeletedStore::remove(const DeletedStep &step) const
 
 void DeletedStore::thin() const
 {
-    const QDateTime now = m_locations.now();
-    int count = 0;
-    for (const QString &name : fileNames()) {
-        const QDateTime time = timeIn(name);
-        if (++count > mostSteps || (time.isValid() && time.daysTo(now) > keptDays))
-            removeFile(m_folder + u'/' + name, Durability::Atomic);
-    }
+    for (const QString &name : m_files.outworn(mostSteps))
+        removeFile(m_folder + u'/' + name, Durability::Atomic);
 }
 
 void DeletedStore::copyFrom(const DeletedStore &other) const
 {
-    const QStringList names = other.fileNames();
+    const QStringList names = other.m_files.names();
     if (names.isEmpty() || other.m_folder == m_folder || !makePrivateFolder(m_folder))
         return;
     for (const QString &name : names) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/base/result.h"
+#include "app/storage/keptfiles.h"
 #include "app/storage/projectfiles.h"
 #include "app/storage/workingcopy.h"
 
@@ -26,7 +27,7 @@ class DeletedStore
 {
 public:
     /// How long it is kept, in days, and how many steps at most.
-    static constexpr int keptDays = 30;
+    static constexpr int keptDays = KeptFiles::days;
     static constexpr int mostSteps = 500;
 
     /// The key names the project; see projectKey().
@@ -44,11 +45,8 @@ public:
     void clear() const;
 
 private:
-    QStringList fileNames() const;
-    QDateTime timeIn(const QString &fileName) const;
-
     QString m_folder;
-    StorageLocations m_locations;
+    KeptFiles m_files;
 };
 
 } // namespace vl::app

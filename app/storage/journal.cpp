@@ -12,6 +12,7 @@
 #include <libdeflate.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace vl::app {
 
@@ -24,13 +25,16 @@ constexpr int mostPieces = 2000;              // and by so many pieces
 constexpr qint64 mostWork = qint64(8) << 30;  // bytes that reading one may copy
 constexpr qint64 mostBytes = qint64(1) << 30; // that a journal may have
 constexpr std::size_t mostVersions = 2 * mostPieces; // of one file
+constexpr qint64 mostBases = qint64(64) << 20;       // bytes of what stood there, kept whole
+constexpr qint64 headBytes = 64 * 1024;              // that a head may have
 
 /// What a record does to a file.
 enum class Operation : char
 {
-    Base = 'B',  ///< tells the sum of what stood there, or that nothing did
-    Whole = 'W', ///< all bytes
-    Part = 'P',  ///< bytes between a beginning and an end that stay
+    Base = 'B',     ///< tells the sum of what stood there, or that nothing did
+    Original = 'O', ///< all bytes of what stood there
+    Whole = 'W',    ///< all bytes
+    Part = 'P',     ///< bytes between a beginning and an end that stay
     Gone = 'G',
 };
 
@@ -109,6 +113,13 @@ private:
     bool m_isGood = true;
 };
 
+void writeBase(PieceWriter &piece, const QString &path, const QByteArray &sha256,
+               const std::optional<QByteArray> &bytes)
+{
+    piece.begin(bytes ? Operation::Original : Operation::Base, path);
+    piece.text(bytes ? *bytes : sha256);
+}
+
 /// The length of the beginning that both have, and then of the end.
 std::pair<qsizetype, qsizetype> commonEnds(const QByteArray &a, const QByteArray &b)
 {
@@ -162,6 +173,11 @@ private:
         case Operation::Base:
             file.hasBase = true;
             file.baseSha256 = reader.text().toByteArray();
+            return reader.isGood();
+        case Operation::Original:
+            file.hasBase = true;
+            file.base = reader.text().toByteArray();
+            file.baseSha256 = Sha256::of(*file.base);
             return reader.isGood();
         case Operation::Whole:
             file.change.bytes = reader.text().toByteArray();
@@ -219,7 +235,8 @@ std::optional<QByteArrayView> nextPiece(const QByteArray &bytes, qsizetype &plac
 QByteArray headPiece(const JournalHeader &header)
 {
     const QJsonObject json{{QLatin1String("path"), header.projectPath},
-                           {QLatin1String("writer"), QString::fromUtf8(header.writer.toJson())}};
+                           {QLatin1String("writer"), QString::fromUtf8(header.writer.toJson())},
+                           {QLatin1String("earlier"), qint64(header.earlierPieces)}};
     PieceWriter piece;
     piece.text(QJsonDocument(json).toJson(QJsonDocument::Compact));
     return piece.finish();
@@ -234,7 +251,9 @@ std::optional<JournalHeader> headerIn(QByteArrayView piece)
         LockHolder::fromJson(json.value(QLatin1String("writer")).toString().toUtf8());
     if (!reader.isGood() || !writer)
         return std::nullopt;
-    return JournalHeader{json.value(QLatin1String("path")).toString(), *writer};
+    const qint64 earlier = json.value(QLatin1String("earlier")).toInteger();
+    return JournalHeader{json.value(QLatin1String("path")).toString(), *writer,
+                         quint32(std::clamp<qint64>(earlier, 0, std::numeric_limits<int>::max()))};
 }
 
 } // namespace
@@ -258,6 +277,7 @@ std::optional<Journal> parseJournal(const QByteArray &bytes)
         return std::nullopt;
     Journal journal;
     journal.header = *header;
+    journal.pieces = header->earlierPieces;
     Replay replay(journal);
     while (place < bytes.size()) {
         const std::optional<QByteArrayView> piece = nextPiece(bytes, place);
@@ -265,6 +285,7 @@ std::optional<Journal> parseJournal(const QByteArray &bytes)
             journal.isTorn = true;
             break;
         }
+        ++journal.pieces;
     }
     return journal;
 }
@@ -282,6 +303,24 @@ Result<Journal> readJournal(const QString &path)
     return *std::move(journal);
 }
 
+std::optional<JournalHeader> readJournalHeader(const QString &path)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.isFile() || info.isSymLink() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.read(headBytes);
+    qsizetype place = magic.size();
+    const std::optional<QByteArrayView> head =
+        bytes.startsWith(magic) ? nextPiece(bytes, place) : std::nullopt;
+    return head ? headerIn(*head) : std::nullopt;
+}
+
+QString nextJournalPath(const QString &path)
+{
+    return path + QStringLiteral(".next");
+}
+
 JournalWriter::JournalWriter(QString path, JournalHeader header, ReadBase readBase)
     : m_path(std::move(path))
     , m_header(std::move(header))
@@ -292,103 +331,164 @@ JournalWriter::JournalWriter(QString path, JournalHeader header, ReadBase readBa
 
 bool JournalWriter::begin()
 {
-    if (m_file.isOpen() && m_file.size() > 0)
-        return true;
     // A failed write left half a piece, behind which nothing may stand: a new journal takes its
     // place.
-    if (!m_bases.empty())
+    const bool isLost = m_allPieces > 0 && (!m_file.isOpen() || !QFile::exists(m_path));
+    if (m_isDoubtful || isLost)
         return compact();
-    return makePrivateFolder(QFileInfo(m_path).path())
-           && m_file.append(magic + headPiece(m_header));
+    if (m_file.isOpen() && m_file.size() > 0)
+        return true;
+    return makeFolder() && append(m_file, magic + headPiece(m_header));
 }
 
-/// Notes what is written as it goes.
-QByteArray JournalWriter::pieceOf(const std::map<QString, FileChange> &changes)
+bool JournalWriter::makeFolder()
+{
+    if (makePrivateFolder(QFileInfo(m_path).path()))
+        return true;
+    m_error = qt_error_string();
+    return false;
+}
+
+bool JournalWriter::append(AppendFile &file, const QByteArray &bytes)
+{
+    if (file.append(bytes))
+        return true;
+    m_error = file.error();
+    return false;
+}
+
+bool JournalWriter::sync(AppendFile &file)
+{
+    if (file.sync())
+        return true;
+    m_error = file.error();
+    return false;
+}
+
+void JournalWriter::addBase(const QString &path)
+{
+    if (m_bases.contains(path))
+        return;
+    Base base;
+    if (std::optional<QByteArray> bytes = m_readBase(path)) {
+        base.sha256 = Sha256::of(*bytes);
+        if (m_baseSize + bytes->size() <= mostBases) {
+            m_baseSize += bytes->size();
+            base.bytes = std::move(bytes);
+        }
+    }
+    m_bases.emplace(path, std::move(base));
+}
+
+QByteArray JournalWriter::missingPiece() const
 {
     PieceWriter piece;
-    for (const auto &[path, change] : changes) {
-        if (!m_bases.contains(change.path)) {
-            const std::optional<QByteArray> base = m_readBase(change.path);
-            m_bases[change.path] = base ? Sha256::of(*base) : QByteArray();
-            piece.begin(Operation::Base, change.path);
-            piece.text(m_bases[change.path]);
-        }
-        std::optional<QByteArray> &last = m_last[change.path];
+    for (const auto &[path, change] : m_missing) {
+        const auto known = m_last.find(path);
+        if (known == m_last.end())
+            writeBase(piece, path, m_bases.at(path).sha256, m_bases.at(path).bytes);
+        const Last last = known == m_last.end() ? std::nullopt : known->second;
         if (!change.bytes) {
-            piece.begin(Operation::Gone, change.path);
+            piece.begin(Operation::Gone, path);
         } else if (!last) {
-            piece.begin(Operation::Whole, change.path);
+            piece.begin(Operation::Whole, path);
             piece.text(*change.bytes);
         } else if (*last != *change.bytes) {
             const auto [prefix, suffix] = commonEnds(*last, *change.bytes);
-            piece.begin(Operation::Part, change.path);
+            piece.begin(Operation::Part, path);
             piece.number(quint32(prefix));
             piece.number(quint32(suffix));
             piece.text(QByteArrayView(*change.bytes)
                            .sliced(prefix, change.bytes->size() - prefix - suffix));
             piece.number(sumOf(*change.bytes));
         }
-        m_lastSize += (change.bytes ? change.bytes->size() : 0) - (last ? last->size() : 0);
-        last = change.bytes;
     }
     return piece.finish();
 }
 
-bool JournalWriter::write(const std::vector<FileChange> &changes)
+void JournalWriter::noteWritten()
 {
-    for (const FileChange &change : changes)
-        m_missing[change.path] = change;
-    if (m_missing.empty())
-        return true;
-    if (!begin())
-        return false;
-    const auto bases = m_bases;
-    const auto last = m_last;
-    const qint64 lastSize = m_lastSize;
-    if (!m_file.append(pieceOf(m_missing))) {
-        m_bases = bases;
-        m_last = last;
-        m_lastSize = lastSize;
-        return false;
+    for (auto &[path, change] : m_missing) {
+        Last &last = m_last[path];
+        m_lastSize += (change.bytes ? change.bytes->size() : 0) - (last ? last->size() : 0);
+        last = std::move(change.bytes);
     }
     m_missing.clear();
     ++m_pieces;
-    if (m_pieces > mostPieces || m_file.size() > 2 * m_lastSize + slack)
+    ++m_allPieces;
+}
+
+bool JournalWriter::isTooLarge() const
+{
+    return m_pieces > mostPieces || m_file.size() > 2 * (m_lastSize + m_baseSize) + slack;
+}
+
+bool JournalWriter::add()
+{
+    if (m_missing.empty())
+        return !m_isDoubtful || compact();
+    if (!begin())
+        return false;
+    for (const auto &[path, change] : m_missing)
+        addBase(path);
+    if (!append(m_file, missingPiece()))
+        return false;
+    noteWritten();
+    if (isTooLarge())
         return compact();
-    return true;
+    m_isDoubtful = !sync(m_file);
+    return !m_isDoubtful;
+}
+
+Result<> JournalWriter::write(const std::vector<FileChange> &changes)
+{
+    for (const FileChange &change : changes)
+        m_missing[change.path] = change;
+    if (add())
+        return {};
+    return failure(m_error);
 }
 
 /// Writes the journal anew with what it comes to; the old one stays until the new one is whole.
 bool JournalWriter::compact()
 {
     PieceWriter piece;
-    for (const auto &[path, sum] : m_bases) {
-        piece.begin(Operation::Base, path);
-        piece.text(sum);
-    }
+    for (const auto &[path, base] : m_bases)
+        writeBase(piece, path, base.sha256, base.bytes);
     for (const auto &[path, bytes] : m_last) {
         piece.begin(bytes ? Operation::Whole : Operation::Gone, path);
         if (bytes)
             piece.text(*bytes);
     }
-    AppendFile file(m_path + QStringLiteral(".next"));
-    if (!file.append(magic + headPiece(m_header) + piece.finish()) || !file.renameTo(m_path)) {
+    JournalHeader header = m_header;
+    header.earlierPieces = m_allPieces;
+    AppendFile file(nextJournalPath(m_path));
+    const bool isWritten =
+        makeFolder() && append(file, magic + headPiece(header) + piece.finish()) && sync(file);
+    if (!isWritten || !file.renameTo(m_path)) {
+        m_error = isWritten ? file.error() : m_error;
         file.remove();
         return false;
     }
     m_file = std::move(file);
     m_pieces = 0;
+    ++m_allPieces;
+    m_isDoubtful = false;
     return true;
 }
 
 void JournalWriter::clear()
 {
     m_file.remove();
+    removeFile(nextJournalPath(m_path), Durability::Atomic);
     m_bases.clear();
     m_last.clear();
     m_missing.clear();
+    m_baseSize = 0;
     m_lastSize = 0;
     m_pieces = 0;
+    m_allPieces = 0;
+    m_isDoubtful = false;
 }
 
 } // namespace vl::app

@@ -1,5 +1,7 @@
 #include "app/storage/openproject.h"
 
+#include "app/base/files.h"
+#include "app/storage/assets.h"
 #include "app/storage/projectstore.h"
 #include "app/storage/readonlyplace.h"
 #include "app/storage/runningsave.h"
@@ -7,12 +9,16 @@
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QUuid>
 
 namespace vl::app {
 
-OpenProject::OpenProject()
+OpenProject::OpenProject(const StorageLocations &locations)
     : OpenProject(std::make_unique<core::Project>(), nullptr)
 {
+    m_mediaFolder =
+        QStringLiteral("%1/untitled-%2.files")
+            .arg(locations.workingFolder(), QUuid::createUuid().toString(QUuid::WithoutBraces));
 }
 
 OpenProject::OpenProject(std::unique_ptr<core::Project> project,
@@ -28,6 +34,8 @@ OpenProject::~OpenProject()
     if (m_running)
         m_running->watcher.waitForFinished();
     m_history.setListener(nullptr);
+    if (!m_mediaFolder.isEmpty() && !m_leavesMedia)
+        QDir(m_mediaFolder).removeRecursively();
 }
 
 void OpenProject::listen()
@@ -75,14 +83,34 @@ QString OpenProject::folder() const
 {
     if (m_readOnly)
         return m_readOnly->folder;
-    return m_store ? m_store->folder() : QString();
+    return m_store ? m_store->folder() : m_mediaFolder;
+}
+
+QString OpenProject::origin() const
+{
+    return m_readOnly ? m_readOnly->path : path();
+}
+
+Result<QString> OpenProject::addMedia(const QString &file)
+{
+    if (m_readOnly)
+        return failure(tr("“%1” was opened to be read only. Save it under another name first; "
+                          "pictures are kept beside the text.")
+                           .arg(QFileInfo(m_readOnly->path).completeBaseName()));
+    if (!m_store && !makePrivateFolder(m_mediaFolder))
+        return failure(withPath(tr("Cannot create project folder: %1"), m_mediaFolder));
+    // A working copy is whole before anything comes into it.
+    const QString carried = carriedFolder();
+    return importAsset(file, carried.isEmpty() ? folder() : carried);
 }
 
 QString OpenProject::carriedFolder() const
 {
     if (m_readOnly)
         return m_readOnly->folder;
-    return m_store ? m_store->carriedFolder() : QString();
+    if (m_store)
+        return m_store->carriedFolder();
+    return QFileInfo(m_mediaFolder).isDir() ? m_mediaFolder : QString();
 }
 
 QString OpenProject::name() const

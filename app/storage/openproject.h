@@ -4,6 +4,7 @@
 #include "app/storage/folderstore.h"
 #include "app/storage/outsidescan.h"
 #include "app/storage/reconcile.h"
+#include "app/storage/workingcopy.h"
 #include "core/commandstack.h"
 #include "core/project.h"
 
@@ -25,8 +26,9 @@ class OpenProject final : public QObject
     Q_OBJECT
 
 public:
-    /// An empty project that has no place yet.
-    OpenProject();
+    /// An empty project that has no place yet; its media files stand in a folder of the program's
+    /// own data until it has.
+    explicit OpenProject(const StorageLocations &locations = StorageLocations::standard());
     ~OpenProject() override;
 
     /// Opens a ".vellum" file or a project folder.
@@ -51,8 +53,16 @@ public:
     bool isBundle() const;
     /// What the project is called: the name of its file or folder, or "Untitled".
     QString name() const;
-    /// The folder under which "assets/…" paths stand; empty while the project has no place.
+    /// The same, or the place from which it was opened to be read only.
+    QString origin() const;
+    /// The folder under which "assets/…" paths stand; for a project without a place it may not be
+    /// there yet.
     QString folder() const;
+    /// Copies a file among the project's media; gives its path as the project's contents name it.
+    Result<QString> addMedia(const QString &file);
+    /// Leaves the media of a project without a place where they are when this goes: the program
+    /// ends before it was said what becomes of them.
+    void leaveMedia() { m_leavesMedia = true; }
 
     /// Saves to the place of the project and marks the history clean. Emits aboutToSave() first,
     /// so that editors hand in what is typed. Without a place it fails.
@@ -126,6 +136,8 @@ private:
     std::unique_ptr<core::Project> m_project;
     core::CommandStack m_history; ///< goes before the project that its commands refer to
     std::unique_ptr<ProjectStore> m_store;
+    QString m_mediaFolder; ///< of the media while the project has no place
+    bool m_leavesMedia = false;
     std::unique_ptr<ReadOnlyPlace>
         m_readOnly;            ///< where it was read from, when it was opened for that
     core::ChangeSet m_unsaved; ///< what changed since the files were last read or written

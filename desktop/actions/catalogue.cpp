@@ -22,6 +22,7 @@ constexpr ActionRow rows[] = {
     {"file.applyContentPack", QT_TRANSLATE_NOOP("Actions", "Apply &Content Pack…"), Menu::File, noKey, "", false},
     {"file.backUp", QT_TRANSLATE_NOOP("Actions", "&Back Up Project Now"), Menu::File, noKey, "", true},
     {"file.backups", QT_TRANSLATE_NOOP("Actions", "Bac&kups…"), Menu::File, noKey, "", false},
+    {"file.unsavedWork", QT_TRANSLATE_NOOP("Actions", "Unsaved &Work…"), Menu::File, noKey, "", false},
     {"file.checkExternal", QT_TRANSLATE_NOOP("Actions", "Check for E&xternal Changes…"), Menu::File, noKey, "", false},
     {"file.mountedLibraries", QT_TRANSLATE_NOOP("Actions", "Mounted &Libraries…"), Menu::File, noKey, "", true},
     {"file.manageAudiences", QT_TRANSLATE_NOOP("Actions", "Mana&ge Audiences…"), Menu::File, noKey, "", false},

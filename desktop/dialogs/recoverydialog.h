@@ -4,8 +4,10 @@
 
 #include <QtWidgets/QDialog>
 
+class QLabel;
 class QPushButton;
 class QTreeWidget;
+class QVBoxLayout;
 
 namespace vl::desktop {
 
@@ -25,13 +27,22 @@ public:
         Discard
     };
 
-    RecoveryDialog(const app::Recovery &recovery, QWidget *parent);
+    /// When it is asked: after a crash, or once it was decided about.
+    enum class Occasion
+    {
+        AfterCrash,
+        Decided
+    };
+
+    /// The recovery outlives it.
+    RecoveryDialog(const app::Recovery &recovery, Occasion occasion, QWidget *parent);
 
     Answer answer() const { return m_answer; }
     /// Paths of what is ticked.
     QStringList chosenPaths() const;
 
 private:
+    void addButtons(QVBoxLayout *layout, Occasion occasion);
     void fill();
     void showChosen();
     void updateButtons();
@@ -39,6 +50,7 @@ private:
     const app::Recovery &m_recovery;
     Answer m_answer = Answer::Later;
     QTreeWidget *m_tree;
+    QLabel *m_way; ///< how what is chosen comes back
     DifferenceView *m_difference;
     QPushButton *m_restore;
 };

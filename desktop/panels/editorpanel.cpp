@@ -5,7 +5,6 @@
 #include "app/models/documentoperations.h"
 #include "app/models/prompts.h"
 #include "app/models/workspace.h"
-#include "app/storage/assets.h"
 #include "core/content/document.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/editor/distractionfree.h"
@@ -121,6 +120,7 @@ EditorPanel::EditorPanel(const PanelContext &context, QWidget *parent)
     };
     connect(&m_context.workspace, &app::Workspace::projectReplaced, this, readFolder);
     connect(&m_context.workspace, &app::Workspace::locationChanged, this, readFolder);
+    readFolder();
     connect(&m_context.settings.changes(), &app::SettingsChanges::changed, this,
             [this](const QString &key) {
                 if (key.startsWith(QLatin1String("editor/")))
@@ -285,17 +285,11 @@ void EditorPanel::showMenu(const QPoint &globalPosition)
 
 void EditorPanel::insertPictureFiles(const QStringList &files)
 {
-    const QString folder = m_context.workspace.current().folder();
-    if (folder.isEmpty()) {
-        m_context.prompts.showError(
-            tr("Insert Picture"),
-            tr("Save the project first. Pictures are kept in its folder, beside the text."));
-        return;
-    }
     QStringList lines;
     const QTemporaryDir renamed;
     for (const QString &file : files) {
-        const app::Result<QString> path = app::importAsset(withTellableName(file, renamed), folder);
+        const app::Result<QString> path =
+            m_context.workspace.current().addMedia(withTellableName(file, renamed));
         if (!path) {
             m_context.prompts.showError(tr("Insert Picture"), path.message());
             continue;

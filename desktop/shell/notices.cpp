@@ -1,5 +1,6 @@
 #include "desktop/shell/notices.h"
 
+#include "app/models/objecttexts.h"
 #include "app/models/workspace.h"
 #include "desktop/widgets/elidedlabel.h"
 #include "desktop/widgets/grid.h"
@@ -24,6 +25,7 @@ Notices::Notices(QStatusBar *foot, NoticeBar *top, app::Workspace &workspace, QO
     , m_top(top)
     , m_row(new QWidget(foot))
     , m_text(new ElidedLabel({}, m_row))
+    , m_standing(new ElidedLabel({}, foot))
     , m_button(new QToolButton(m_row))
 {
     auto *layout = new QHBoxLayout(m_row);
@@ -36,6 +38,9 @@ Notices::Notices(QStatusBar *foot, NoticeBar *top, app::Workspace &workspace, QO
     m_button->setText(tr("Undo"));
     foot->addWidget(m_row, 1);
     m_row->hide();
+    m_standing->setAccessibleName(tr("What needs attention"));
+    foot->addPermanentWidget(m_standing);
+    m_standing->hide();
 
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] {
@@ -87,6 +92,14 @@ void Notices::clear()
     m_offeredAt = -1;
     m_action = {};
     m_row->hide();
+}
+
+void Notices::stand(const QString &text, const QString &details)
+{
+    m_standing->setText(text);
+    m_standing->setToolTip(app::plainToolTip(details));
+    m_standing->setAccessibleDescription(details);
+    m_standing->setVisible(!text.isEmpty());
 }
 
 void Notices::ask(const QString &id, const QString &text, const QList<NoticeAction> &answers)

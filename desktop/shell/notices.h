@@ -35,6 +35,10 @@ public:
     /// Takes the passing text away.
     void clear();
 
+    /// Shows a text quietly until it is given another, or an empty one; the details are its tool
+    /// tip.
+    void stand(const QString &text, const QString &details);
+
     /// Shows a question until it is answered, put off or withdrawn; one an id.
     void ask(const QString &id, const QString &text, const QList<NoticeAction> &answers);
     void withdraw(const QString &id);
@@ -46,6 +50,7 @@ private:
     NoticeBar *m_top;
     QWidget *m_row;
     ElidedLabel *m_text;
+    ElidedLabel *m_standing;
     QToolButton *m_button;
     std::function<void()> m_action;
     QTimer m_timer;

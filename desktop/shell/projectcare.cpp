@@ -5,37 +5,25 @@
 #include "app/models/newcontents.h"
 #include "app/models/projectflows.h"
 #include "app/models/prompts.h"
-#include "app/models/recovery.h"
 #include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/backupsdialog.h"
 #include "desktop/dialogs/recentlydeleteddialog.h"
-#include "desktop/dialogs/recoverydialog.h"
 #include "desktop/dialogs/restoredocumentdialog.h"
 #include "desktop/shell/notices.h"
 
-#include <QtCore/QFileInfo>
-
 namespace vl::desktop {
-
-namespace {
-
-const QString crashNotice = QStringLiteral("unsavedWork");
-const QString untitledNotice = QStringLiteral("untitledWork");
-
-} // namespace
 
 ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, QWidget *window)
     : m_context(context)
     , m_flows(flows)
     , m_window(window)
     , m_backups(context.workspace, app::StorageLocations::of(context.settings))
-    , m_journal(context.workspace, app::StorageLocations::standard())
+    , m_crash(context, flows, window)
     , m_deleted(context.workspace, app::StorageLocations::standard())
 {
     followSettings();
     listen();
-    askAboutUntitled();
     context.actions.bind("file.backUp", this, &ProjectCare::backUpNow);
     context.actions.bind("file.backups", this, &ProjectCare::showBackups);
     context.actions.bind("edit.recentlyDeleted", this, &ProjectCare::showRecentlyDeleted);
@@ -60,7 +48,6 @@ void ProjectCare::followSettings()
 
 void ProjectCare::listen()
 {
-    connect(&m_journal, &app::JournalKeeper::foundChanged, this, &ProjectCare::askAboutCrash);
     connect(&m_backups, &app::BackupKeeper::made, this, [this](app::BackupReason reason) {
         if (reason == app::BackupReason::ByHand)
             m_context.notices.show(tr("The project is backed up."), tr("Show Backups"),
@@ -81,99 +68,6 @@ void ProjectCare::listen()
                     m_context.notices.show(tr("No backup was made: %1").arg(message),
                                            tr("Show Backups"), [this] { showBackups(); });
             });
-}
-
-/// Nothing is put into the project before the user says so.
-void ProjectCare::askAboutCrash()
-{
-    m_context.notices.withdraw(crashNotice);
-    if (m_journal.found().isEmpty())
-        return;
-    const app::Recovery recovery = app::Recovery::read(m_journal.found(), m_context.workspace);
-    if (recovery.files().empty()) { // all of it reached the files
-        m_journal.removeFound();
-        return;
-    }
-    m_context.notices.ask(
-        crashNotice,
-        tr("Ivorel was cut off before all was saved. Unsaved work was found: %1.")
-            .arg(recovery.summary()),
-        {{tr("Compare and Restore…"), [this] { compareRecovered(); }},
-         {tr("Restore"), [this] {
-              const app::Recovery again =
-                  app::Recovery::read(m_journal.found(), m_context.workspace);
-              // What is newer in the project than in the journal wants a look.
-              if (again.advisedPaths().size() < qsizetype(again.files().size())) {
-                  compareRecovered();
-              } else if (again.restore(m_context.workspace, again.advisedPaths())) {
-                  m_journal.removeFound();
-                  m_context.notices.offerUndo(tr("The unsaved work is restored."));
-              }
-          }}});
-}
-
-void ProjectCare::compareRecovered()
-{
-    m_context.workspace.flush();
-    const app::Recovery recovery = app::Recovery::read(m_journal.found(), m_context.workspace);
-    RecoveryDialog dialog(recovery, m_window);
-    dialog.exec();
-    switch (dialog.answer()) {
-    case RecoveryDialog::Answer::Restore:
-        if (recovery.restore(m_context.workspace, dialog.chosenPaths())) {
-            m_journal.removeFound();
-            m_context.notices.offerUndo(tr("The unsaved work is restored."));
-        }
-        break;
-    case RecoveryDialog::Answer::Discard:
-        m_journal.removeFound();
-        break;
-    case RecoveryDialog::Answer::Later:
-        askAboutCrash();
-        break;
-    }
-}
-
-void ProjectCare::askAboutUntitled()
-{
-    if (m_journal.foundUntitled().isEmpty())
-        return;
-    const app::Workspace empty;
-    const app::Recovery recovery = app::Recovery::read(m_journal.foundUntitled(), empty);
-    if (recovery.files().empty()) {
-        m_journal.removeFoundUntitled();
-        return;
-    }
-    m_context.notices.ask(
-        untitledNotice,
-        tr("A project that was never saved was found after Ivorel was cut off: %1.")
-            .arg(recovery.summary()),
-        {{tr("Restore"), [this] { restoreUntitled(); }},
-         {tr("Discard"), [this] {
-              if (m_context.prompts.confirm(tr("Discard the project that was never saved?"),
-                                            tr("What was written in it is lost."), tr("Discard")))
-                  m_journal.removeFoundUntitled();
-              else
-                  askAboutUntitled();
-          }}});
-}
-
-void ProjectCare::restoreUntitled()
-{
-    app::Workspace &workspace = m_context.workspace;
-    const bool isFresh = !workspace.current().hasLocation() && !workspace.current().isDirty()
-                         && workspace.project().size() == 0;
-    if (!isFresh && !m_flows.newProject()) {
-        askAboutUntitled();
-        return;
-    }
-    const app::Recovery recovery =
-        app::Recovery::read(m_journal.foundUntitled(), m_context.workspace);
-    QStringList paths;
-    for (const app::RecoveredFile &file : recovery.files())
-        paths.append(file.change.path);
-    if (recovery.restore(workspace, paths))
-        m_journal.removeFoundUntitled();
 }
 
 void ProjectCare::showRecentlyDeleted()

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/models/backupkeeper.h"
-#include "app/models/journalkeeper.h"
 #include "app/models/recentlydeleted.h"
 #include "desktop/panels/panelcontext.h"
+#include "desktop/shell/crashrecovery.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
@@ -28,16 +28,11 @@ public:
     ~ProjectCare() override;
 
     /// The window closes; what the user did not save is given up.
-    void closing() { m_journal.giveUp(); }
+    void closing() { m_crash.closing(); }
 
 private:
     void followSettings();
     void listen();
-    void askAboutCrash();
-    void askAboutUntitled();
-    void recover(const QStringList &journals, const QStringList &paths);
-    void compareRecovered();
-    void restoreUntitled();
     void showRecentlyDeleted();
     void backUpNow();
     void showBackups();
@@ -48,7 +43,7 @@ private:
     app::ProjectFlows &m_flows;
     QWidget *m_window;
     app::BackupKeeper m_backups;
-    app::JournalKeeper m_journal;
+    CrashRecovery m_crash;
     app::RecentlyDeleted m_deleted;
     QPointer<BackupsDialog> m_list; ///< while it is shown
 };

@@ -1,5 +1,7 @@
-// Types into a project until it is killed, as a window does: the journal test starts it. Prints a
+// Types into a project until it is killed, as a window does: the recovery test starts it. Prints a
 // line for each word that it is sure was written down.
+//
+// journalchild DATA [PROJECT [--read-only] | --picture FILE]
 
 #include "app/models/journalkeeper.h"
 #include "app/models/workspace.h"
@@ -20,8 +22,17 @@ int main(int argc, char *argv[])
     locations.root = arguments.at(1);
     app::Workspace workspace;
     app::JournalKeeper keeper(workspace, locations);
-    if (arguments.size() > 2) {
-        auto opened = app::OpenProject::open(arguments.at(2));
+    QString text; // that the document begins with
+    if (arguments.contains(QLatin1String("--picture"))) {
+        workspace.replaceProject(std::make_unique<app::OpenProject>(locations));
+        const app::Result<QString> path = workspace.current().addMedia(arguments.last());
+        if (!path)
+            return 1;
+        text = QStringLiteral("![](%1) ").arg(*path);
+    } else if (arguments.size() > 2) {
+        auto opened = arguments.contains(QLatin1String("--read-only"))
+                          ? app::OpenProject::openReadOnly(arguments.at(2))
+                          : app::OpenProject::open(arguments.at(2));
         if (!opened)
             return 1;
         workspace.replaceProject(*std::move(opened));
@@ -32,6 +43,8 @@ int main(int argc, char *argv[])
             std::make_unique<core::Document>(core::ContentId::create(), core::DocumentKind::Prose,
                                              QStringLiteral("Scene")));
     core::Document *document = workspace.project().all<core::Document>().front();
+    if (!text.isEmpty())
+        workspace.push<core::SetDocumentBodyCommand>(*document, text);
     // Every other word is only in the editor, not handed in.
     QString typed;
     QObject::connect(&workspace, &app::Workspace::peekRequested, [&](app::PendingTexts &texts) {

@@ -1,21 +1,8 @@
-#include "app/models/journalkeeper.h"
-#include "app/models/recovery.h"
-#include "app/models/workspace.h"
 #include "app/storage/journal.h"
-#include "app/storage/projectkey.h"
-#include "app/storage/projectwriter.h"
-#include "core/commands/codexcommands.h"
-#include "core/commands/documentcommands.h"
-#include "core/commands/objectcommands.h"
-#include "core/commands/projectcommands.h"
-#include "tests/support/fingerprint.h"
+#include "app/storage/journalshelf.h"
 #include "tests/support/folders.h"
-#include "tests/support/projectbuilder.h"
 
-#include <QtCore/QProcess>
 #include <QtTest/QtTest>
-
-#include <csignal>
 
 using namespace vl;
 using namespace vl::app;
@@ -32,6 +19,14 @@ QString changesIn(const Journal &journal)
                      + (file.change.bytes ? u'=' + QString::fromUtf8(*file.change.bytes)
                                           : QStringLiteral("-")));
     return texts.join(u' ');
+}
+
+/// A program that ran on this machine and is gone.
+LockHolder goneProgram()
+{
+    LockHolder holder = LockHolder::current();
+    holder.processStart = QStringLiteral("1");
+    return holder;
 }
 
 FileChange change(const char *path, const char *bytes)
@@ -54,14 +49,12 @@ private Q_SLOTS:
     void staysSmall();
     void knowsWhatItGoesOnFrom_data();
     void knowsWhatItGoesOnFrom();
-    void survivesKilling_data();
-    void survivesKilling();
-    void goneAfterASave_data();
-    void goneAfterASave();
-    void typedText();
-    void restoresEveryKind();
-    void leftAloneWhileItsProgramRuns();
-    void newerFilesAreNotAdvised();
+    void failedWritesAreMadeUpFor_data();
+    void failedWritesAreMadeUpFor();
+    void crashWhileWrittenAnew_data();
+    void crashWhileWrittenAnew();
+    void keptForAWhile_data();
+    void keptForAWhile();
 
 private:
     QString at(const QString &name) const { return m_folder->filePath(name); }
@@ -73,15 +66,7 @@ private:
                     return base.contains(path) ? std::optional(base.value(path)) : std::nullopt;
                 }};
     }
-    QStringList journals() const
-    {
-        return QDir(m_locations.workingFolder())
-            .entryList({QStringLiteral("*.journal*")}, QDir::Files);
-    }
-    core::Document &addDocument(Workspace &workspace, const QString &title);
-
     std::unique_ptr<QTemporaryDir> m_folder;
-    StorageLocations m_locations;
 };
 
 void TestJournal::init()
@@ -90,16 +75,6 @@ void TestJournal::init()
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/jóurnal of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());
-    m_locations.root = at(QStringLiteral("data"));
-}
-
-core::Document &TestJournal::addDocument(Workspace &workspace, const QString &title)
-{
-    const auto id = core::ContentId::create();
-    workspace.push<core::AddObjectCommand>(
-        workspace.project(),
-        std::make_unique<core::Document>(id, core::DocumentKind::Prose, title));
-    return *workspace.project().find<core::Document>(id);
 }
 
 void TestJournal::writtenAndRead_data()
@@ -224,223 +199,121 @@ void TestJournal::knowsWhatItGoesOnFrom()
     QVERIFY(read->files.at(QStringLiteral("new")).goesOnFrom(std::nullopt));
 }
 
-void TestJournal::survivesKilling_data()
+void TestJournal::failedWritesAreMadeUpFor_data()
 {
-    QTest::addColumn<QString>("project"); // empty: never saved
-    QTest::newRow("folder") << "novel";
-    QTest::newRow("bundle") << "novel.vellum";
-    QTest::newRow("never saved") << "";
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("it cannot be begun") << "before";
+    QTest::newRow("it is gone in between") << "gone";
+    QTest::newRow("its folder is gone in between") << "folder";
 }
 
-void TestJournal::survivesKilling()
+void TestJournal::failedWritesAreMadeUpFor()
 {
-#ifdef IVOREL_JOURNAL_CHILD
-    QFETCH(QString, project);
-    const QString path = project.isEmpty() ? QString() : at(project);
-    if (!path.isEmpty()) {
-        Workspace workspace;
-        addDocument(workspace, QStringLiteral("Scene"));
-        QVERIFY(project.contains(u'.') ? workspace.current().saveAsBundle(path)
-                                       : workspace.current().saveAsFolder(path));
+    QFETCH(QString, fault);
+    const QString folder = at(QStringLiteral("data"));
+    JournalWriter journal(folder + QStringLiteral("/x.journal"),
+                          {QStringLiteral("/a/novel"), LockHolder::current()},
+                          [](const QString &) { return std::optional(QByteArray("base")); });
+    if (fault == QLatin1String("before")) {
+        putFile(folder, "no folder");
+        const Result<> first = journal.write({change("a", "one")});
+        QVERIFY(!first && !first.message().isEmpty());
+        QVERIFY(!journal.write({change("b", "two")}));
+        QVERIFY(QFile::remove(folder));
+    } else {
+        QVERIFY(journal.write({change("a", "one")}));
+        QVERIFY(journal.write({change("b", "two")}));
+        QVERIFY(fault == QLatin1String("gone") ? QFile::remove(journal.path())
+                                               : QDir(folder).removeRecursively());
     }
-    const FileMap before = filesUnder(m_folder->path());
-    QProcess child;
-    QStringList arguments{m_locations.root};
-    if (!path.isEmpty())
-        arguments.append(path);
-    child.start(QStringLiteral(IVOREL_JOURNAL_CHILD), arguments);
-    int last = -1;
-    while (last < 20) {
-        QVERIFY2(child.waitForReadyRead(), child.readAllStandardError().constData());
-        while (child.canReadLine())
-            last = child.readLine().trimmed().toInt();
-    }
-    ::kill(pid_t(child.processId()), SIGKILL);
-    child.waitForFinished();
-    while (child.canReadLine())
-        last = child.readLine().trimmed().toInt();
-
-    Workspace workspace;
-    JournalKeeper keeper(workspace, m_locations);
-    QStringList found = keeper.foundUntitled();
-    if (!path.isEmpty()) {
-        auto opened = OpenProject::open(path);
-        QVERIFY(opened);
-        workspace.replaceProject(*std::move(opened));
-        found = keeper.found();
-    }
-    QCOMPARE(found.size(), 1);
-    // Nothing of the user's was written to.
-    for (auto it = before.begin(); it != before.end(); ++it)
-        QCOMPARE(fileBytes(at(it.key())), it.value());
-
-    const Recovery recovery = Recovery::read(found, workspace);
-    QCOMPARE(recovery.files().size(), 1U);
-    QCOMPARE(recovery.advisedPaths().size(), 1);
-    QCOMPARE(recovery.summary(), QStringLiteral("“Scene”"));
-    const qsizetype steps = workspace.history().undoCount();
-    QVERIFY(recovery.restore(workspace, recovery.advisedPaths()));
-    QCOMPARE(workspace.history().undoCount(), steps + 1);
-    const QString body = workspace.project().all<core::Document>().front()->body();
-    for (int i = 0; i <= last; ++i)
-        QVERIFY2(body.contains(QStringLiteral("word%1 ").arg(i)), qPrintable(body));
-    workspace.undo();
-    QCOMPARE(workspace.project().size(), path.isEmpty() ? 0 : 1);
-
-    // Undecided it is offered again, by a program that was itself cut off in between.
-    {
-        Workspace again;
-        JournalKeeper other(again, m_locations);
-        if (path.isEmpty())
-            QCOMPARE(other.foundUntitled(), found);
-    }
-    path.isEmpty() ? keeper.removeFoundUntitled() : keeper.removeFound();
-    keeper.giveUp();
-    keeper.finish();
-    QCOMPARE(journals(), QStringList());
-#else
-    QSKIP("There is no signal that cannot be caught.");
-#endif
+    QVERIFY(journal.write({change("c", "three")}));
+    const Result<Journal> read = readJournal(journal.path());
+    QCOMPARE(changesIn(*read), QStringLiteral("a=one b=two c=three"));
+    QCOMPARE(read->files.at(QStringLiteral("a")).base, std::optional(QByteArray("base")));
 }
 
-void TestJournal::goneAfterASave_data()
+void TestJournal::crashWhileWrittenAnew_data()
 {
-    QTest::addColumn<QString>("fate");
-    QTest::newRow("saved") << "saved";
-    QTest::newRow("undone") << "undone";
-    QTest::newRow("given up") << "given up";
-    QTest::newRow("another project is opened") << "replaced";
+    QTest::addColumn<int>("oldPieces"); // in the old journal, of three; -1: it is not there
+    QTest::addColumn<int>("newPieces"); // in the one that was to take its place
+    QTest::addColumn<bool>("isNewWhole");
+    QTest::addColumn<QString>("stands");
+    QTest::newRow("before the new one was whole") << 2 << 3 << false << "a=2";
+    QTest::newRow("before it took the place") << 2 << 2 << true << "a=2";
+    QTest::newRow("the new one is ahead") << 1 << 3 << true << "a=3";
+    QTest::newRow("the old one is ahead") << 3 << 2 << true << "a=3";
+    QTest::newRow("the old one is gone") << -1 << 3 << true << "a=3";
+    QTest::newRow("nothing whole is left") << -1 << 3 << false << "";
 }
 
-void TestJournal::goneAfterASave()
+void TestJournal::crashWhileWrittenAnew()
 {
-    QFETCH(QString, fate);
-    Workspace workspace;
-    QVERIFY(workspace.current().saveAsFolder(at(QStringLiteral("novel"))));
-    JournalKeeper keeper(workspace, m_locations);
-    addDocument(workspace, QStringLiteral("One"));
-    keeper.finish();
-    QCOMPARE(journals().size(), 1);
-    QVERIFY(journals().first().startsWith(projectKey(at(QStringLiteral("novel")))));
-    if (fate == QLatin1String("saved"))
-        QVERIFY(workspace.current().save());
-    else if (fate == QLatin1String("undone"))
-        workspace.undo();
-    else if (fate == QLatin1String("replaced"))
-        workspace.replaceProject(std::make_unique<OpenProject>());
-    else
-        keeper.giveUp();
-    keeper.finish();
-    QCOMPARE(journals(), QStringList());
-}
-
-void TestJournal::typedText()
-{
-    Workspace workspace;
-    QVERIFY(workspace.current().saveAsFolder(at(QStringLiteral("novel"))));
-    JournalKeeper keeper(workspace, m_locations);
-    core::Document &document = addDocument(workspace, QStringLiteral("One"));
-    workspace.push<core::SetDocumentBodyCommand>(document, QStringLiteral("a\r\nb"));
-    QVERIFY(workspace.current().save());
-    QString typed = QStringLiteral("a\nb and c");
-    connect(&workspace, &Workspace::peekRequested, this, [&](PendingTexts &texts) {
-        if (!typed.isNull())
-            texts.append({document.id(), typed});
-    });
-    const auto written = [&] {
-        keeper.finish();
-        if (journals().isEmpty())
-            return QString();
-        const Result<Journal> read =
-            readJournal(m_locations.workingFolder() + u'/' + journals().first());
-        const ReadContents contents = contentsOf({read->files.begin()->second.change});
-        return static_cast<const core::Document &>(*contents.contents.objects.front()).body();
+    QFETCH(int, oldPieces);
+    QFETCH(int, newPieces);
+    QFETCH(bool, isNewWhole);
+    QFETCH(QString, stands);
+    const StorageLocations locations{at(QStringLiteral("data"))};
+    const QString path = locations.workingFolder() + QStringLiteral("/x.000001-1.journal");
+    const auto write = [&](int pieces) {
+        JournalWriter journal(path, {QStringLiteral("/a/novel"), goneProgram()},
+                              [](const QString &) { return std::nullopt; });
+        for (int i = 1; i <= pieces; ++i)
+            QVERIFY(journal.write({change("a", QByteArray::number(i).constData())}));
     };
-    Q_EMIT workspace.typed();
-    // What the editor does not touch keeps its bytes; the model knows nothing of it yet.
-    QCOMPARE(written(), QStringLiteral("a\r\nb and c"));
-    QCOMPARE(document.body(), QStringLiteral("a\r\nb"));
-    QVERIFY(!workspace.current().isDirty());
-    typed = QString();
-    Q_EMIT workspace.typed(); // taken back again
-    QCOMPARE(written(), QString());
+    write(newPieces);
+    const QByteArray anew = fileBytes(path);
+    QVERIFY(QFile::remove(path));
+    putFile(nextJournalPath(path), isNewWhole ? anew : anew.chopped(1));
+    if (oldPieces >= 0)
+        write(oldPieces);
+
+    const std::vector<FoundJournal> found = JournalShelf(locations).left();
+    const auto read = found.empty() ? Result<Journal>(failure({})) : readJournal(found[0].path);
+    QCOMPARE(read ? changesIn(*read) : QString(), stands);
+    QVERIFY(!QFile::exists(nextJournalPath(path)));
 }
 
-void TestJournal::restoresEveryKind()
+void TestJournal::keptForAWhile_data()
 {
-    // A project of every kind whose every part was changed, added or removed.
-    Workspace workspace;
-    QVERIFY(workspace.current().saveAsFolder(at(QStringLiteral("novel"))));
-    auto keeper = std::make_unique<JournalKeeper>(workspace, m_locations);
-    const std::unique_ptr<core::Project> full = fullProject();
-    std::vector<FileChange> files;
-    serializeProject(*full, [&](const QString &path, const QByteArray &bytes) {
-        files.push_back({path, bytes});
-    });
-    const ProjectPrint before = fingerprint(workspace.project());
-    ReadContents read = contentsOf(files);
-    QCOMPARE(read.unreadable, QStringList());
-    workspace.push<core::ReplaceContentsCommand>(workspace.project(), std::move(read.contents),
-                                                 QStringLiteral("All"));
-    const ProjectPrint after = fingerprint(workspace.project());
-    QVERIFY(!(before == after));
-    keeper->finish();
-    const QString journal = m_locations.workingFolder() + u'/' + journals().first();
-
-    Workspace other;
-    const Recovery recovery = Recovery::read({journal}, other);
-    QCOMPARE(recovery.files().size(), files.size());
-    QVERIFY(recovery.restore(other, recovery.advisedPaths()));
-    QVERIFY(fingerprint(other.project()) == after);
-    other.undo();
-    QVERIFY(fingerprint(other.project()) == before);
+    QTest::addColumn<QList<int>>("days"); // on which the program was started, after the first
+    QTest::addColumn<bool>("isListed");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("within the time") << QList<int>{10, 30} << true << true;
+    QTest::newRow("too old, seen so for the first time") << QList<int>{31} << false << true;
+    QTest::newRow("too old on three days") << QList<int>{31, 32, 33} << false << false;
+    QTest::newRow("three times on one day") << QList<int>{40, 40, 40} << false << true;
+    QTest::newRow("a clock that jumps ahead and back") << QList<int>{9000, 1, 2} << true << true;
+    QTest::newRow("a clock set back by years") << QList<int>{-9000, -8999, -8998} << true << true;
 }
 
-void TestJournal::leftAloneWhileItsProgramRuns()
+void TestJournal::keptForAWhile()
 {
-    QProcess program;
-    program.start(QStringLiteral("sleep"), {QStringLiteral("60")});
-    QVERIFY(program.waitForStarted());
-    LockHolder holder = LockHolder::current();
-    holder.process = program.processId();
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(holder.process));
-    QVERIFY(stat.open(QIODevice::ReadOnly));
-    holder.processStart = QString::fromUtf8(stat.readAll()).section(u' ', 21, 21);
-    JournalWriter journal(m_locations.workingFolder() + QStringLiteral("/untitled-1.journal"),
-                          {QString(), holder}, [](const QString &) { return std::nullopt; });
-    QVERIFY(journal.write({change("project.json", "{}")}));
-    Workspace workspace;
-    QCOMPARE(JournalKeeper(workspace, m_locations).foundUntitled(), QStringList());
-    program.kill();
-    program.waitForFinished();
-    QCOMPARE(JournalKeeper(workspace, m_locations).foundUntitled().size(), 1);
-}
-
-void TestJournal::newerFilesAreNotAdvised()
-{
-    const QString folder = at(QStringLiteral("novel"));
-    Workspace workspace;
-    core::Document &document = addDocument(workspace, QStringLiteral("One"));
-    QVERIFY(workspace.current().saveAsFolder(folder));
-    JournalKeeper keeper(workspace, m_locations);
-    workspace.push<core::SetDocumentBodyCommand>(document, QStringLiteral("here"));
-    keeper.finish();
-    const QString journal = m_locations.workingFolder() + u'/' + journals().first();
-
-    // Meanwhile the file came from another machine.
-    document.setBody(QStringLiteral("there"));
-    const QString path = QStringLiteral("/objects/%1.json").arg(document.id().toString());
-    putFile(folder + path, serializeObject(document));
-    Workspace other;
-    auto opened = OpenProject::open(folder);
-    QVERIFY(opened);
-    other.replaceProject(*std::move(opened));
-    const Recovery recovery = Recovery::read({journal}, other);
-    QCOMPARE(recovery.files().size(), 1U);
-    QVERIFY(recovery.files().front().changedElsewhere);
-    QCOMPARE(recovery.advisedPaths(), QStringList());
-    QVERIFY(recovery.files().front().before.contains(QStringLiteral("there")));
-    QVERIFY(recovery.files().front().after.contains(QStringLiteral("here")));
+    QFETCH(QList<int>, days);
+    QFETCH(bool, isListed);
+    QFETCH(bool, isThere);
+    const QDateTime start(QDate(2024, 5, 6), QTime(12, 0), Qt::UTC);
+    QDateTime now = start;
+    const StorageLocations locations{at(QStringLiteral("data")), [&now] { return now; }};
+    const JournalShelf shelf(locations);
+    const QString path = locations.workingFolder() + QStringLiteral("/untitled-1.journal");
+    {
+        JournalWriter journal(path, {QString(), goneProgram()},
+                              [](const QString &) { return std::nullopt; });
+        QVERIFY(journal.write({change("a", "one")}));
+    }
+    QVERIFY(QDir().mkpath(JournalShelf::mediaFolderOf(path)));
+    putFile(JournalShelf::mediaFolderOf(path) + QStringLiteral("/map.png"), "picture");
+    QVERIFY(shelf.keep(path));
+    QCOMPARE(shelf.left().size(), 0U);
+    const QString kept = shelf.kept().at(0).path;
+    for (const int day : days) {
+        now = start.addDays(day);
+        shelf.thin();
+    }
+    QCOMPARE(shelf.kept().size(), isListed ? 1U : 0U);
+    QCOMPARE(QFile::exists(kept), isThere);
+    const QString picture = JournalShelf::mediaFolderOf(kept) + QStringLiteral("/map.png");
+    QCOMPARE(QFile::exists(picture), isThere);
 }
 
 QTEST_GUILESS_MAIN(TestJournal)

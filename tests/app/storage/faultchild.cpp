@@ -70,10 +70,8 @@ Outcome writeJournal(const FaultPaths &paths)
                           [](const QString &) { return std::nullopt; });
     arm();
     bool isWritten = false;
-    for (int i = 1; i <= journalPieces; ++i) {
-        isWritten = journal.write(journalPiece(i));
-        journal.sync();
-    }
+    for (int i = 1; i <= journalPieces; ++i)
+        isWritten = bool(journal.write(journalPiece(i)));
     return {isWritten, {}};
 }
 
