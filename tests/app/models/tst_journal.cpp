@@ -252,7 +252,8 @@ void TestJournal::crashWhileWrittenAnew()
     QFETCH(int, newPieces);
     QFETCH(bool, isNewWhole);
     QFETCH(QString, stands);
-    const StorageLocations locations{at(QStringLiteral("data"))};
+    StorageLocations locations;
+    locations.root = at(QStringLiteral("data"));
     const QString path = locations.workingFolder() + QStringLiteral("/x.000001-1.journal");
     const auto write = [&](int pieces) {
         JournalWriter journal(path, {QStringLiteral("/a/novel"), goneProgram()},
@@ -293,7 +294,9 @@ void TestJournal::keptForAWhile()
     QFETCH(bool, isThere);
     const QDateTime start(QDate(2024, 5, 6), QTime(12, 0), Qt::UTC);
     QDateTime now = start;
-    const StorageLocations locations{at(QStringLiteral("data")), [&now] { return now; }};
+    StorageLocations locations;
+    locations.root = at(QStringLiteral("data"));
+    locations.now = [&now] { return now; };
     const JournalShelf shelf(locations);
     const QString path = locations.workingFolder() + QStringLiteral("/untitled-1.journal");
     {
