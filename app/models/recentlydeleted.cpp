@@ -1,11 +1,13 @@
 #include "app/models/recentlydeleted.h"
 
-#include "app/models/newcontents.h"
 #include "app/models/readablefile.h"
 #include "app/models/workspace.h"
 #include "app/storage/projectkey.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectwriter.h"
+#include "core/commands/codexcommands.h"
+#include "core/commands/compositecommand.h"
+#include "core/commands/objectcommands.h"
 #include "core/content/document.h"
 #include "core/content/entity.h"
 
@@ -119,9 +121,14 @@ void RecentlyDeleted::enter()
     });
     m_taken.clear();
     m_step.clear();
+    m_moves.clear();
     m_categories.clear();
+    m_places.clear();
+    m_pinned = project.pinned();
     for (const core::ContentId &id : project.taxonomy().ids())
         m_categories[id] = *project.taxonomy().find(id);
+    for (const core::Entity *entity : std::as_const(project).all<core::Entity>())
+        m_places[entity->id()] = entity->categoryId();
     m_redoCount = m_workspace.history().redoCount();
 }
 
@@ -136,29 +143,64 @@ void RecentlyDeleted::follow(const core::ChangeSet &changes)
             m_step[objectPath(id)] = taken->second;
         else if (change == Change::Added)
             m_step.erase(objectPath(id));
+        if (const auto *entity = m_workspace.project().find<core::Entity>(id))
+            followMove(objectPath(id), id, entity->categoryId());
+        else
+            m_places.remove(id);
     }
     for (const auto &[id, change] : changes.categories()) {
         const auto known = m_categories.find(id);
         if (change == Change::Removed && known != m_categories.end() && !isUndo)
             m_step[categoryPath(id)] = serializeCategory(known->second);
-        if (const core::Category *present = m_workspace.project().taxonomy().find(id))
+        if (const core::Category *present = m_workspace.project().taxonomy().find(id)) {
+            if (known != m_categories.end())
+                m_places[id] = known->second.parentId;
+            followMove(categoryPath(id), id, present->parentId);
             m_categories[id] = *present;
-        else
+        } else {
             m_categories.erase(id);
+        }
     }
     m_taken.clear();
+}
+
+/// Notes where something stood before the step that is open, and where it stands now.
+void RecentlyDeleted::followMove(const QString &path, const core::ContentId &id,
+                                 const core::ContentId &parent)
+{
+    const core::ContentId before = m_places.value(id, parent);
+    m_places[id] = parent;
+    if (before == parent)
+        return;
+    DeletedMove &move = m_moves[path];
+    if (move.path.isEmpty())
+        move = {path, before.toString(), {}};
+    move.to = parent.isNull() ? QString() : parent.toString();
 }
 
 void RecentlyDeleted::keep()
 {
     const core::CommandStack &history = m_workspace.history();
     m_redoCount = history.redoCount();
-    if (m_step.empty() || history.isGroupOpen())
+    if (history.isGroupOpen())
+        return;
+    const std::map<QString, DeletedMove> moves = std::exchange(m_moves, {});
+    const std::set<core::ContentId> pinned =
+        std::exchange(m_pinned, m_workspace.project().pinned());
+    if (m_step.empty())
         return;
     DeletedStep step;
     step.label = history.undoText();
-    for (auto &[path, bytes] : std::exchange(m_step, {}))
+    // A move counts that the deletion made: out of what went.
+    for (const auto &[path, move] : moves) {
+        if (m_step.contains(categoryPath(core::ContentId::fromString(move.from))))
+            step.moves.push_back(move);
+    }
+    for (auto &[path, bytes] : std::exchange(m_step, {})) {
+        if (pinned.contains(objectIdOf(path)))
+            step.pins.append(path);
         step.files.push_back({path, std::move(bytes)});
+    }
     m_pool.start([store = DeletedStore(m_key, m_locations), step = std::move(step)] {
         (void)store.add(step); // the step itself can still be undone
     });
@@ -184,7 +226,7 @@ std::vector<DeletedGroup> RecentlyDeleted::groups()
     return groups;
 }
 
-/// Everything that is kept, each as it was last.
+/// Takes everything that is kept, each as it was last.
 std::map<QString, QByteArray> RecentlyDeleted::everythingDeleted()
 {
     finish();
@@ -194,6 +236,48 @@ std::map<QString, QByteArray> RecentlyDeleted::everythingDeleted()
             files.emplace(file.path, file.bytes);
     }
     return files;
+}
+
+/// What puts back what was moved out of the categories that come back, where it still stands where
+/// it was put, and what pins again.
+std::vector<std::unique_ptr<core::Command>>
+RecentlyDeleted::movesBack(const core::NewContents &contents)
+{
+    core::Project &project = m_workspace.project();
+    std::vector<std::unique_ptr<core::Command>> commands;
+    QSet<QString> settled; // paths of what comes back; the last time that it went counts
+    QSet<QString> comes;
+    for (const core::Category &category : contents.categories)
+        comes.insert(categoryPath(category.id));
+    for (const auto &object : contents.objects)
+        comes.insert(objectPath(object->id()));
+    for (const DeletedStep &step : DeletedStore(m_key, m_locations).list()) {
+        QSet<QString> here;
+        for (const ProjectFile &file : step.files) {
+            if (comes.contains(file.path) && !settled.contains(file.path))
+                here.insert(file.path);
+        }
+        settled += here;
+        for (const DeletedMove &move : step.moves) {
+            const auto from = core::ContentId::fromString(move.from);
+            const auto to = core::ContentId::fromString(move.to);
+            if (!here.contains(categoryPath(from)))
+                continue;
+            auto *entity = project.find<core::Entity>(objectIdOf(move.path));
+            const core::Category *below = project.taxonomy().find(categoryIdOf(move.path));
+            if (entity && entity->categoryId() == to)
+                commands.push_back(std::make_unique<core::SetEntityCategoryCommand>(*entity, from));
+            else if (below && below->parentId == to)
+                commands.push_back(
+                    std::make_unique<core::MoveCategoryCommand>(project, below->id, from));
+        }
+        for (const QString &pin : step.pins) {
+            if (here.contains(pin))
+                commands.push_back(
+                    std::make_unique<core::SetPinnedCommand>(project, objectIdOf(pin), true));
+        }
+    }
+    return commands;
 }
 
 bool RecentlyDeleted::restore(const DeletedGroup &group, const QString &path)
@@ -245,8 +329,13 @@ bool RecentlyDeleted::restore(const DeletedGroup &group, const QString &path)
     if (read.contents.isEmpty())
         return false;
     m_workspace.flush();
-    m_workspace.push<core::ReplaceContentsCommand>(project, std::move(read.contents),
-                                                   tr("Restore what was deleted"));
+    auto step = std::make_unique<core::CompositeCommand>(tr("Restore what was deleted"));
+    std::vector<std::unique_ptr<core::Command>> moves = movesBack(read.contents);
+    step->append(std::make_unique<core::ReplaceContentsCommand>(project, std::move(read.contents),
+                                                                QString()));
+    for (std::unique_ptr<core::Command> &move : moves)
+        step->append(std::move(move));
+    m_workspace.push(std::move(step));
     return true;
 }
 

@@ -37,7 +37,15 @@ Result<> DeletedStore::add(const DeletedStep &step) const
     for (const ProjectFile &file : step.files)
         files.append(QJsonObject{{QLatin1String("path"), file.path},
                                  {QLatin1String("text"), QString::fromUtf8(file.bytes)}});
-    const QJsonObject json{{QLatin1String("label"), step.label}, {QLatin1String("files"), files}};
+    QJsonArray moves;
+    for (const DeletedMove &move : step.moves)
+        moves.append(QJsonObject{{QLatin1String("path"), move.path},
+                                 {QLatin1String("from"), move.from},
+                                 {QLatin1String("to"), move.to}});
+    const QJsonObject json{{QLatin1String("label"), step.label},
+                           {QLatin1String("files"), files},
+                           {QLatin1String("moves"), moves},
+                           {QLatin1String("pins"), QJsonArray::fromStringList(step.pins)}};
     // The number keeps the order of what was deleted at one instant.
     static std::atomic<quint32> count = 0;
     const QString number = QStringLiteral("%1").arg(++count, 10, 10, QLatin1Char('0'));
@@ -63,6 +71,12 @@ std::vector<DeletedStep> DeletedStore::list() const
         for (const QJsonValue file : json.value(QLatin1String("files")).toArray())
             step.files.push_back({file[QLatin1String("path")].toString(),
                                   file[QLatin1String("text")].toString().toUtf8()});
+        for (const QJsonValue move : json.value(QLatin1String("moves")).toArray())
+            step.moves.push_back({move[QLatin1String("path")].toString(),
+                                  move[QLatin1String("from")].toString(),
+                                  move[QLatin1String("to")].toString()});
+        for (const QJsonValue pin : json.value(QLatin1String("pins")).toArray())
+            step.pins.append(pin.toString());
         if (!step.files.empty())
             steps.push_back(std::move(step));
     }

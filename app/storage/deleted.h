@@ -12,6 +12,17 @@
 
 namespace vl::app {
 
+/// Something that stayed and was moved out of what was deleted: an entity or category whose
+/// category went.
+struct DeletedMove
+{
+    QString path; ///< of its file
+    QString from; ///< the id of the category that went
+    QString to;   ///< of the one that it came to; empty for none
+
+    bool operator==(const DeletedMove &) const = default;
+};
+
 /// What one step took out of a project.
 struct DeletedStep
 {
@@ -19,6 +30,8 @@ struct DeletedStep
     QDateTime time;     ///< UTC; invalid when unknown, or in the future
     QString label;      ///< the name of the step
     ProjectFiles files; ///< of the objects and categories, as they were
+    std::vector<DeletedMove> moves;
+    QStringList pins; ///< paths of those among the files that were pinned
 };
 
 /// What was deleted from a project, kept for a while beside its working copy, never among its own

@@ -1,3 +1,4 @@
+#include "app/models/codexoperations.h"
 #include "app/models/documentoperations.h"
 #include "app/models/recentlydeleted.h"
 #include "app/models/workspace.h"
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void bringsDocumentsBack_data();
     void bringsDocumentsBack();
     void bringsEntitiesBack();
+    void bringsEntitiesBackIntoTheirCategory_data();
+    void bringsEntitiesBackIntoTheirCategory();
     void undoneDeletionsAreNone();
     void followsTheProjectToAnotherPlace();
     void keptForAWhile_data();
@@ -146,6 +149,64 @@ void TestRecentlyDeleted::bringsEntitiesBack()
     QVERIFY(fingerprint(project) == whole);
 }
 
+void TestRecentlyDeleted::bringsEntitiesBackIntoTheirCategory_data()
+{
+    QTest::addColumn<QString>("meanwhile"); // what becomes of the entity before it is restored
+    QTest::addColumn<bool>("goesBack");
+    QTest::newRow("nothing") << "" << true;
+    QTest::newRow("renamed") << "rename" << true;
+    QTest::newRow("moved elsewhere") << "move" << false;
+    QTest::newRow("deleted too") << "delete" << true;
+    QTest::newRow("the category went twice") << "twice" << true;
+}
+
+void TestRecentlyDeleted::bringsEntitiesBackIntoTheirCategory()
+{
+    QFETCH(QString, meanwhile);
+    QFETCH(bool, goesBack);
+    Workspace workspace;
+    RecentlyDeleted deleted(workspace, m_locations);
+    core::Project &project = workspace.project();
+    CodexOperations codex(workspace);
+    const auto world = codex.addCategory({}, QStringLiteral("World"));
+    const auto people = codex.addCategory(world, QStringLiteral("People"));
+    const auto sailors = codex.addCategory(people, QStringLiteral("Sailors"));
+    const auto other = codex.addCategory({}, QStringLiteral("Other"));
+    const auto mara = codex.addEntity(people, QStringLiteral("Mara"));
+    const auto pinned = codex.addEntity(people, QStringLiteral("Ilen"));
+    codex.togglePin({pinned});
+    if (meanwhile == QLatin1String("twice")) {
+        codex.remove({people});
+        QVERIFY(deleted.restore(deleted.groups().front()));
+    }
+    const ProjectPrint whole = fingerprint(project);
+    codex.remove({people, pinned});
+    QCOMPARE(project.find<core::Entity>(mara)->categoryId(), world);
+    QCOMPARE(project.taxonomy().find(sailors)->parentId, world);
+    if (meanwhile == QLatin1String("rename"))
+        codex.rename(mara, QStringLiteral("Mara T."));
+    else if (meanwhile == QLatin1String("move"))
+        codex.move({mara}, other);
+    else if (meanwhile == QLatin1String("delete"))
+        codex.remove({mara});
+
+    for (const DeletedGroup &group : deleted.groups()) {
+        const qsizetype steps = workspace.history().undoCount();
+        QVERIFY(deleted.restore(group));
+        QCOMPARE(workspace.history().undoCount(), steps + 1);
+    }
+    QCOMPARE(project.taxonomy().find(sailors)->parentId, people);
+    QVERIFY(project.isPinned(pinned));
+    const bool isSame = goesBack && meanwhile != QLatin1String("rename");
+    QCOMPARE(fingerprint(project) == whole, isSame);
+    if (meanwhile != QLatin1String("delete")) {
+        QCOMPARE(project.find<core::Entity>(mara)->categoryId(), goesBack ? people : other);
+        workspace.undo();
+        QCOMPARE(project.find<core::Entity>(mara)->categoryId(), goesBack ? world : other);
+        QVERIFY(!project.taxonomy().contains(people));
+    }
+}
+
 void TestRecentlyDeleted::undoneDeletionsAreNone()
 {
     Workspace workspace;
@@ -206,7 +267,9 @@ void TestRecentlyDeleted::keptForAWhile()
     QFETCH(QDateTime, now);
     QFETCH(int, steps);
     const DeletedStore store(QStringLiteral("novel"), m_locations);
-    const DeletedStep step{{}, {}, QStringLiteral("Delete"), {{QStringLiteral("a"), "{}"}}};
+    DeletedStep step;
+    step.label = QStringLiteral("Delete");
+    step.files = {{QStringLiteral("a"), "{}"}};
     QVERIFY(store.add(step));
     m_now = m_now.addDays(1);
     QVERIFY(store.add(step));
