@@ -4,7 +4,7 @@
 #include "app/models/prompts.h"
 #include "app/models/recovery.h"
 #include "app/models/workspace.h"
-#include "app/storage/bundle.h"
+#include "core/content/document.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/pickdialog.h"
 #include "desktop/dialogs/recoverydialog.h"
@@ -178,7 +178,19 @@ void CrashRecovery::bringBack(const app::Recovery &recovery, const QStringList &
     }
     if (m_journal.finish())
         m_journal.settle(journals);
+    showOne(paths);
     m_context.notices.offerUndo(tr("The unsaved work is restored."));
+}
+
+/// Where nothing is shown yet, a document that came back is.
+void CrashRecovery::showOne(const QStringList &paths)
+{
+    app::Workspace &workspace = m_context.workspace;
+    for (const QString &path : paths) {
+        const core::ContentId id = app::objectIdOf(path);
+        if (workspace.selection().isEmpty() && workspace.project().find<core::Document>(id))
+            workspace.select(id);
+    }
 }
 
 void CrashRecovery::restoreHere(Look look)

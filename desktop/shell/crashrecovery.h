@@ -45,6 +45,7 @@ private:
     void restoreAsNew(const QStringList &journals, Look look);
     void bringBack(const app::Recovery &recovery, const QStringList &paths,
                    const QStringList &journals);
+    void showOne(const QStringList &paths);
     void discard(const QStringList &journals);
     void findProject(const QString &path, const QStringList &journals);
     void showAll();
