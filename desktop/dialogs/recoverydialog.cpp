@@ -63,9 +63,9 @@ QString explanationOf(const app::RecoveredFile &file)
 
 } // namespace
 
-RecoveryDialog::RecoveryDialog(const app::Recovery &recovery, Occasion occasion, QWidget *parent)
+RecoveryDialog::RecoveryDialog(app::Recovery recovery, Occasion occasion, QWidget *parent)
     : QDialog(parent)
-    , m_recovery(recovery)
+    , m_recovery(std::move(recovery))
     , m_tree(new QTreeWidget(this))
     , m_way(new QLabel(this))
     , m_difference(new DifferenceView(this))

@@ -34,8 +34,7 @@ public:
         Decided
     };
 
-    /// The recovery outlives it.
-    RecoveryDialog(const app::Recovery &recovery, Occasion occasion, QWidget *parent);
+    RecoveryDialog(app::Recovery recovery, Occasion occasion, QWidget *parent);
 
     Answer answer() const { return m_answer; }
     /// Paths of what is ticked.
@@ -47,7 +46,7 @@ private:
     void showChosen();
     void updateButtons();
 
-    const app::Recovery &m_recovery;
+    app::Recovery m_recovery;
     Answer m_answer = Answer::Later;
     QTreeWidget *m_tree;
     QLabel *m_way; ///< how what is chosen comes back

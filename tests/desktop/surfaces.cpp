@@ -188,10 +188,11 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
         for (auto file = files.begin(); file != files.end(); ++file)
             changes.push_back({file.key(), file.value()});
         const QString journal = desk.dir.filePath(QStringLiteral("lost.journal"));
-        app::JournalWriter(journal, {QString(), app::LockHolder::current()}, [](const QString &) {
-            return std::optional<QByteArray>();
-        }).write(changes);
+        (void)app::JournalWriter(journal, {QString(), app::LockHolder::current()},
+                                 [](const QString &) { return std::optional<QByteArray>(); })
+            .write(changes);
         return new desktop::RecoveryDialog(app::Recovery::read({journal}, app::Workspace()),
+                                           desktop::RecoveryDialog::Occasion::AfterCrash,
                                            &desk.window);
     });
     add("ExternalChangesDialog", [text](Desk &desk) {
