@@ -2,6 +2,7 @@
 
 #include "desktop/dialogs/differenceview.h"
 #include "desktop/panels/rowdelegate.h"
+#include "desktop/widgets/flowlayout.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QFontDatabase>
@@ -93,13 +94,11 @@ QWidget *ExternalChangesDialog::buildDifferences()
     caption->setBuddy(m_differences);
     layout->addWidget(caption);
     layout->addWidget(m_differences, 1);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(grid(2));
+    auto *row = new FlowLayout;
     for (QPushButton *button : {m_mine, m_theirs, m_edit}) {
         button->setAutoDefault(false);
         row->addWidget(button);
     }
-    row->addStretch(1);
     layout->addLayout(row);
     connect(m_mine, &QPushButton::clicked, this, &ExternalChangesDialog::chooseMine);
     connect(m_theirs, &QPushButton::clicked, this, &ExternalChangesDialog::chooseTheirs);
@@ -126,15 +125,13 @@ QWidget *ExternalChangesDialog::buildEditor()
     layout->addWidget(caption);
     layout->addWidget(m_text, 1);
     layout->addWidget(m_textFault);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(grid(2));
+    auto *row = new FlowLayout;
     auto *use = new QPushButton(tr("&Use this text"), page);
     auto *back = new QPushButton(tr("&Back to the differences"), page);
     for (QPushButton *button : {use, back}) {
         button->setAutoDefault(false);
         row->addWidget(button);
     }
-    row->addStretch(1);
     layout->addLayout(row);
     connect(use, &QPushButton::clicked, this, &ExternalChangesDialog::useText);
     connect(back, &QPushButton::clicked, this, &ExternalChangesDialog::showFile);
@@ -145,6 +142,7 @@ void ExternalChangesDialog::buildButtons(QBoxLayout *layout)
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(grid(2));
+    m_undecided->setWordWrap(true);
     row->addWidget(m_undecided, 1);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->addButton(m_apply, QDialogButtonBox::AcceptRole);
