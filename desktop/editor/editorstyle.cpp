@@ -84,6 +84,7 @@ EditorStyle::EditorStyle(const app::Settings &settings, const QPalette &palette)
     const double characters =
         number(settings, app::settings::editorLineWidth, narrowestLine, widestLine);
     m_columnWidth = qCeil(characters * characterWidth(m_font));
+    m_hitGround = findHitGround();
 }
 
 QTextCharFormat EditorStyle::format(quint32 style, int level) const
@@ -139,9 +140,19 @@ QColor EditorStyle::codeGround() const
     return mix(m_palette.color(QPalette::Text), m_palette.color(QPalette::Base), 0.07);
 }
 
-QColor EditorStyle::hitGround() const
+QColor EditorStyle::findHitGround() const
 {
-    return mix(m_palette.color(QPalette::Highlight), m_palette.color(QPalette::Base), 0.25);
+    const QColor base = m_palette.color(QPalette::Base);
+    const double least = textContrast(m_palette);
+    QColor ground = base;
+    // As strong as the faintest text on it allows.
+    for (double amount = 0.25; amount > 0.04; amount -= 0.01) {
+        ground = mix(m_palette.color(QPalette::Highlight), base, amount);
+        if (contrast(markColor(), ground) >= least
+            && contrast(m_palette.color(QPalette::Link), ground) >= least)
+            break;
+    }
+    return ground;
 }
 
 } // namespace vl::desktop

@@ -30,13 +30,16 @@ public:
     QColor markColor() const;
     QColor quoteBarColor() const;
     QColor codeGround() const;
-    QColor hitGround() const;
+    QColor hitGround() const { return m_hitGround; }
 
 private:
+    QColor findHitGround() const;
+
     QFont m_font;
     double m_lineSpacing;
     int m_columnWidth = 0;
     QPalette m_palette;
+    QColor m_hitGround;
     mutable QHash<quint32, QTextCharFormat> m_formats;
 };
 

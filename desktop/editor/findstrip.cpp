@@ -126,13 +126,21 @@ QWidget *FindStrip::makeReplaceRow()
     connect(one, &QPushButton::clicked, this, &FindStrip::replaceOne);
     m_replaceAll = new QPushButton(tr("Replace A&ll"), m_replaceRow);
     connect(m_replaceAll, &QPushButton::clicked, this, &FindStrip::replaceAll);
-    auto *row = new QHBoxLayout(m_replaceRow);
+    // Large buttons stand below the field.
+    auto *row = new QBoxLayout(
+        fontScale() > 1.5 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, m_replaceRow);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(grid(1));
-    row->addWidget(m_replacement, 1);
-    row->addWidget(m_keepsCase);
-    row->addWidget(one);
-    row->addWidget(m_replaceAll);
+    auto *field = new QHBoxLayout;
+    field->addWidget(m_replacement, 1);
+    field->addWidget(m_keepsCase);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(one);
+    buttons->addWidget(m_replaceAll);
+    row->addLayout(field, 1);
+    row->addLayout(buttons);
+    for (QLayout *part : {field, buttons})
+        part->setSpacing(grid(1));
     m_replaceRow->hide();
     return m_replaceRow;
 }

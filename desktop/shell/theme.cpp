@@ -12,6 +12,8 @@ namespace vl::desktop {
 namespace {
 
 constexpr double legibleContrast = 4.6; ///< a little over what is asked of text
+constexpr double offAmount = 0.6;      ///< of its colour that text keeps where it cannot be used
+constexpr double highContrast = 7.1;
 constexpr double visibleContrast = 3.1; ///< and of what is to be made out
 
 constexpr Theme table[] = {
@@ -45,6 +47,12 @@ QColor mix(const QColor &over, const QColor &under, double amount)
     const auto channel = [amount](int a, int b) { return qRound(a * amount + b * (1 - amount)); };
     return QColor(channel(over.red(), under.red()), channel(over.green(), under.green()),
                   channel(over.blue(), under.blue()));
+}
+
+double textContrast(const QPalette &palette)
+{
+    const bool isHigh = palette.color(QPalette::Window) == palette.color(QPalette::Button);
+    return isHigh ? highContrast : legibleContrast;
 }
 
 DifferenceColours differenceColours(const QPalette &palette)
@@ -92,7 +100,7 @@ QPalette paletteOf(const Theme &theme)
     palette.setColor(QPalette::Shadow, mix(ink, button, 0.6 + more));
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, mix(palette.color(role), window, 0.5));
+        palette.setColor(QPalette::Disabled, role, mix(palette.color(role), window, offAmount));
     return palette;
 }
 

@@ -55,6 +55,10 @@ struct DifferenceColours
     QColor removedWord; ///< stronger, for what differs within such a line
     QColor addedWord;
 };
+/// What text needs against its ground in these colours: 7 where they are made for contrast,
+/// else 4.5; a little more, for rounding.
+double textContrast(const QPalette &palette);
+
 DifferenceColours differenceColours(const QPalette &palette);
 
 } // namespace vl::desktop

@@ -1,4 +1,6 @@
 #include "app/base/settingskeys.h"
+#include "app/text/markdownstyle.h"
+#include "desktop/editor/editorstyle.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/mainwindow.h"
@@ -82,7 +84,30 @@ void TestLook::textIsLegible()
     const QColor window = role(palette, QPalette::Window);
     const QColor base = role(palette, QPalette::Base);
     const QColor text = role(palette, QPalette::Text);
+    const Desk desk;
+    const desktop::EditorStyle style(desk.settings, texts);
+    const QColor link = style.format(app::LinkText, 0).foreground().color();
+    const QColor mark = style.format(app::MarkText, 0).foreground().color();
+    const QColor code = style.codeGround();
+    const desktop::DifferenceColours lines = desktop::differenceColours(texts);
     const std::tuple<const char *, QColor, QColor> pairs[] = {
+        {"link in the editor", link, base},
+        {"mark in the editor", mark, base},
+        {"code in the editor", text, code},
+        {"link in code", link, code},
+        {"mark in code", mark, code},
+        {"text that was found", text, style.hitGround()},
+        {"link that was found", link, style.hitGround()},
+        {"mark that was found", mark, style.hitGround()},
+        {"line that goes", text, lines.removed},
+        {"line that comes", text, lines.added},
+        {"word that goes", text, lines.removedWord},
+        {"word that comes", text, lines.addedWord},
+        {"picture of a button", role(palette, QPalette::ButtonText), window},
+        {"picture of a row", role(palette, QPalette::ButtonText), base},
+        {"hint on the window", role(palette, QPalette::PlaceholderText), window},
+        {"menu entry under the mouse", role(texts, QPalette::HighlightedText),
+         role(texts, QPalette::Highlight)},
         {"window text", role(palette, QPalette::WindowText), window},
         {"text", text, base},
         {"text of every second row", text, role(palette, QPalette::AlternateBase)},
@@ -104,9 +129,25 @@ void TestLook::textIsLegible()
         QVERIFY2(found >= least,
                  qPrintable(QStringLiteral("%1: %2").arg(QLatin1String(what)).arg(found)));
     }
-    // What is no text but has to be made out.
-    const double ring = desktop::contrast(desktop::focusColour(palette), window);
-    QVERIFY2(ring >= 3.0, qPrintable(QString::number(ring)));
+    // What is no text, or tells only that it cannot be used, but has to be made out.
+    const auto off = [&palette](QPalette::ColorRole which) {
+        return palette.color(QPalette::Disabled, which);
+    };
+    const std::tuple<const char *, QColor, QColor> signs[] = {
+        {"focus ring", desktop::focusColour(palette), window},
+        {"focus ring in a view", desktop::focusColour(palette), base},
+        {"text that is off", off(QPalette::Text), base},
+        {"label that is off", off(QPalette::WindowText), window},
+        {"button that is off", off(QPalette::ButtonText), role(palette, QPalette::Button)},
+    };
+    for (const auto &[what, over, under] : signs) {
+        const double found = desktop::contrast(over, under);
+        QVERIFY2(found >= 3.0,
+                 qPrintable(QStringLiteral("%1: %2").arg(QLatin1String(what)).arg(found)));
+    }
+    // Where all grounds are one, only their edges part them.
+    if (window == role(palette, QPalette::Button))
+        QVERIFY(desktop::contrast(role(palette, QPalette::Dark), window) >= 4.5);
 }
 
 void TestLook::aThemeLeavesNothingOfTheOneBefore()
