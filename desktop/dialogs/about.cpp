@@ -11,6 +11,8 @@
 #include <QtCore/QSettings>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextTable>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -110,6 +112,28 @@ QWidget *AboutDialog::makeLicences()
     QFile file(QStringLiteral(":/licences/THIRD-PARTY.md"));
     if (file.open(QIODevice::ReadOnly))
         licences->setMarkdown(QString::fromUtf8(file.readAll()));
+    licences->document()->setDocumentMargin(grid(3));
+    // Quiet rows instead of boxes in boxes.
+    for (QTextFrame *frame : licences->document()->rootFrame()->childFrames()) {
+        auto *table = qobject_cast<QTextTable *>(frame);
+        if (!table)
+            continue;
+        QTextTableFormat format = table->format();
+        format.setBorder(0);
+        format.setCellSpacing(0);
+        format.setCellPadding(grid(1));
+        format.setTopMargin(grid(2));
+        format.setBottomMargin(grid(2));
+        table->setFormat(format);
+    }
+    for (QTextBlock block = licences->document()->begin(); block.isValid(); block = block.next())
+        if (block.blockFormat().headingLevel() > 0) {
+            QTextCursor heading(block);
+            heading.select(QTextCursor::BlockUnderCursor);
+            QTextCharFormat format;
+            format.setProperty(QTextFormat::FontSizeAdjustment, 1); // one step over the text
+            heading.mergeCharFormat(format);
+        }
     return licences;
 }
 

@@ -9,7 +9,6 @@
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
@@ -22,7 +21,7 @@ namespace vl::desktop {
 
 namespace {
 
-constexpr int widthSteps = 110;
+constexpr int widthSteps = 140;
 constexpr int usualHeightSteps = 90;
 constexpr int lowSteps = 1; // no higher than its text
 constexpr int longestValue = 60;
@@ -97,13 +96,12 @@ std::optional<QSet<QString>> askMerge(const QString &source, const QString &targ
                           .arg(source, target),
                 Texts::tr("Merge"), parent);
     auto *page = new QWidget;
-    auto *table = new QGridLayout(page);
-    table->setHorizontalSpacing(grid(4));
-    table->setVerticalSpacing(grid(2));
+    auto *column = new QVBoxLayout(page);
+    column->setContentsMargins(grid(1), grid(1), grid(1), grid(1)); // for the focus ring
+    column->setSpacing(grid(1));
     QList<std::pair<QString, QRadioButton *>> choices;
     QRadioButton *first = nullptr;
-    for (int row = 0; row < int(conflicts.size()); ++row) {
-        const app::MergeConflict &conflict = conflicts.at(row);
+    for (const app::MergeConflict &conflict : conflicts) {
         auto *label = new QLabel(conflict.label, page);
         label->setTextFormat(Qt::PlainText);
         auto *kept = new QRadioButton(buttonText(conflict.kept), page);
@@ -117,14 +115,16 @@ std::optional<QSet<QString>> askMerge(const QString &source, const QString &targ
         group->addButton(other);
         kept->setChecked(true);
         first = first ? first : kept;
-        table->addWidget(label, row, 0);
-        table->addWidget(kept, row, 1);
-        table->addWidget(other, row, 2);
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+        column->addWidget(label);
+        column->addWidget(kept);
+        column->addWidget(other);
+        column->addSpacing(grid(2));
         choices.append({conflict.key, other});
     }
-    table->setColumnStretch(1, 1);
-    table->setColumnStretch(2, 1);
-    table->setRowStretch(int(conflicts.size()), 1);
+    column->addStretch(1);
     auto *scroll = new QScrollArea(&sheet);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);

@@ -8,7 +8,6 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
-#include <QtWidgets/QCommandLinkButton>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
@@ -38,7 +37,9 @@ DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget 
     why->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(what);
     layout->addWidget(why);
-    if (!m_project.leftOut.empty())
+    if (m_project.leftOut.empty())
+        static_cast<QVBoxLayout *>(layout)->addStretch(1);
+    else
         addFiles(layout);
     addAnswers(layout);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -125,13 +126,23 @@ void DamagedProjectDialog::addAnswers(QLayout *layout)
 void DamagedProjectDialog::addAnswer(QLayout *layout, app::DamageAnswer answer, const QString &text,
                                      const QString &explanation)
 {
-    auto *button = new QCommandLinkButton(text, explanation, this);
+    auto *button = new QPushButton(text, this);
     button->setAutoDefault(false);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    button->setAccessibleDescription(explanation);
     connect(button, &QPushButton::clicked, this, [this, answer] {
         m_answer = answer;
         accept();
     });
-    layout->addWidget(button);
+    auto *label = new QLabel(explanation, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setForegroundRole(QPalette::PlaceholderText);
+    auto *group = new QVBoxLayout;
+    group->setSpacing(grid(1));
+    group->addWidget(button);
+    group->addWidget(label);
+    static_cast<QVBoxLayout *>(layout)->addLayout(group);
 }
 
 } // namespace vl::desktop

@@ -294,7 +294,7 @@ void FindInProject::updateScopes()
     else if (names.size() > 3)
         text = tr("%1 and %n more", nullptr, int(names.size()) - 2)
                    .arg(names.mid(0, 2).join(tr(", ")));
-    m_scopeButton->setText(text);
+    m_scopeButton->setText(text + QStringLiteral(" ▾"));
     m_scopeButton->setAccessibleName(tr("Where to search: %1").arg(text));
 }
 

@@ -69,7 +69,13 @@ RecentlyDeletedDialog::RecentlyDeletedDialog(std::vector<app::DeletedGroup> grou
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &RecentlyDeletedDialog::showChosen);
     m_tree->setCurrentItem(m_tree->topLevelItem(0));
     showChosen();
-    sizeDialog(this, 220, 130);
+    // Without anything to show there is but the sentence.
+    split->setVisible(!m_groups.empty());
+    m_restore->setVisible(!m_groups.empty());
+    if (m_groups.empty())
+        sizeDialog(this, 110, 30);
+    else
+        sizeDialog(this, 220, 130);
 }
 
 void RecentlyDeletedDialog::fill()

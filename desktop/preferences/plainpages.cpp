@@ -64,10 +64,16 @@ EditorPage::EditorPage(const PreferencesContext &context, QWidget *parent)
         ->setSingleStep(10);
 
     QFormLayout *typing = addGroup(tr("Typing"));
-    addFlag(typing, tr("Turn straight &quotes and dashes into typographic ones"),
-            app::settings::editorSmartQuotes);
-    addFlag(typing, tr("&Typewriter scrolling: keep the line being written at the same height"),
-            app::settings::editorTypewriter);
+    const auto explain = [this, typing](const QString &text) {
+        auto *hint = new QLabel(text, this);
+        hint->setWordWrap(true);
+        hint->setForegroundRole(QPalette::PlaceholderText);
+        typing->addRow(hint);
+    };
+    addFlag(typing, tr("Typographic &quotes and dashes"), app::settings::editorSmartQuotes);
+    explain(tr("Turns straight ones into them as you type."));
+    addFlag(typing, tr("T&ypewriter scrolling"), app::settings::editorTypewriter);
+    explain(tr("Keeps the line being written at the same height."));
 }
 
 BackupsPage::BackupsPage(const PreferencesContext &context, QWidget *parent)

@@ -18,6 +18,8 @@ namespace vl::desktop {
 
 namespace {
 
+constexpr int keysSteps = 44;
+
 enum Column
 {
     NameColumn,
@@ -83,7 +85,7 @@ void ShortcutsPage::buildTree()
     m_tree->setUniformRowHeights(true);
     m_tree->setItemDelegate(new RowDelegate(m_tree));
     m_tree->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    m_tree->header()->setSectionResizeMode(KeysColumn, QHeaderView::ResizeToContents);
+    m_tree->header()->resizeSection(KeysColumn, grid(keysSteps));
     m_tree->header()->setStretchLastSection(false);
     QHash<QString, QTreeWidgetItem *> sections;
     for (const ActionRow &row : actionCatalogue()) {

@@ -1,9 +1,11 @@
 #include "desktop/shell/maintoolbar.h"
 
 #include "app/base/settings.h"
+#include "app/base/settingskeys.h"
 #include "desktop/actions/actionregistry.h"
 
 #include <QtGui/QHelpEvent>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QToolTip>
 
@@ -49,6 +51,15 @@ MainToolBar::MainToolBar(const ActionRegistry &actions, const app::Settings &set
         if (key.startsWith(QLatin1String("toolbars/")))
             fill();
     });
+    // Whoever applies the scale goes first.
+    connect(
+        &settings.changes(), &app::SettingsChanges::changed, this,
+        [this](const QString &key) {
+            const int side = style()->pixelMetric(QStyle::PM_ToolBarIconSize, nullptr, this);
+            if (key == QLatin1String(app::settings::fontScale.name))
+                setIconSize({side, side});
+        },
+        Qt::QueuedConnection);
     fill();
 }
 

@@ -128,6 +128,8 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
             if (key == QLatin1String(app::settings::theme.name)
                 || key == QLatin1String(app::settings::fontScale.name))
                 drawIcons();
+            if (key == QLatin1String(app::settings::fontScale.name) && isCramped())
+                sizeAreas();
             // The style sheet keeps the colours that the palette had.
             if (key == QLatin1String(app::settings::theme.name)
                 && !m_manager->styleSheet().isEmpty())
@@ -195,6 +197,16 @@ int PanelHost::widthNeeded(std::initializer_list<DockSide> sides) const
             && std::find(sides.begin(), sides.end(), row.side) != sides.end())
             need = qMax(need, dock->widget()->minimumSizeHint().width());
     return need;
+}
+
+bool PanelHost::isCramped() const
+{
+    const auto rows = panelCatalogue();
+    return std::any_of(rows.begin(), rows.end(), [this](const PanelRow &row) {
+        const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+        return dock && dock->isVisible()
+               && dock->width() < dock->widget()->minimumSizeHint().width();
+    });
 }
 
 void PanelHost::sizeAreas()

@@ -60,6 +60,8 @@ private:
     void moveFocus(int step);
     void place(ads::CDockWidget *dock, const PanelRow &row);
     void placeStrays();
+    /// Whether a panel has less room than its texts need.
+    bool isCramped() const;
     void sizeAreas();
     void sizeAreas(int left, int right, int leftBelow);
     int widthNeeded(std::initializer_list<DockSide> sides) const;

@@ -15,7 +15,7 @@ EmptyState::EmptyState(const QString &sentence, const QString &buttonText, QWidg
 {
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(grid(4), grid(4), grid(4), grid(4));
+    layout->setContentsMargins(grid(2), grid(4), grid(2), grid(4));
     layout->setSpacing(grid(4));
     m_sentence->setTextFormat(Qt::PlainText);
     m_sentence->setWordWrap(true);
@@ -34,6 +34,11 @@ EmptyState::EmptyState(const QString &sentence, const QString &buttonText, QWidg
     setButtonText(buttonText);
     setFocusProxy(m_button);
     connect(m_button, &QPushButton::clicked, this, &EmptyState::activated);
+}
+
+QSize EmptyState::minimumSizeHint() const
+{
+    return {widget()->minimumSizeHint().width(), QScrollArea::minimumSizeHint().height()};
 }
 
 void EmptyState::setSentence(const QString &sentence)

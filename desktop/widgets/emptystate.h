@@ -18,6 +18,9 @@ public:
     explicit EmptyState(const QString &sentence, const QString &buttonText = {},
                         QWidget *parent = nullptr);
 
+    /// As wide as the button and the longest word.
+    QSize minimumSizeHint() const override;
+
     void setSentence(const QString &sentence);
     void setButtonText(const QString &text);
     QPushButton *button() const { return m_button; }

@@ -5,8 +5,10 @@
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QFocusFrame>
+#include <QtWidgets/QSlider>
 #include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QStyleOption>
 
@@ -15,6 +17,7 @@ namespace vl::desktop {
 namespace {
 
 constexpr int ringPixels = 2;
+constexpr int tickPixels = 4;
 constexpr int darkLightness = 128;   // of 255
 constexpr double controlLines = 1.7; // the height of buttons and fields in lines of text
 
@@ -31,7 +34,14 @@ bool needsOutlines(const QStyleOption *option)
     return option->palette.color(QPalette::Window).lightness() < darkLightness;
 }
 
-void drawOutline(QPainter *painter, const QRect &rect, const QStyleOption *option)
+enum class Shape
+{
+    Square,
+    Round,
+};
+
+void drawOutline(QPainter *painter, const QRect &rect, const QStyleOption *option,
+                 Shape shape = Shape::Square)
 {
     const bool isEnabled = option->state.testFlag(QStyle::State_Enabled);
     // Where windows and buttons are of one colour, nothing else tells them apart.
@@ -41,7 +51,12 @@ void drawOutline(QPainter *painter, const QRect &rect, const QStyleOption *optio
     painter->save();
     painter->setBrush(Qt::NoBrush);
     painter->setPen(option->palette.color(isStrong ? QPalette::Dark : QPalette::Mid));
-    painter->drawRect(rect.adjusted(0, 0, -1, -1));
+    if (shape == Shape::Round) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->drawEllipse(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else {
+        painter->drawRect(rect.adjusted(0, 0, -1, -1));
+    }
     painter->restore();
 }
 
@@ -69,6 +84,8 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return qRound(QProxyStyle::pixelMetric(metric, option, widget) * qMax(1.0, fontScale()));
+    case PM_TreeViewIndentation:
+        return grid(4);
     case PM_MenuPanelWidth: // the line that the outline is drawn on
         return 1;
     case PM_LayoutLeftMargin:
@@ -117,7 +134,7 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QW
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
-    if (hint == SH_FocusFrame_AboveWidget)
+    if (hint == SH_FocusFrame_AboveWidget || hint == SH_ItemView_ShowDecorationSelected)
         return 1;
     if (hint != SH_FocusFrame_Mask || !option)
         return QProxyStyle::styleHint(hint, option, widget, data);
@@ -152,6 +169,11 @@ void ProgramStyle::drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter,
             QSize(side, side), painter->device()->devicePixelRatio(), QIcon::Selected));
     }
     QProxyStyle::drawControl(CE_MenuItem, &entry, painter, widget);
+    if (entry.menuItemType == QStyleOptionMenuItem::Separator && needsOutlines(&entry)) {
+        const QRect &line = entry.rect;
+        drawOutline(painter, {line.left() + grid(1), line.center().y(), line.width() - grid(2), 1},
+                    &entry);
+    }
 }
 
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption *option,
@@ -198,6 +220,20 @@ QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption *optio
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                  QPainter *painter, const QWidget *widget) const
 {
+    const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (element == PE_PanelItemViewItem && item && item->state.testFlag(State_Selected)) {
+        const auto group =
+            item->state.testFlag(State_Enabled) ? QPalette::Active : QPalette::Disabled;
+        painter->fillRect(item->rect, item->palette.brush(group, QPalette::Highlight));
+        return;
+    }
+    if (element == PE_FrameFocusRect) {
+        // A selected row is seen as it is, and a control has its ring.
+        if (qobject_cast<const QAbstractItemView *>(widget)
+            && !option->state.testFlag(State_Selected))
+            drawOutline(painter, option->rect, option);
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (!needsOutlines(option))
         return;
@@ -215,6 +251,9 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
     case PE_IndicatorItemViewItemCheck:
         drawOutline(painter, option->rect, option);
         break;
+    case PE_IndicatorRadioButton:
+        drawOutline(painter, option->rect, option, Shape::Round);
+        break;
     default:
         break;
     }
@@ -223,6 +262,14 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *o
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                       QPainter *painter, const QWidget *widget) const
 {
+    const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
+    if (control == CC_ToolButton && button && button->text.endsWith(QChar(0x25be))) {
+        // The text shows itself that there is a menu.
+        QStyleOptionToolButton plain = *button;
+        plain.features &= ~QStyleOptionToolButton::HasMenu;
+        QProxyStyle::drawComplexControl(control, &plain, painter, widget);
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (!needsOutlines(option))
         return;
@@ -247,6 +294,20 @@ void ProgramStyle::drawSliderOutlines(const QStyleOptionComplex &option, QPainte
     }
     if (option.subControls.testFlag(SC_SliderHandle))
         drawOutline(painter, handle, &option);
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(&option);
+    if (!slider || slider->tickPosition != QSlider::TicksBelow
+        || slider->orientation != Qt::Horizontal)
+        return;
+    const int room = pixelMetric(PM_SliderSpaceAvailable, slider, widget);
+    const int margin = pixelMetric(PM_SliderLength, slider, widget) / 2;
+    const int step = qMax(1, slider->tickInterval > 0 ? slider->tickInterval : slider->pageStep);
+    for (int value = slider->minimum; value <= slider->maximum; value += step) {
+        const int x = margin
+                      + sliderPositionFromValue(slider->minimum, slider->maximum, value, room,
+                                                slider->upsideDown);
+        drawOutline(painter, QRect(slider->rect.left() + x, handle.bottom() + 2, 1, tickPixels),
+                    &option);
+    }
 }
 
 } // namespace vl::desktop

@@ -14,6 +14,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QFocusFrame>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
@@ -282,6 +283,9 @@ void TestSurfaces::controlsCanBeNamedAndReached()
         for (qsizetype step = 0; step < steps && !left.isEmpty(); ++step) {
             QWidget *focused = QApplication::focusWidget();
             left.remove(focused);
+            const auto *ring = window->findChild<QFocusFrame *>();
+            if (focused && !(ring && ring->isVisible() && ring->widget() == focused))
+                faults.append(QStringLiteral("no ring round ") + test::placeOf(focused));
             QTest::keyClick(focused ? focused : window, Qt::Key_Tab);
         }
         for (const QWidget *widget : qAsConst(left))

@@ -8,6 +8,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTextEdit>
 
@@ -60,6 +62,10 @@ inline QStringList unnamedControls(const QWidget *window)
 inline QStringList clippedTexts(const QWidget *window)
 {
     QStringList clipped;
+    for (const QScrollArea *area : window->findChildren<QScrollArea *>())
+        if (area->isVisible() && area->window()->inherits("QDialog")
+            && area->window() == window->window() && area->horizontalScrollBar()->maximum() > 0)
+            clipped.append(QStringLiteral("to be scrolled sideways: ") + placeOf(area));
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const auto *button = qobject_cast<const QAbstractButton *>(widget);
