@@ -1,8 +1,8 @@
 #include "app/models/inspectorforms.h"
 
 #include "app/models/codexoperations.h"
+#include "app/models/objectsummary.h"
 #include "app/models/objecttexts.h"
-#include "app/time/calendartext.h"
 #include "core/commands/codexcommands.h"
 #include "core/commands/documentcommands.h"
 #include "core/commands/objectcommands.h"
@@ -10,11 +10,8 @@
 #include "core/commands/worldcommands.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QLocale>
-#include <QtCore/QSet>
 
 #include <algorithm>
-#include <set>
 
 namespace vl::app {
 
@@ -450,30 +447,6 @@ void addCommonFields(QList<InspectorAccess> &form, const core::Project &project)
          group}));
 }
 
-QString number(qsizetype value)
-{
-    return QLocale().toString(qlonglong(value));
-}
-
-QString nameOf(const core::Project &project, const ContentId &id)
-{
-    const ContentObject *object = project.find(id);
-    return object ? rowText(titleOf(*object)) : Texts::tr("(missing)");
-}
-
-QString eventSummary(const core::Project &project, const core::TimelineEventData &event)
-{
-    QStringList lines{formatInstant(project.calendar(), event.startMinute)};
-    if (!event.locationId.isNull())
-        lines.append(Texts::tr("Place: %1").arg(nameOf(project, event.locationId)));
-    QStringList names;
-    for (const ContentId &id : event.participants)
-        names.append(nameOf(project, id));
-    if (!names.isEmpty())
-        lines.append(Texts::tr("With %1").arg(names.join(QLatin1String(", "))));
-    return lines.join(u'\n');
-}
-
 } // namespace
 
 QList<InspectorAccess> inspectorForm(core::Project &project, const QList<ContentObject *> &objects)
@@ -496,141 +469,6 @@ QList<InspectorAccess> inspectorForm(core::Project &project, const QList<Content
         form.append(note(QStringLiteral("summary"), Texts::tr("Contents"), FieldEditing::Note,
                          Texts::tr("Contents")));
     return form;
-}
-
-QString summaryOf(const core::Project &project, const ContentObject &object)
-{
-    const auto lines = [](std::initializer_list<QString> list) {
-        return QStringList(list).join(u'\n');
-    };
-    switch (object.kind()) {
-    case ContentKind::Spreadsheet: {
-        const auto &sheet = static_cast<const core::Spreadsheet &>(object);
-        return Texts::tr("%n cell(s)", nullptr, int(sheet.grid().cells.size()));
-    }
-    case ContentKind::Chart: {
-        const core::ChartData &chart = static_cast<const core::Chart &>(object).data();
-        return lines(
-            {chart.kind, Texts::tr("%n row(s) of figures", nullptr, int(chart.series.size()))});
-    }
-    case ContentKind::Map: {
-        const auto &map = static_cast<const core::Map &>(object);
-        return lines({Texts::tr("%n pin(s)", nullptr, int(map.pins().size())),
-                      Texts::tr("%n region(s)", nullptr, int(map.regions().size())),
-                      Texts::tr("%n route(s)", nullptr, int(map.routes().size()))});
-    }
-    case ContentKind::Timeline: {
-        int events = 0;
-        for (const auto *event : project.all<core::TimelineEvent>())
-            events += event->data().timelineId == object.id();
-        return Texts::tr("%n event(s)", nullptr, events);
-    }
-    case ContentKind::TimelineEvent:
-        return eventSummary(project, static_cast<const core::TimelineEvent &>(object).data());
-    case ContentKind::Media:
-        return static_cast<const core::Media &>(object).assetPath();
-    case ContentKind::Source:
-        return static_cast<const core::Source &>(object).data().sourceType;
-    case ContentKind::Task: {
-        const auto &task = static_cast<const core::Task &>(object);
-        QStringList list{task.isDone() ? Texts::tr("Done") : Texts::tr("Not done"), task.board()};
-        if (task.dueDate().isValid())
-            list.append(
-                Texts::tr("Due %1").arg(QLocale().toString(task.dueDate(), QLocale::ShortFormat)));
-        if (!task.targetId().isNull())
-            list.append(Texts::tr("About %1").arg(nameOf(project, task.targetId())));
-        return list.join(u'\n');
-    }
-    case ContentKind::Canvas:
-        return Texts::tr("%n card(s)", nullptr,
-                         int(static_cast<const core::Canvas &>(object).cards().size()));
-    case ContentKind::Comment: {
-        const auto &comment = static_cast<const core::Comment &>(object);
-        return lines(
-            {comment.data().author, Texts::tr("On %1").arg(nameOf(project, comment.targetId()))});
-    }
-    case ContentKind::Language:
-        return Texts::tr("%n word(s) in the lexicon", nullptr,
-                         int(static_cast<const core::Language &>(object).data().lexicon.size()));
-    case ContentKind::RandomTable:
-        return Texts::tr("%n line(s) to roll", nullptr,
-                         int(static_cast<const core::RandomTable &>(object).data().entries.size()));
-    case ContentKind::StatBlock: {
-        const core::StatBlockData &block = static_cast<const core::StatBlock &>(object).data();
-        return lines(
-            {block.system, Texts::tr("%1 figures, %2 actions")
-                               .arg(number(block.stats.size()), number(block.actions.size()))});
-    }
-    case ContentKind::Document:
-    case ContentKind::Entity:
-        break;
-    }
-    return {};
-}
-
-QString categoryPathText(const core::Project &project, const ContentId &id)
-{
-    QStringList names;
-    QSet<ContentId> seen;
-    for (const core::Category *category = project.taxonomy().find(id);
-         category && !seen.contains(category->id);
-         category = project.taxonomy().find(category->parentId)) {
-        names.prepend(rowText(category->name));
-        seen.insert(category->id);
-    }
-    return names.join(QStringLiteral(" › "));
-}
-
-namespace {
-
-/// Whether entities of the category can tell a story: by its name, or by one of those above it.
-bool holdsCharacters(const core::Project &project, const ContentId &id)
-{
-    const QStringList marks =
-        searchText(Texts::tr("character;people;person;cast",
-                             "parts of the names of categories that hold characters"))
-            .split(u';', Qt::SkipEmptyParts);
-    const QString path = searchText(categoryPathText(project, id));
-    return std::any_of(marks.begin(), marks.end(),
-                       [&](const QString &mark) { return path.contains(mark); });
-}
-
-void addCharacters(std::set<QString> &found, const core::Project &project)
-{
-    QHash<ContentId, bool> known;
-    for (const Entity *entity : project.all<Entity>()) {
-        const ContentId &category = entity->categoryId();
-        auto place = known.find(category);
-        if (place == known.end())
-            place = known.insert(category, holdsCharacters(project, category));
-        if (*place && !entity->name().isEmpty())
-            found.insert(entity->name());
-    }
-}
-
-} // namespace
-
-QStringList suggestionsFor(const core::Project &project, const QString &key)
-{
-    std::set<QString> found;
-    if (key == u"status" || key == u"pointOfView") {
-        for (const Document *document : project.all<Document>())
-            found.insert(key == u"status" ? document->status() : document->pointOfView());
-        if (key == u"pointOfView")
-            addCharacters(found, project);
-    } else if (key == u"tags") {
-        for (const auto &[id, object] : project.objects())
-            found.insert(object->tags().begin(), object->tags().end());
-    } else if (key == u"visibleTo") {
-        return project.audiences();
-    } else if (key == u"threads") {
-        for (const core::PlotThread &thread : project.plotThreads())
-            found.insert(thread.name);
-    }
-    found.erase(QString());
-    QStringList list(found.begin(), found.end());
-    list.sort(Qt::CaseInsensitive);
-    return list;
 }
 
 } // namespace vl::app

@@ -2,6 +2,7 @@
 
 #include "app/base/wordcount.h"
 #include "app/models/codexoperations.h"
+#include "app/models/fieldsuggestions.h"
 #include "app/models/inspectorforms.h"
 #include "app/models/objecttexts.h"
 #include "app/models/workspace.h"

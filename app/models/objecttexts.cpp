@@ -14,8 +14,10 @@
 #include "core/content/statblock.h"
 #include "core/content/task.h"
 #include "core/content/timeline.h"
+#include "core/project.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QSet>
 
 #include <algorithm>
 
@@ -127,6 +129,19 @@ QString searchText(const QString &text)
     QString folded = text.normalized(QString::NormalizationForm_KD).toCaseFolded();
     folded.removeIf([](QChar c) { return c.category() == QChar::Mark_NonSpacing; });
     return folded;
+}
+
+QString categoryPathText(const core::Project &project, const core::ContentId &id)
+{
+    QStringList names;
+    QSet<core::ContentId> seen;
+    for (const core::Category *category = project.taxonomy().find(id);
+         category && !seen.contains(category->id);
+         category = project.taxonomy().find(category->parentId)) {
+        names.prepend(rowText(category->name));
+        seen.insert(category->id);
+    }
+    return names.join(QStringLiteral(" › "));
 }
 
 } // namespace vl::app

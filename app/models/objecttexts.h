@@ -5,6 +5,10 @@
 
 #include <QtCore/QString>
 
+namespace vl::core {
+class Project;
+}
+
 namespace vl::app {
 
 /// What an object is called: the title, name or caption of its kind; empty when it has none.
@@ -21,5 +25,8 @@ QString plainToolTip(const QString &text);
 
 /// The text in lower case and without accents, so that "cafe" is found in "Café".
 QString searchText(const QString &text);
+
+/// The category with those above it: “People › The Drowned”.
+QString categoryPathText(const core::Project &project, const core::ContentId &id);
 
 } // namespace vl::app

@@ -1,6 +1,5 @@
 #include "app/models/referencesmodel.h"
 
-#include "app/models/inspectorforms.h"
 #include "app/models/objecttexts.h"
 #include "app/models/workspace.h"
 #include "core/content/entity.h"

@@ -1,7 +1,7 @@
 #include "desktop/inspector/texteditors.h"
 
 #include "app/models/editortext.h"
-#include "app/models/inspectorforms.h"
+#include "app/models/objectsummary.h"
 #include "app/models/inspectormodel.h"
 #include "app/models/referencesmodel.h"
 #include "app/models/workspace.h"
