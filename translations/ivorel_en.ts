@@ -920,6 +920,14 @@
         <source>There is not enough room for a backup in: %1</source>
         <translation>There is not enough room for a backup in: %1</translation>
     </message>
+    <message>
+        <source>The folder for backups does not exist: %1</source>
+        <translation>The folder for backups does not exist: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups lies in the project itself: %1</source>
+        <translation>The folder for backups lies in the project itself: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::BackupFolder</name>
@@ -1985,6 +1993,14 @@
     </message>
 </context>
 <context>
+    <name>vl::app::FieldSuggestions</name>
+    <message>
+        <source>character;people;person;cast</source>
+        <comment>parts of the names of categories that hold characters</comment>
+        <translation>character;people;person;cast</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::FileMerge</name>
     <message>
         <source>Cannot read file: %1</source>
@@ -2541,112 +2557,8 @@
         <translation>Withhold from AI services</translation>
     </message>
     <message>
-        <source>(missing)</source>
-        <translation>(missing)</translation>
-    </message>
-    <message>
-        <source>Place: %1</source>
-        <translation>Place: %1</translation>
-    </message>
-    <message>
-        <source>With %1</source>
-        <translation>With %1</translation>
-    </message>
-    <message>
         <source>Contents</source>
         <translation>Contents</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s)</source>
-        <translation>
-            <numerusform>%n cell</numerusform>
-            <numerusform>%n cells</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n row(s) of figures</source>
-        <translation>
-            <numerusform>%n row of figures</numerusform>
-            <numerusform>%n rows of figures</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pin(s)</source>
-        <translation>
-            <numerusform>%n pin</numerusform>
-            <numerusform>%n pins</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n region(s)</source>
-        <translation>
-            <numerusform>%n region</numerusform>
-            <numerusform>%n regions</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n route(s)</source>
-        <translation>
-            <numerusform>%n route</numerusform>
-            <numerusform>%n routes</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n event(s)</source>
-        <translation>
-            <numerusform>%n event</numerusform>
-            <numerusform>%n events</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Done</source>
-        <translation>Done</translation>
-    </message>
-    <message>
-        <source>Not done</source>
-        <translation>Not done</translation>
-    </message>
-    <message>
-        <source>Due %1</source>
-        <translation>Due %1</translation>
-    </message>
-    <message>
-        <source>About %1</source>
-        <translation>About %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n card(s)</source>
-        <translation>
-            <numerusform>%n card</numerusform>
-            <numerusform>%n cards</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>On %1</source>
-        <translation>On %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n word(s) in the lexicon</source>
-        <translation>
-            <numerusform>%n word in the lexicon</numerusform>
-            <numerusform>%n words in the lexicon</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n line(s) to roll</source>
-        <translation>
-            <numerusform>%n line to roll</numerusform>
-            <numerusform>%n lines to roll</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 figures, %2 actions</source>
-        <translation>%1 figures, %2 actions</translation>
-    </message>
-    <message>
-        <source>character;people;person;cast</source>
-        <comment>parts of the names of categories that hold characters</comment>
-        <translation>character;people;person;cast</translation>
     </message>
 </context>
 <context>
@@ -2753,6 +2665,81 @@
     <message>
         <source>Metadata</source>
         <translation>Metadata</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ObjectSummary</name>
+    <message>
+        <source>(missing)</source>
+        <translation>(missing)</translation>
+    </message>
+    <message>
+        <source>Place: %1</source>
+        <translation>Place: %1</translation>
+    </message>
+    <message>
+        <source>With %1</source>
+        <translation>With %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s)</source>
+        <translation><numerusform>%n cell</numerusform><numerusform>%n cells</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of figures</source>
+        <translation><numerusform>%n row of figures</numerusform><numerusform>%n rows of figures</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pin(s)</source>
+        <translation><numerusform>%n pin</numerusform><numerusform>%n pins</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n region(s)</source>
+        <translation><numerusform>%n region</numerusform><numerusform>%n regions</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n route(s)</source>
+        <translation><numerusform>%n route</numerusform><numerusform>%n routes</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation><numerusform>%n event</numerusform><numerusform>%n events</numerusform></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Not done</source>
+        <translation>Not done</translation>
+    </message>
+    <message>
+        <source>Due %1</source>
+        <translation>Due %1</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n card(s)</source>
+        <translation><numerusform>%n card</numerusform><numerusform>%n cards</numerusform></translation>
+    </message>
+    <message>
+        <source>On %1</source>
+        <translation>On %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) in the lexicon</source>
+        <translation><numerusform>%n word in the lexicon</numerusform><numerusform>%n words in the lexicon</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to roll</source>
+        <translation><numerusform>%n line to roll</numerusform><numerusform>%n lines to roll</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 figures, %2 actions</source>
+        <translation>%1 figures, %2 actions</translation>
     </message>
 </context>
 <context>
@@ -4509,6 +4496,33 @@ What is said.
     </message>
 </context>
 <context>
+    <name>vl::cli::WriteAccess</name>
+    <message>
+        <source>The project may be open in another program: %1</source>
+        <translation>The project may be open in another program: %1</translation>
+    </message>
+    <message>
+        <source>Nobody knows who has it open: its lock cannot be read.</source>
+        <translation>Nobody knows who has it open: its lock cannot be read.</translation>
+    </message>
+    <message>
+        <source>The project is open in another program: %1</source>
+        <translation>The project is open in another program: %1</translation>
+    </message>
+    <message>
+        <source>%1 has it open on “%2” (process %3) since %4.</source>
+        <translation>%1 has it open on “%2” (process %3) since %4.</translation>
+    </message>
+    <message>
+        <source>Close it there, then try again.</source>
+        <translation>Close it there, then try again.</translation>
+    </message>
+    <message>
+        <source>If no program has it open any more, try again with --anyway.</source>
+        <translation>If no program has it open any more, try again with --anyway.</translation>
+    </message>
+</context>
+<context>
     <name>vl::core::Command</name>
     <message>
         <source>Set field value</source>
@@ -4995,10 +5009,6 @@ What is said.
         <translation>Made by themselves</translation>
     </message>
     <message>
-        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
-        <translation>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</translation>
-    </message>
-    <message>
         <source>Where they lie</source>
         <translation>Where they lie</translation>
     </message>
@@ -5013,6 +5023,22 @@ What is said.
     <message>
         <source>Backups of This &amp;Project…</source>
         <translation>Backups of This &amp;Project…</translation>
+    </message>
+    <message>
+        <source>&amp;Back up projects without being asked</source>
+        <translation>&amp;Back up projects without being asked</translation>
+    </message>
+    <message>
+        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The last five are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
+        <translation>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The last five are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Choose…</translation>
+    </message>
+    <message>
+        <source>Folder of the Backups</source>
+        <translation>Folder of the Backups</translation>
     </message>
 </context>
 <context>

@@ -920,6 +920,14 @@
         <source>There is not enough room for a backup in: %1</source>
         <translation>No hay espacio suficiente para una copia de seguridad en: %1</translation>
     </message>
+    <message>
+        <source>The folder for backups does not exist: %1</source>
+        <translation>La carpeta de las copias de seguridad no existe: %1</translation>
+    </message>
+    <message>
+        <source>The folder for backups lies in the project itself: %1</source>
+        <translation>La carpeta de las copias de seguridad está dentro del propio proyecto: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::BackupFolder</name>
@@ -1985,6 +1993,14 @@
     </message>
 </context>
 <context>
+    <name>vl::app::FieldSuggestions</name>
+    <message>
+        <source>character;people;person;cast</source>
+        <comment>parts of the names of categories that hold characters</comment>
+        <translation>personaje;personas;persona;gente;reparto</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::FileMerge</name>
     <message>
         <source>Cannot read file: %1</source>
@@ -2541,112 +2557,8 @@
         <translation>No enviar a servicios de IA</translation>
     </message>
     <message>
-        <source>(missing)</source>
-        <translation>(falta)</translation>
-    </message>
-    <message>
-        <source>Place: %1</source>
-        <translation>Lugar: %1</translation>
-    </message>
-    <message>
-        <source>With %1</source>
-        <translation>Con %1</translation>
-    </message>
-    <message>
         <source>Contents</source>
         <translation>Contenido</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n cell(s)</source>
-        <translation>
-            <numerusform>%n celda</numerusform>
-            <numerusform>%n celdas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n row(s) of figures</source>
-        <translation>
-            <numerusform>%n fila de cifras</numerusform>
-            <numerusform>%n filas de cifras</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n pin(s)</source>
-        <translation>
-            <numerusform>%n chincheta</numerusform>
-            <numerusform>%n chinchetas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n region(s)</source>
-        <translation>
-            <numerusform>%n región</numerusform>
-            <numerusform>%n regiones</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n route(s)</source>
-        <translation>
-            <numerusform>%n ruta</numerusform>
-            <numerusform>%n rutas</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n event(s)</source>
-        <translation>
-            <numerusform>%n acontecimiento</numerusform>
-            <numerusform>%n acontecimientos</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Done</source>
-        <translation>Hecho</translation>
-    </message>
-    <message>
-        <source>Not done</source>
-        <translation>Sin hacer</translation>
-    </message>
-    <message>
-        <source>Due %1</source>
-        <translation>Vence el %1</translation>
-    </message>
-    <message>
-        <source>About %1</source>
-        <translation>Sobre %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n card(s)</source>
-        <translation>
-            <numerusform>%n tarjeta</numerusform>
-            <numerusform>%n tarjetas</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>On %1</source>
-        <translation>En %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n word(s) in the lexicon</source>
-        <translation>
-            <numerusform>%n palabra en el léxico</numerusform>
-            <numerusform>%n palabras en el léxico</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n line(s) to roll</source>
-        <translation>
-            <numerusform>%n línea que tirar</numerusform>
-            <numerusform>%n líneas que tirar</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 figures, %2 actions</source>
-        <translation>%1 valores, %2 acciones</translation>
-    </message>
-    <message>
-        <source>character;people;person;cast</source>
-        <comment>parts of the names of categories that hold characters</comment>
-        <translation>personaje;personas;persona;gente;reparto</translation>
     </message>
 </context>
 <context>
@@ -2753,6 +2665,81 @@
     <message>
         <source>Metadata</source>
         <translation>Metadatos</translation>
+    </message>
+</context>
+<context>
+    <name>vl::app::ObjectSummary</name>
+    <message>
+        <source>(missing)</source>
+        <translation>(falta)</translation>
+    </message>
+    <message>
+        <source>Place: %1</source>
+        <translation>Lugar: %1</translation>
+    </message>
+    <message>
+        <source>With %1</source>
+        <translation>Con %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cell(s)</source>
+        <translation><numerusform>%n celda</numerusform><numerusform>%n celdas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of figures</source>
+        <translation><numerusform>%n fila de cifras</numerusform><numerusform>%n filas de cifras</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pin(s)</source>
+        <translation><numerusform>%n chincheta</numerusform><numerusform>%n chinchetas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n region(s)</source>
+        <translation><numerusform>%n región</numerusform><numerusform>%n regiones</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n route(s)</source>
+        <translation><numerusform>%n ruta</numerusform><numerusform>%n rutas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n event(s)</source>
+        <translation><numerusform>%n acontecimiento</numerusform><numerusform>%n acontecimientos</numerusform></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Not done</source>
+        <translation>Sin hacer</translation>
+    </message>
+    <message>
+        <source>Due %1</source>
+        <translation>Vence el %1</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Sobre %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n card(s)</source>
+        <translation><numerusform>%n tarjeta</numerusform><numerusform>%n tarjetas</numerusform></translation>
+    </message>
+    <message>
+        <source>On %1</source>
+        <translation>En %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) in the lexicon</source>
+        <translation><numerusform>%n palabra en el léxico</numerusform><numerusform>%n palabras en el léxico</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) to roll</source>
+        <translation><numerusform>%n línea que tirar</numerusform><numerusform>%n líneas que tirar</numerusform></translation>
+    </message>
+    <message>
+        <source>%1 figures, %2 actions</source>
+        <translation>%1 valores, %2 acciones</translation>
     </message>
 </context>
 <context>
@@ -4509,6 +4496,33 @@ Lo que se dice.
     </message>
 </context>
 <context>
+    <name>vl::cli::WriteAccess</name>
+    <message>
+        <source>The project may be open in another program: %1</source>
+        <translation>Es posible que el proyecto esté abierto en otro programa: %1</translation>
+    </message>
+    <message>
+        <source>Nobody knows who has it open: its lock cannot be read.</source>
+        <translation>No se sabe quién lo tiene abierto: su bloqueo no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The project is open in another program: %1</source>
+        <translation>El proyecto está abierto en otro programa: %1</translation>
+    </message>
+    <message>
+        <source>%1 has it open on “%2” (process %3) since %4.</source>
+        <translation>%1 lo tiene abierto en «%2» (proceso %3) desde %4.</translation>
+    </message>
+    <message>
+        <source>Close it there, then try again.</source>
+        <translation>Ciérrelo allí e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>If no program has it open any more, try again with --anyway.</source>
+        <translation>Si ya ningún programa lo tiene abierto, inténtelo de nuevo con --anyway.</translation>
+    </message>
+</context>
+<context>
     <name>vl::core::Command</name>
     <message>
         <source>Set field value</source>
@@ -4995,10 +5009,6 @@ Lo que se dice.
         <translation>Automáticas</translation>
     </message>
     <message>
-        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The newest are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
-        <translation>De un proyecto se hace copia al abrirlo, al cerrarlo y una vez al día, salvo que la copia más reciente contenga lo mismo. Se conservan las más recientes, una al día de la última semana, una a la semana de los dos últimos meses y las que usted haya hecho.</translation>
-    </message>
-    <message>
         <source>Where they lie</source>
         <translation>Dónde están</translation>
     </message>
@@ -5013,6 +5023,22 @@ Lo que se dice.
     <message>
         <source>Backups of This &amp;Project…</source>
         <translation>Copias de este &amp;proyecto…</translation>
+    </message>
+    <message>
+        <source>&amp;Back up projects without being asked</source>
+        <translation>&amp;Copiar los proyectos sin que haya que pedirlo</translation>
+    </message>
+    <message>
+        <source>A project is backed up when it is opened, when it is closed and once a day, unless the newest backup holds the same. The last five are kept, one a day of the last week, one a week of the last two months, and those that you made yourself.</source>
+        <translation>Se hace una copia de seguridad del proyecto al abrirlo, al cerrarlo y una vez al día, salvo que la más reciente contenga lo mismo. Se conservan las cinco últimas, una por día de la última semana, una por semana de los dos últimos meses y las que haya hecho usted.</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Elegir…</translation>
+    </message>
+    <message>
+        <source>Folder of the Backups</source>
+        <translation>Carpeta de las copias de seguridad</translation>
     </message>
 </context>
 <context>
