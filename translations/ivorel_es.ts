@@ -865,6 +865,732 @@
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <translation>Carpeta de archivos</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atajo</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Disminuir</translation>
+    </message>
+</context>
+<context>
+    <name>QComboBox</name>
+    <message>
+        <source>Open the combo box selection popup</source>
+        <translation>Abrir la lista desplegable</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+No se encuentra la carpeta.
+Compruebe que el nombre de la carpeta es correcto.</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+No se encuentra el archivo.
+Compruebe que el nombre del archivo es correcto.</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 ya existe.
+¿Quiere reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>Carpeta &amp;nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Cambiar el nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>'%1' is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» está protegido contra escritura.
+¿Quiere eliminarlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Alt+Left</source>
+        <translation>Alt+Left</translation>
+    </message>
+    <message>
+        <source>Alt+Right</source>
+        <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <source>Alt+Up</source>
+        <translation>Alt+Up</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete '%1'?</source>
+        <translation>¿Seguro que quiere eliminar «%1»?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Mostrar los detalles</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Mostrar como lista</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>No se pudo eliminar la carpeta.</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Crear carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crear una carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Vista de detalles</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Carpeta:</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nombre del archivo:</translation>
+    </message>
+    <message>
+        <source>File Folder</source>
+        <translation>Carpeta de archivos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Archivos de tipo:</translation>
+    </message>
+    <message>
+        <source>Find Directory</source>
+        <translation>Buscar carpeta</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Ir atrás</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Ir adelante</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Ir a la carpeta superior</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Vista de lista</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista de lugares y marcadores</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Buscar en:</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>Mi equipo</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Carpeta superior</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Lugares recientes</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atajo</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostrar </translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostrar los archivos &amp;ocultos</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra lateral</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Modificado</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Nombre de archivo no válido</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>Mi equipo</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+</context>
+<context>
+    <name>QFontDatabase</name>
+    <message>
+        <source>Black</source>
+        <translation>Negra</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Demi Bold</source>
+        <translation>Seminegrita</translation>
+    </message>
+    <message>
+        <source>Extra</source>
+        <translation>Extra</translation>
+    </message>
+    <message>
+        <source>Extra Bold</source>
+        <translation>Extranegrita</translation>
+    </message>
+    <message>
+        <source>Extra Light</source>
+        <translation>Extrafina</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Thin</source>
+        <translation>Fina</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No space left on device</source>
+        <translation>No queda espacio en el dispositivo</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permiso denegado</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Error desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>QKeySequenceEdit</name>
+    <message>
+        <source>%1, ...</source>
+        <translation>%1, …</translation>
+    </message>
+    <message>
+        <source>Press shortcut</source>
+        <translation>Pulse el atajo</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Close Active Tab</source>
+        <translation>Cerrar la pestaña activa</translation>
+    </message>
+    <message>
+        <source>Close Group</source>
+        <translation>Cerrar el grupo</translation>
+    </message>
+    <message>
+        <source>Close Other Groups</source>
+        <translation>Cerrar los demás grupos</translation>
+    </message>
+    <message>
+        <source>Close Others</source>
+        <translation>Cerrar las demás</translation>
+    </message>
+    <message>
+        <source>Close Tab</source>
+        <translation>Cerrar la pestaña</translation>
+    </message>
+    <message>
+        <source>Detach</source>
+        <translation>Separar</translation>
+    </message>
+    <message>
+        <source>Detach Group</source>
+        <translation>Separar el grupo</translation>
+    </message>
+    <message>
+        <source>List All Tabs</source>
+        <translation>Mostrar todas las pestañas</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Principio</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Retroceso</translation>
+    </message>
+    <message>
+        <source>Backtab</source>
+        <translation>Tab atrás</translation>
+    </message>
+    <message>
+        <source>CapsLock</source>
+        <translation>Bloq Mayús</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>F%1</source>
+        <translation>F%1</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Hogar</translation>
+    </message>
+    <message>
+        <source>Ins</source>
+        <translation>Ins</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Num</source>
+        <translation>Num</translation>
+    </message>
+    <message>
+        <source>NumLock</source>
+        <translation>Bloq Num</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>AvPág</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>RePág</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impr Pant</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrar</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>ScrollLock</source>
+        <translation>Bloq Despl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>SysReq</source>
+        <translation>PetSis</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Arriba</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar la dirección del en&amp;lace</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
     <name>Themes</name>
     <message>
         <source>Light</source>
@@ -2683,27 +3409,45 @@
     </message>
     <message numerus="yes">
         <source>%n cell(s)</source>
-        <translation><numerusform>%n celda</numerusform><numerusform>%n celdas</numerusform></translation>
+        <translation>
+            <numerusform>%n celda</numerusform>
+            <numerusform>%n celdas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n row(s) of figures</source>
-        <translation><numerusform>%n fila de cifras</numerusform><numerusform>%n filas de cifras</numerusform></translation>
+        <translation>
+            <numerusform>%n fila de cifras</numerusform>
+            <numerusform>%n filas de cifras</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n pin(s)</source>
-        <translation><numerusform>%n chincheta</numerusform><numerusform>%n chinchetas</numerusform></translation>
+        <translation>
+            <numerusform>%n chincheta</numerusform>
+            <numerusform>%n chinchetas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n region(s)</source>
-        <translation><numerusform>%n región</numerusform><numerusform>%n regiones</numerusform></translation>
+        <translation>
+            <numerusform>%n región</numerusform>
+            <numerusform>%n regiones</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n route(s)</source>
-        <translation><numerusform>%n ruta</numerusform><numerusform>%n rutas</numerusform></translation>
+        <translation>
+            <numerusform>%n ruta</numerusform>
+            <numerusform>%n rutas</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n event(s)</source>
-        <translation><numerusform>%n acontecimiento</numerusform><numerusform>%n acontecimientos</numerusform></translation>
+        <translation>
+            <numerusform>%n acontecimiento</numerusform>
+            <numerusform>%n acontecimientos</numerusform>
+        </translation>
     </message>
     <message>
         <source>Done</source>
@@ -2723,7 +3467,10 @@
     </message>
     <message numerus="yes">
         <source>%n card(s)</source>
-        <translation><numerusform>%n tarjeta</numerusform><numerusform>%n tarjetas</numerusform></translation>
+        <translation>
+            <numerusform>%n tarjeta</numerusform>
+            <numerusform>%n tarjetas</numerusform>
+        </translation>
     </message>
     <message>
         <source>On %1</source>
@@ -2731,11 +3478,17 @@
     </message>
     <message numerus="yes">
         <source>%n word(s) in the lexicon</source>
-        <translation><numerusform>%n palabra en el léxico</numerusform><numerusform>%n palabras en el léxico</numerusform></translation>
+        <translation>
+            <numerusform>%n palabra en el léxico</numerusform>
+            <numerusform>%n palabras en el léxico</numerusform>
+        </translation>
     </message>
     <message numerus="yes">
         <source>%n line(s) to roll</source>
-        <translation><numerusform>%n línea que tirar</numerusform><numerusform>%n líneas que tirar</numerusform></translation>
+        <translation>
+            <numerusform>%n línea que tirar</numerusform>
+            <numerusform>%n líneas que tirar</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 figures, %2 actions</source>
@@ -3048,6 +3801,14 @@
     <message>
         <source>Could not move the file: %1</source>
         <translation>No se pudo mover el archivo: %1</translation>
+    </message>
+    <message>
+        <source>The project file holds “%1” more than once; this is an earlier one.</source>
+        <translation>El archivo del proyecto contiene «%1» más de una vez; esta es una versión anterior.</translation>
+    </message>
+    <message>
+        <source>The project changed outside Ivorel since you opened it.</source>
+        <translation>El proyecto cambió fuera de Ivorel desde que lo abrió.</translation>
     </message>
 </context>
 <context>
@@ -6134,10 +6895,6 @@ Lo que se dice.
         <translation>Reemplazar con</translation>
     </message>
     <message>
-        <source>&amp;Keep case</source>
-        <translation>&amp;Conservar mayúsculas</translation>
-    </message>
-    <message>
         <source>“Tide” becomes “Ebb” and “TIDE” becomes “EBB”.</source>
         <translation>«Marea» pasa a «Reflujo» y «MAREA», a «REFLUJO».</translation>
     </message>
@@ -6166,16 +6923,16 @@ Lo que se dice.
         <comment>the hit that is shown, all hits</comment>
         <translation>%1 de %2</translation>
     </message>
+    <message>
+        <source>Keep the case of what is replaced</source>
+        <translation>Conservar las mayúsculas de lo reemplazado</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::GeneralPage</name>
     <message>
         <source>Start</source>
         <translation>Inicio</translation>
-    </message>
-    <message>
-        <source>&amp;Reopen the last project</source>
-        <translation>&amp;Volver a abrir el último proyecto</translation>
     </message>
     <message>
         <source>Language</source>
@@ -6188,6 +6945,10 @@ Lo que se dice.
     <message>
         <source>&amp;Interface language:</source>
         <translation>&amp;Idioma de la interfaz:</translation>
+    </message>
+    <message>
+        <source>Re&amp;open the last project</source>
+        <translation>V&amp;olver a abrir el último proyecto</translation>
     </message>
 </context>
 <context>
