@@ -469,6 +469,29 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>Write</source>
+        <translation>Write</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation>World</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Play</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+</context>
+<context>
     <name>PaletteWords</name>
     <message>
         <source>create, start, template</source>
@@ -3678,6 +3701,18 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>New Project</source>
         <translation>New Project</translation>
+    </message>
+    <message>
+        <source>The project could not be found: %1</source>
+        <translation>The project could not be found: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Locate…</source>
+        <translation>&amp;Locate…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Remove from List</translation>
     </message>
 </context>
 <context>
@@ -7043,6 +7078,10 @@ What is said.
         <source>Layout to delete:</source>
         <translation>Layout to delete:</translation>
     </message>
+    <message>
+        <source>“%1” is a layout that comes with Ivorel. Choose another name.</source>
+        <translation>“%1” is a layout that comes with Ivorel. Choose another name.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::LevelFieldEditor</name>
@@ -7227,16 +7266,16 @@ What is said.
         <translation>What was found</translation>
     </message>
     <message>
-        <source>&gt; commands    # tags    @ headings</source>
-        <translation>&gt; commands    # tags    @ headings</translation>
-    </message>
-    <message>
         <source>How much was found</source>
         <translation>How much was found</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>&gt; commands    # tags    @ headings    Ctrl+Enter: show and go on</source>
+        <translation>&gt; commands    # tags    @ headings    Ctrl+Enter: show and go on</translation>
     </message>
 </context>
 <context>
@@ -7422,6 +7461,10 @@ What is said.
     <message>
         <source>Not found: %1</source>
         <translation>Not found: %1</translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation>%1 (not found)</translation>
     </message>
 </context>
 <context>
@@ -7713,6 +7756,17 @@ What is said.
     <message>
         <source>“%1” belongs to “%2” now.</source>
         <translation>“%1” belongs to “%2” now.</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::StartUp</name>
+    <message>
+        <source>Settings are not kept: %1 cannot be written to. What you set lasts until Ivorel is closed.</source>
+        <translation>Settings are not kept: %1 cannot be written to. What you set lasts until Ivorel is closed.</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged. What could be read of it is in use; it is kept as %1.</source>
+        <translation>The settings file was damaged. What could be read of it is in use; it is kept as %1.</translation>
     </message>
 </context>
 <context>

@@ -469,6 +469,29 @@
     </message>
 </context>
 <context>
+    <name>Layouts</name>
+    <message>
+        <source>Write</source>
+        <translation>Escribir</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Planificar</translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation>Mundo</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Jugar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edición</translation>
+    </message>
+</context>
+<context>
     <name>PaletteWords</name>
     <message>
         <source>create, start, template</source>
@@ -3678,6 +3701,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>New Project</source>
         <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>The project could not be found: %1</source>
+        <translation>No se encontró el proyecto: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Locate…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>&amp;Quitar de la lista</translation>
     </message>
 </context>
 <context>
@@ -7043,6 +7078,10 @@ Lo que se dice.
         <source>Layout to delete:</source>
         <translation>Disposición que eliminar:</translation>
     </message>
+    <message>
+        <source>“%1” is a layout that comes with Ivorel. Choose another name.</source>
+        <translation>«%1» es una disposición que trae Ivorel. Elija otro nombre.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::LevelFieldEditor</name>
@@ -7227,16 +7266,16 @@ Lo que se dice.
         <translation>Lo encontrado</translation>
     </message>
     <message>
-        <source>&gt; commands    # tags    @ headings</source>
-        <translation>&gt; órdenes    # etiquetas    @ títulos</translation>
-    </message>
-    <message>
         <source>How much was found</source>
         <translation>Cuánto se encontró</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>&gt; commands    # tags    @ headings    Ctrl+Enter: show and go on</source>
+        <translation>&gt; órdenes    # etiquetas    @ títulos    Ctrl+Intro: mostrar y seguir</translation>
     </message>
 </context>
 <context>
@@ -7422,6 +7461,10 @@ Lo que se dice.
     <message>
         <source>Not found: %1</source>
         <translation>No se encuentra: %1</translation>
+    </message>
+    <message>
+        <source>%1 (not found)</source>
+        <translation>%1 (no se encuentra)</translation>
     </message>
 </context>
 <context>
@@ -7713,6 +7756,17 @@ Lo que se dice.
     <message>
         <source>“%1” belongs to “%2” now.</source>
         <translation>«%1» pertenece ahora a «%2».</translation>
+    </message>
+</context>
+<context>
+    <name>vl::desktop::StartUp</name>
+    <message>
+        <source>Settings are not kept: %1 cannot be written to. What you set lasts until Ivorel is closed.</source>
+        <translation>Los ajustes no se guardan: no se puede escribir en %1. Lo que cambie dura hasta que se cierre Ivorel.</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged. What could be read of it is in use; it is kept as %1.</source>
+        <translation>El archivo de ajustes estaba dañado. Se usa lo que se pudo leer; se conserva como %1.</translation>
     </message>
 </context>
 <context>
