@@ -1,7 +1,7 @@
 #include "app/models/externalchangesmodel.h"
 
 #include "app/models/objecttexts.h"
-#include "app/models/readablefile.h"
+#include "app/models/workspace.h"
 #include "app/storage/jsonmerge.h"
 #include "app/storage/ownform.h"
 #include "app/storage/projectpaths.h"
@@ -28,16 +28,23 @@ QJsonObject objectIn(const QByteArray &bytes)
     return QJsonDocument::fromJson(bytes).object();
 }
 
+std::optional<QByteArray> asBytes(const std::optional<QString> &text)
+{
+    return text ? std::optional(text->toUtf8()) : std::nullopt;
+}
+
 QByteArray bytesOf(const std::optional<QString> &text)
 {
-    return text ? text->toUtf8() : QByteArray();
+    return asBytes(text).value_or(QByteArray());
 }
 
 } // namespace
 
 ExternalChangesModel::ExternalChangesModel(const OutsideState &state,
-                                           std::vector<ReconcileEntry> entries, QObject *parent)
+                                           std::vector<ReconcileEntry> entries,
+                                           const Workspace *workspace, QObject *parent)
     : QAbstractTableModel(parent)
+    , m_workspace(workspace)
 {
     std::stable_partition(entries.begin(), entries.end(), isConflictIn);
     for (ReconcileEntry &entry : entries) {
@@ -168,16 +175,11 @@ QString ExternalChangesModel::choiceText(const Row &row)
     return {};
 }
 
-QString ExternalChangesModel::myText(int row) const
+ReadableVersions ExternalChangesModel::versions(int row) const
 {
-    const std::optional<QString> &text = m_rows[std::size_t(row)].original.localText;
-    return text ? readableFile(text->toUtf8()) : QString();
-}
-
-QString ExternalChangesModel::theirText(int row) const
-{
-    const std::optional<QString> &text = m_rows[std::size_t(row)].original.remoteText;
-    return text ? readableFile(text->toUtf8()) : QString();
+    const ReconcileEntry &original = m_rows[std::size_t(row)].original;
+    return readableVersions(asBytes(original.localText), asBytes(original.remoteText),
+                            m_workspace ? &m_workspace->project() : nullptr);
 }
 
 void ExternalChangesModel::chooseMine(int row)

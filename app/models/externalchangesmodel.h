@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/base/result.h"
+#include "app/models/readablefile.h"
 #include "app/storage/outsidescan.h"
 #include "app/storage/reconcile.h"
 
@@ -10,6 +11,8 @@
 #include <vector>
 
 namespace vl::app {
+
+class Workspace;
 
 /// The files that others changed while the project was open: what happened to each in words, its
 /// two versions as text for people, and what the user decides about it.
@@ -34,9 +37,10 @@ public:
         ByHand, ///< the user's own text
     };
 
-    /// The entries are those of OutsideMonitor::entries() for the state. Conflicts come first.
+    /// The entries are those of OutsideMonitor::entries() for the state. Conflicts come first. The
+    /// workspace, which outlives the model, tells what the files refer to where there is one.
     ExternalChangesModel(const OutsideState &state, std::vector<ReconcileEntry> entries,
-                         QObject *parent = nullptr);
+                         const Workspace *workspace = nullptr, QObject *parent = nullptr);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -44,9 +48,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
-    /// The two versions as text for people; empty where a version is gone.
-    QString myText(int row) const;
-    QString theirText(int row) const;
+    /// The user's own version and the one on disk as text for people.
+    ReadableVersions versions(int row) const;
     Choice choice(int row) const { return m_rows[std::size_t(row)].choice; }
     void chooseMine(int row);
     void chooseTheirs(int row);
@@ -83,6 +86,7 @@ private:
     static void findEditableText(Row &row);
     void rowChanged(int row);
 
+    const Workspace *m_workspace;
     std::vector<Row> m_rows;
 };
 

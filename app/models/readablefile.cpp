@@ -1,50 +1,369 @@
 #include "app/models/readablefile.h"
 
+#include "app/models/objecttexts.h"
+#include "app/time/calendartext.h"
+#include "core/project.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QLocale>
+
+#include <algorithm>
 
 namespace vl::app {
 
 namespace {
 
-void addValue(QString &text, const QString &name, const QJsonValue &value, int depth)
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(vl::app::ReadableFile)
+};
+
+struct Label
+{
+    const char *key;
+    const char *context;
+    const char *text;
+};
+
+const char forms[] = "vl::app::InspectorForms"; // where the inspector has the word, it is the same
+const char own[] = "vl::app::ReadableFile";
+
+constexpr Label labels[] = {
+    {"aiExcluded", forms,
+     QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Withhold from AI services")},
+    {"aliases", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Aliases")},
+    {"anchor", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place in the text")},
+    {"assetPath", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Media file")},
+    {"author", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Author")},
+    {"birthInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Born or begun")},
+    {"caption", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Caption")},
+    {"categoryId", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Category")},
+    {"citationKey", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Citation key")},
+    {"createdAt", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Made")},
+    {"deathInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Died or ended")},
+    {"description", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Description")},
+    {"done", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Done")},
+    {"dueDate", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Due")},
+    {"endMinute", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "End")},
+    {"endnote", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Endnote")},
+    {"fields", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Fields")},
+    {"footnotes", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Footnotes")},
+    {"gallery", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Pictures")},
+    {"grammarNotes", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Grammar notes")},
+    {"id", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Mark")},
+    {"imageAssetPath", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Media file")},
+    {"instant", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Date")},
+    {"kind", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Kind")},
+    {"layer", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Layer")},
+    {"locationId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place")},
+    {"name", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Name")},
+    {"note", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Note")},
+    {"notes", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Notes")},
+    {"parentId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Under")},
+    {"participants", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Who takes part")},
+    {"plotThreadIds", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Plot threads")},
+    {"plotThreads", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Plot threads")},
+    {"pointOfView", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Point of view")},
+    {"priority", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Priority")},
+    {"resolved", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Resolved")},
+    {"revisionBaseline", own,
+     QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Text before the revision")},
+    {"sceneInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Scene date")},
+    {"sortIndex", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place in the order")},
+    {"sourceIds", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Sources")},
+    {"startMinute", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Beginning")},
+    {"status", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Status")},
+    {"synopsis", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Synopsis")},
+    {"tags", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Tags")},
+    {"targetId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "About")},
+    {"tensionLevel", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Tension")},
+    {"timedValues", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "State over time")},
+    {"title", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Title")},
+    {"updatedAt", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Changed")},
+    {"values", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Details")},
+    {"variants", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Other wordings")},
+    {"versions", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Earlier versions")},
+    {"visibleTo", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Audiences")},
+    {"wordCountTarget", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Word-count target")},
+};
+
+/// The members that a thing is known by, the first of them that is there.
+const QLatin1String headKeys[] = {
+    QLatin1String("title"), QLatin1String("name"), QLatin1String("caption"), QLatin1String("label"),
+    QLatin1String("word"),  QLatin1String("key"),  QLatin1String("text"),
+};
+
+template<std::size_t N>
+bool isOneOf(const QString &key, const char *const (&keys)[N])
+{
+    return std::any_of(std::begin(keys), std::end(keys),
+                       [&](const char *one) { return key == QLatin1String(one); });
+}
+
+/// "wordCountTarget" as "Word count target".
+QString spelledOut(const QString &key)
+{
+    QString words;
+    for (const QChar c : key) {
+        if (c.isUpper() && !words.isEmpty())
+            words += u' ';
+        words += words.isEmpty() ? c.toUpper() : c.toLower();
+    }
+    return words;
+}
+
+QString labelOf(const QString &key)
+{
+    for (const Label &label : labels)
+        if (key == QLatin1String(label.key))
+            return QCoreApplication::translate(label.context, label.text);
+    return spelledOut(key);
+}
+
+/// Whether the members have names that the user gave them.
+bool hasOwnNames(const QString &key)
+{
+    static const char *const keys[] = {"values", "fields", "fieldValues"};
+    return isOneOf(key, keys);
+}
+
+bool isInstant(const QString &key)
+{
+    static const char *const keys[] = {"sceneInstant", "birthInstant", "deathInstant",
+                                       "instant",      "startMinute",  "endMinute"};
+    return isOneOf(key, keys);
+}
+
+bool isNothing(const QJsonValue &value)
+{
+    return value.isNull() || (value.isBool() && !value.toBool())
+           || (value.isString() && value.toString().isEmpty())
+           || (value.isArray() && value.toArray().isEmpty())
+           || (value.isObject() && value.toObject().isEmpty());
+}
+
+/// Writes the members of a file one below the other.
+class Writer
+{
+public:
+    explicit Writer(const core::Project *project)
+        : m_project(project)
+    {
+    }
+
+    QString write(const QJsonObject &file);
+
+private:
+    void addMember(const QString &key, const QJsonValue &value, int depth, bool isOwnName = false);
+    void addMembers(const QJsonObject &object, int depth, const QString &leftOut, bool areOwnNames);
+    void addItem(const QJsonObject &item, int depth);
+    void addLines(const QString &text, int depth);
+    QString shortText(const QString &key, const QJsonValue &value) const;
+    QString nameOf(const core::ContentId &id) const;
+
+    const core::Project *m_project;
+    QString m_text;
+};
+
+QString Writer::write(const QJsonObject &file)
+{
+    QString head;
+    for (const QLatin1String key : headKeys) {
+        if (!file.value(key).isString())
+            continue;
+        head = key;
+        addMember(head, file.value(key), 0);
+        break;
+    }
+    QJsonObject rest = file;
+    for (const char *key : {"id", "type", "body"}) // a name for programs, and what comes last
+        rest.remove(QLatin1String(key));
+    addMembers(rest, 0, head, false);
+    const QString body = file.value(QLatin1String("body")).toString();
+    if (!body.isEmpty()) {
+        if (!m_text.isEmpty())
+            m_text += u'\n';
+        addLines(body, 0);
+    }
+    return m_text.isEmpty() ? Texts::tr("(empty)") + u'\n' : m_text;
+}
+
+QString Writer::nameOf(const core::ContentId &id) const
+{
+    if (m_project) {
+        if (const core::ContentObject *object = m_project->find(id)) {
+            const QString title = rowText(titleOf(*object));
+            return title.isEmpty() ? kindText(object->kind()) : title;
+        }
+        if (m_project->taxonomy().contains(id))
+            return categoryPathText(*m_project, id);
+    }
+    return Texts::tr("another object (%1)").arg(id.toString().left(8));
+}
+
+/// What fits into a line; null for what does not.
+QString Writer::shortText(const QString &key, const QJsonValue &value) const
+{
+    if (value.isBool())
+        return value.toBool() ? Texts::tr("yes") : Texts::tr("no");
+    if (value.isDouble()) {
+        const QVariant number = value.toVariant();
+        if (isInstant(key) && m_project)
+            return formatInstant(m_project->calendar(), number.toLongLong());
+        return number.toString();
+    }
+    if (value.isArray()) {
+        QStringList texts;
+        for (const QJsonValue item : value.toArray()) {
+            texts.append(item.isObject() || item.isArray() ? QString() : shortText({}, item));
+            if (texts.last().isNull())
+                return {};
+        }
+        return texts.join(QStringLiteral(", "));
+    }
+    const QString text = value.toString();
+    if (!value.isString() || text.contains(u'\n'))
+        return {};
+    if (const auto id = core::ContentId::fromString(text); text.size() == 36 && !id.isNull())
+        return nameOf(id);
+    if (key.endsWith(QLatin1String("edAt"))) {
+        const QDateTime time = QDateTime::fromString(text, Qt::ISODateWithMs).toLocalTime();
+        if (time.isValid())
+            return QLocale().toString(time.date(), QLocale::ShortFormat) + u' '
+                   + time.toString(QStringLiteral("HH:mm:ss"));
+    }
+    if (key == QLatin1String("kind")) {
+        const char *const kinds[] = {"Prose", "Screenplay", "Note"};
+        for (const char *kind : kinds)
+            if (text.compare(QLatin1String(kind), Qt::CaseInsensitive) == 0)
+                return QCoreApplication::translate(forms, kind);
+    }
+    return text;
+}
+
+void Writer::addLines(const QString &text, int depth)
 {
     const QString indent(2 * depth, u' ');
-    const QString start = name.isEmpty() ? indent : indent + name + QStringLiteral(": ");
-    if (value.isObject()) {
-        if (!name.isEmpty())
-            text += start.trimmed().isEmpty() ? QString() : start + u'\n';
-        const QJsonObject object = value.toObject();
-        for (auto it = object.begin(); it != object.end(); ++it)
-            addValue(text, it.key(), it.value(), name.isEmpty() ? depth : depth + 1);
-    } else if (value.isArray()) {
-        if (value.toArray().isEmpty())
-            return;
-        text += start + u'\n';
-        for (const QJsonValue item : value.toArray())
-            addValue(text, item.isObject() ? QStringLiteral("•") : QString(), item, depth + 1);
-    } else if (value.isString() && value.toString().contains(u'\n')) {
-        text += start + u'\n' + value.toString() + u'\n';
-    } else if (value.isString()) {
-        text += start + value.toString() + u'\n';
-    } else if (value.isBool()) {
-        text += start + (value.toBool() ? QLatin1String("true") : QLatin1String("false")) + u'\n';
-    } else if (value.isDouble()) {
-        text += start + value.toVariant().toString() + u'\n';
+    QStringView lines(text);
+    if (lines.endsWith(u'\n'))
+        lines.chop(1);
+    for (const QStringView line : lines.split(u'\n')) {
+        if (!line.isEmpty())
+            m_text += indent;
+        m_text += line;
+        m_text += u'\n';
     }
+}
+
+void Writer::addMembers(const QJsonObject &object, int depth, const QString &leftOut,
+                        bool areOwnNames)
+{
+    for (auto it = object.begin(); it != object.end(); ++it)
+        if (leftOut.isEmpty() || it.key() != leftOut)
+            addMember(it.key(), it.value(), depth, areOwnNames);
+}
+
+void Writer::addMember(const QString &key, const QJsonValue &value, int depth, bool isOwnName)
+{
+    if (isNothing(value))
+        return;
+    const QString start =
+        QString(2 * depth, u' ') + (isOwnName ? key : labelOf(key)) + QLatin1Char(':');
+    if (const QString line = shortText(key, value); !line.isNull()) {
+        m_text += start + u' ' + line + u'\n';
+        return;
+    }
+    m_text += start + u'\n';
+    if (value.isObject()) {
+        addMembers(value.toObject(), depth + 1, {}, hasOwnNames(key));
+    } else if (value.isString()) {
+        addLines(value.toString(), depth + 1);
+    } else {
+        for (const QJsonValue item : value.toArray()) {
+            if (item.isObject())
+                addItem(item.toObject(), depth + 1);
+            else if (item.isArray())
+                addMember(QString(), item, depth + 1);
+            else
+                addLines(item.isString() ? item.toString() : shortText({}, item), depth + 1);
+        }
+    }
+}
+
+/// What it is known by and its short members on one line, its texts below.
+void Writer::addItem(const QJsonObject &item, int depth)
+{
+    QString head;
+    QStringList line;
+    for (const QLatin1String key : headKeys) {
+        const QString text = shortText(key, item.value(key));
+        if (text.isEmpty())
+            continue;
+        head = key;
+        line.append(text);
+        break;
+    }
+    QJsonObject below;
+    for (auto it = item.begin(); it != item.end(); ++it) {
+        if (it.key() == head || isNothing(it.value()))
+            continue;
+        const QString text = it->isObject() ? QString() : shortText(it.key(), it.value());
+        if (text.isNull() || it.key() == QLatin1String("body"))
+            below.insert(it.key(), it.value());
+        else if (core::ContentId::fromString(it->toString()).isNull()
+                 || it.key() != QLatin1String("id"))
+            line.append(labelOf(it.key()) + QStringLiteral(": ") + text);
+    }
+    m_text +=
+        QString(2 * depth, u' ') + QStringLiteral("• ") + line.join(QStringLiteral(", ")) + u'\n';
+    for (auto it = below.begin(); it != below.end(); ++it) {
+        if (it->isString())
+            addLines(it->toString(), depth + 1);
+        else
+            addMember(it.key(), it.value(), depth + 1);
+    }
+}
+
+std::optional<QJsonObject> objectIn(const std::optional<QByteArray> &bytes)
+{
+    if (!bytes)
+        return std::nullopt;
+    const QJsonDocument json = QJsonDocument::fromJson(*bytes);
+    return json.isObject() ? std::optional(json.object()) : std::nullopt;
 }
 
 } // namespace
 
-QString readableFile(const QByteArray &bytes)
+QString readableFile(const QByteArray &bytes, const core::Project *project)
 {
-    const QJsonDocument json = QJsonDocument::fromJson(bytes);
-    if (!json.isObject())
-        return QString::fromUtf8(bytes);
-    QString text;
-    addValue(text, {}, json.object(), 0);
-    return text;
+    const std::optional<QJsonObject> file = objectIn(bytes);
+    return file ? Writer(project).write(*file) : QString::fromUtf8(bytes);
+}
+
+ReadableVersions readableVersions(const std::optional<QByteArray> &before,
+                                  const std::optional<QByteArray> &after,
+                                  const core::Project *project)
+{
+    std::optional<QJsonObject> first = objectIn(before);
+    std::optional<QJsonObject> second = objectIn(after);
+    if (!first || !second)
+        return {before ? readableFile(*before, project) : QString(),
+                after ? readableFile(*after, project) : QString()};
+    const QStringList keys = first->keys();
+    for (const QString &key : keys) {
+        const bool isKept =
+            key == QLatin1String("body")
+            || std::find(std::begin(headKeys), std::end(headKeys), key) != std::end(headKeys);
+        if (!isKept && first->value(key) == second->value(key)) {
+            first->remove(key);
+            second->remove(key);
+        }
+    }
+    return {Writer(project).write(*first), Writer(project).write(*second)};
 }
 
 QString readableName(const QString &path, const QByteArray &bytes)

@@ -26,7 +26,7 @@ bool isThere(const core::Project &project, const QString &path)
 }
 
 /// The deleted things of one step: each below its parent, when that went along with it.
-std::vector<DeletedItem> itemsOf(const std::vector<FileChange> &files)
+std::vector<DeletedItem> itemsOf(const core::Project &project, const std::vector<FileChange> &files)
 {
     const ReadContents read = contentsOf(files);
     std::map<QString, core::ContentId> parents; // of documents
@@ -52,7 +52,7 @@ std::vector<DeletedItem> itemsOf(const std::vector<FileChange> &files)
             const auto [file, depth] = open.back();
             open.pop_back();
             items.push_back({file->path, readableName(file->path, *file->bytes),
-                             readableFile(*file->bytes), depth});
+                             readableFile(*file->bytes, &project), depth});
             const auto below = children.find(objectIdOf(file->path));
             if (below == children.end())
                 continue;
@@ -219,7 +219,7 @@ std::vector<DeletedGroup> RecentlyDeleted::groups()
                 files.push_back({file.path, file.bytes});
             listed.insert(file.path);
         }
-        DeletedGroup group{step.time, step.label, itemsOf(files)};
+        DeletedGroup group{step.time, step.label, itemsOf(project, files)};
         if (!group.items.empty())
             groups.push_back(std::move(group));
     }

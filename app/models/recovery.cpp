@@ -2,7 +2,6 @@
 
 #include "app/base/files.h"
 #include "app/base/sha256.h"
-#include "app/models/readablefile.h"
 #include "app/models/workspace.h"
 #include "app/storage/journalshelf.h"
 #include "app/storage/jsonmerge.h"
@@ -116,9 +115,8 @@ public:
             return; // the project has all of it, and more
         recovered.name = readableName(path, file.change.bytes ? *file.change.bytes
                                                               : present.value_or(QByteArray()));
-        recovered.before = present ? readableFile(*present) : QString();
-        recovered.after =
-            recovered.change.bytes ? readableFile(*recovered.change.bytes) : QString();
+        recovered.versions =
+            readableVersions(present, recovered.change.bytes, &m_project.project());
         files.push_back(std::move(recovered));
     }
 

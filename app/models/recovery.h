@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/newcontents.h"
+#include "app/models/readablefile.h"
 #include "app/storage/journal.h"
 
 #include <QtCore/QCoreApplication>
@@ -28,9 +29,10 @@ struct RecoveredFile
 
     FileChange change;
     Way way = Way::AsItWas;
-    QString name;   ///< its title or name
-    QString before; ///< as it is in the project, for people; empty when it is not there
-    QString after;  ///< as it comes back; empty when it was deleted
+    QString name; ///< its title or name
+    /// As it is in the project, empty when it is not there, and as it comes back, empty when it was
+    /// deleted.
+    ReadableVersions versions;
 };
 
 /// What was not saved when the program was cut off, held against the project as it stands.

@@ -91,11 +91,13 @@ void DamagedProjectDialog::showFile(int row)
     if (row < 0)
         return;
     const app::LeftOutFile &file = m_project.leftOut[std::size_t(row)];
-    if (const app::ConflictingCopy *conflict = conflictOf(file.path))
-        m_details->show(app::readableFile(conflict->originalBytes),
-                        app::readableFile(conflict->bytes));
-    else
+    if (const app::ConflictingCopy *conflict = conflictOf(file.path)) {
+        const app::ReadableVersions versions =
+            app::readableVersions(conflict->originalBytes, conflict->bytes);
+        m_details->show(versions.before, versions.after);
+    } else {
         m_details->showPlain(file.reason);
+    }
 }
 
 void DamagedProjectDialog::addAnswers(QLayout *layout)

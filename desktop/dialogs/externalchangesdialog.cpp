@@ -19,9 +19,9 @@ namespace vl::desktop {
 
 ExternalChangesDialog::ExternalChangesDialog(const app::OutsideState &state,
                                              std::vector<app::ReconcileEntry> entries,
-                                             QWidget *parent)
+                                             const app::Workspace *workspace, QWidget *parent)
     : QDialog(parent)
-    , m_model(state, std::move(entries))
+    , m_model(state, std::move(entries), workspace)
     , m_files(new QTreeView(this))
     , m_pages(new QStackedWidget(this))
     , m_differences(new DifferenceView(this))
@@ -179,8 +179,10 @@ void ExternalChangesDialog::showFile()
     m_edit->setToolTip(m_edit->isEnabled()
                            ? QString()
                            : tr("The versions of this file cannot be edited into one text."));
-    if (isThere)
-        m_differences->show(m_model.myText(current), m_model.theirText(current));
+    if (isThere) {
+        const app::ReadableVersions versions = m_model.versions(current);
+        m_differences->show(versions.before, versions.after);
+    }
 }
 
 void ExternalChangesDialog::chooseMine()

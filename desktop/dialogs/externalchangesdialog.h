@@ -21,8 +21,9 @@ class ExternalChangesDialog final : public QDialog
     Q_OBJECT
 
 public:
+    /// As for the model.
     ExternalChangesDialog(const app::OutsideState &state, std::vector<app::ReconcileEntry> entries,
-                          QWidget *parent);
+                          const app::Workspace *workspace, QWidget *parent);
 
     /// The entries as they were decided.
     std::vector<app::ReconcileEntry> resolution() const { return m_model.resolution(); }

@@ -34,7 +34,8 @@ QString stateOf(const app::RecoveredFile &file)
     }
     if (!file.change.bytes)
         return RecoveryDialog::tr("deleted");
-    return file.before.isEmpty() ? RecoveryDialog::tr("new") : RecoveryDialog::tr("changed");
+    return file.versions.before.isEmpty() ? RecoveryDialog::tr("new")
+                                          : RecoveryDialog::tr("changed");
 }
 
 QString explanationOf(const app::RecoveredFile &file)
@@ -57,8 +58,8 @@ QString explanationOf(const app::RecoveredFile &file)
     }
     if (!file.change.bytes)
         return RecoveryDialog::tr("It was deleted. Restoring deletes it again.");
-    return file.before.isEmpty() ? RecoveryDialog::tr("It is not in the project.")
-                                 : RecoveryDialog::tr("Nobody changed it since.");
+    return file.versions.before.isEmpty() ? RecoveryDialog::tr("It is not in the project.")
+                                          : RecoveryDialog::tr("Nobody changed it since.");
 }
 
 } // namespace
@@ -170,7 +171,7 @@ void RecoveryDialog::showChosen()
         return;
     const app::RecoveredFile &file = m_recovery.files()[std::size_t(row)];
     m_way->setText(explanationOf(file));
-    m_difference->show(file.before, file.after);
+    m_difference->show(file.versions.before, file.versions.after);
 }
 
 void RecoveryDialog::updateButtons()

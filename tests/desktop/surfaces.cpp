@@ -150,7 +150,8 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
     add("RestoreDocumentDialog", [text](Desk &desk) {
         app::BackupDocument document;
         document.title = text;
-        document.after = QStringLiteral("The lamps of Vessarine were lit from the water upward.");
+        document.versions.after =
+            QStringLiteral("The lamps of Vessarine were lit from the water upward.");
         return new desktop::RestoreDocumentDialog({document}, &desk.window);
     });
     add("BackupsDialog", [](Desk &desk) {
@@ -202,7 +203,7 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
         entry.localText = QStringLiteral("{\"title\": \"mine\"}");
         entry.remoteText = QStringLiteral("{\"title\": \"theirs\"}");
         entry.conflictText = *entry.localText;
-        return new desktop::ExternalChangesDialog({}, {entry}, &desk.window);
+        return new desktop::ExternalChangesDialog({}, {entry}, nullptr, &desk.window);
     });
 }
 

@@ -8,6 +8,7 @@
 #include "app/storage/projectreader.h"
 #include "app/storage/projectwriter.h"
 #include "app/storage/repair.h"
+#include "app/time/calendartext.h"
 #include "core/content/document.h"
 #include "tests/support/fakeprompts.h"
 #include "tests/support/folders.h"
@@ -72,6 +73,7 @@ private Q_SLOTS:
     void flow();
     void readableFiles_data();
     void readableFiles();
+    void readableVersions();
 
 private:
     QString at(const QString &name) const { return m_folder->filePath(name); }
@@ -376,13 +378,29 @@ void TestRepair::readableFiles_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("no JSON") << QByteArray("half {") << "half {";
     QTest::newRow("fields") << QByteArray("{\"a\": \"x\", \"b\": 9007199254740993, \"c\": true}")
-                            << "a: x\nb: 9007199254740993\nc: true\n";
+                            << "A: x\nB: 9007199254740993\nC: yes\n";
+    QTest::newRow("the words of the inspector, the title first, the text last")
+        << QByteArray("{\"body\": \"It rains.\", \"pointOfView\": \"Mara\", \"id\": \"x\","
+                      " \"kind\": \"note\", \"wordCountTarget\": 5, \"title\": \"Rain\","
+                      " \"type\": \"document\"}")
+        << "Title: Rain\nKind: Note\nPoint of view: Mara\nWord-count target: 5\n\nIt rains.\n";
+    QTest::newRow("nothing but a name for programs")
+        << QByteArray("{\"id\": \"x\", \"aiExcluded\": false, \"synopsis\": \"\"}") << "(empty)\n";
+    QTest::newRow("what its category calls its fields")
+        << QByteArray("{\"values\": {\"öL\": \"x\", \"b\": \"one\\ntwo\"}}")
+        << "Details:\n  b:\n    one\n    two\n  öL: x\n";
+    QTest::newRow("other objects")
+        << QByteArray("{\"sourceIds\": [\"3e74b8f6-0002-4002-9abc-0123456789ab\"]}")
+        << "Sources: another object (3e74b8f6)\n";
     QTest::newRow("text of several lines")
-        << QByteArray("{\"body\": \"one\\ntwo\"}") << "body: \none\ntwo\n";
+        << QByteArray("{\"synopsis\": \"one\\ntwo\"}") << "Synopsis:\n  one\n  two\n";
     QTest::newRow("lists") << QByteArray("{\"tags\": [\"x\", \"y\"], \"none\": []}")
-                           << "tags: \n  x\n  y\n";
+                           << "Tags: x, y\n";
     QTest::newRow("lists of objects")
-        << QByteArray("{\"notes\": [{\"id\": \"1\"}]}") << "notes: \n  •: \n    id: 1\n";
+        << QByteArray(
+               "{\"footnotes\": [{\"id\": \"1\", \"text\": \"She waits.\", \"endnote\": true},"
+               " {\"id\": \"2\", \"endnote\": false, \"text\": \"Or\\nnot.\"}]}")
+        << "Footnotes:\n  • She waits., Endnote: yes, Mark: 1\n  • Mark: 2\n    Or\n    not.\n";
 }
 
 void TestRepair::readableFiles()
@@ -390,6 +408,27 @@ void TestRepair::readableFiles()
     QFETCH(QByteArray, bytes);
     QFETCH(QString, text);
     QCOMPARE(readableFile(bytes), text);
+}
+
+void TestRepair::readableVersions()
+{
+    core::Project project;
+    const core::ContentId place = numberedId(1);
+    QVERIFY(project.add(std::make_unique<core::Document>(place, core::DocumentKind::Prose,
+                                                         QStringLiteral("Chapter 1"))));
+    const QByteArray here = R"({"title": "Rain", "body": "a\nb\n", "tensionLevel": 4,
+        "tags": ["x"], "sceneInstant": 0})";
+    const QByteArray there = R"({"title": "Rain", "body": "a\nc\n", "tensionLevel": 4,
+        "tags": ["y"], "sceneInstant": 0, "parentId": "%1"})";
+    const ReadableVersions both = app::readableVersions(
+        here, QString::fromUtf8(there).arg(place.toString()).toUtf8(), &project);
+    QCOMPARE(both.before, QStringLiteral("Title: Rain\nTags: x\n\na\nb\n"));
+    QCOMPARE(both.after, QStringLiteral("Title: Rain\nUnder: Chapter 1\nTags: y\n\na\nc\n"));
+    // One that is alone is told whole, with its date.
+    const ReadableVersions gone = app::readableVersions(here, std::nullopt, &project);
+    QVERIFY(gone.after.isNull());
+    QVERIFY(gone.before.contains(QStringLiteral("Tension: 4\n")));
+    QVERIFY(gone.before.contains(formatInstant(project.calendar(), 0)));
 }
 
 QTEST_GUILESS_MAIN(TestRepair)
