@@ -359,6 +359,10 @@
         <source>Recently &amp;Deleted…</source>
         <translation>Recently &amp;Deleted…</translation>
     </message>
+    <message>
+        <source>Unsaved &amp;Work…</source>
+        <translation>Unsaved &amp;Work…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -3532,6 +3536,14 @@ Do you want to delete it anyway?</translation>
         <source>%1 (read-only)</source>
         <translation>%1 (read-only)</translation>
     </message>
+    <message>
+        <source>“%1” was opened to be read only. Save it under another name first; pictures are kept beside the text.</source>
+        <translation>“%1” was opened to be read only. Save it under another name first; pictures are kept beside the text.</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>Cannot create project folder: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::Opening</name>
@@ -4065,6 +4077,18 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Restore unsaved work</source>
         <translation>Restore unsaved work</translation>
+    </message>
+    <message>
+        <source>%1 (unsaved work)</source>
+        <translation>%1 (unsaved work)</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>Cannot write file: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
     </message>
 </context>
 <context>
@@ -6143,6 +6167,106 @@ What is said.
     </message>
 </context>
 <context>
+    <name>vl::desktop::CrashRecovery</name>
+    <message>
+        <source>⚠ Not safe from a crash: %1</source>
+        <translation>⚠ Not safe from a crash: %1</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be written to %1: %2. It is tried again every second; what you save is safe.</source>
+        <translation>What is not saved cannot be written to %1: %2. It is tried again every second; what you save is safe.</translation>
+    </message>
+    <message>
+        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
+        <translation>Ivorel was cut off before all was saved. Unsaved work was found: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Compare and Restore…</source>
+        <translation>&amp;Compare and Restore…</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restore</translation>
+    </message>
+    <message>
+        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
+        <translation>A project that was never saved was found after Ivorel was cut off: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Look and Restore…</source>
+        <translation>&amp;Look and Restore…</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Discard</translation>
+    </message>
+    <message>
+        <source>Unsaved work of “%1” was found after Ivorel was cut off: %2.</source>
+        <translation>Unsaved work of “%1” was found after Ivorel was cut off: %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Open “%1”</source>
+        <translation>&amp;Open “%1”</translation>
+    </message>
+    <message>
+        <source>Unsaved work of “%1” was found after Ivorel was cut off: %2. The project is not there any more: %3</source>
+        <translation>Unsaved work of “%1” was found after Ivorel was cut off: %2. The project is not there any more: %3</translation>
+    </message>
+    <message>
+        <source>&amp;Find the Project…</source>
+        <translation>&amp;Find the Project…</translation>
+    </message>
+    <message>
+        <source>Restore as a &amp;New Project</source>
+        <translation>Restore as a &amp;New Project</translation>
+    </message>
+    <message numerus="yes">
+        <source>Discarded. File › Unsaved Work… keeps it for %n day(s).</source>
+        <translation><numerusform>Discarded. File › Unsaved Work… keeps it for %n day.</numerusform><numerusform>Discarded. File › Unsaved Work… keeps it for %n days.</numerusform></translation>
+    </message>
+    <message>
+        <source>Unsaved Work</source>
+        <translation>Unsaved Work</translation>
+    </message>
+    <message>
+        <source>What was found cannot be read, and nothing was restored.</source>
+        <translation>What was found cannot be read, and nothing was restored.</translation>
+    </message>
+    <message>
+        <source>The unsaved work is restored.</source>
+        <translation>The unsaved work is restored.</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>not decided</source>
+        <translation>not decided</translation>
+    </message>
+    <message>
+        <source>%1 (%2): %3</source>
+        <comment>project, time, what it holds</comment>
+        <translation>%1 (%2): %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing unsaved was found in the last %n day(s).</source>
+        <translation><numerusform>Nothing unsaved was found in the last %n day.</numerusform><numerusform>Nothing unsaved was found in the last %n days.</numerusform></translation>
+    </message>
+    <message>
+        <source>Work that was not saved when Ivorel was cut off:</source>
+        <translation>Work that was not saved when Ivorel was cut off:</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Show</translation>
+    </message>
+    <message>
+        <source>All of it is in the project.</source>
+        <translation>All of it is in the project.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DamagedProjectDialog</name>
     <message>
         <source>Open Project</source>
@@ -6475,12 +6599,20 @@ What is said.
         <translation>Typing</translation>
     </message>
     <message>
-        <source>Turn straight &amp;quotes and dashes into typographic ones</source>
-        <translation>Turn straight &amp;quotes and dashes into typographic ones</translation>
+        <source>Typographic &amp;quotes and dashes</source>
+        <translation>Typographic &amp;quotes and dashes</translation>
     </message>
     <message>
-        <source>&amp;Typewriter scrolling: keep the line being written at the same height</source>
-        <translation>&amp;Typewriter scrolling: keep the line being written at the same height</translation>
+        <source>Turns straight ones into them as you type.</source>
+        <translation>Turns straight ones into them as you type.</translation>
+    </message>
+    <message>
+        <source>T&amp;ypewriter scrolling</source>
+        <translation>T&amp;ypewriter scrolling</translation>
+    </message>
+    <message>
+        <source>Keeps the line being written at the same height.</source>
+        <translation>Keeps the line being written at the same height.</translation>
     </message>
 </context>
 <context>
@@ -6545,10 +6677,6 @@ What is said.
     <message>
         <source>Insert Picture</source>
         <translation>Insert Picture</translation>
-    </message>
-    <message>
-        <source>Save the project first. Pictures are kept in its folder, beside the text.</source>
-        <translation>Save the project first. Pictures are kept in its folder, beside the text.</translation>
     </message>
 </context>
 <context>
@@ -7224,6 +7352,10 @@ What is said.
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
+    <message>
+        <source>What needs attention</source>
+        <translation>What needs attention</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ObjectTree</name>
@@ -7413,38 +7545,6 @@ What is said.
         <translation>The document is restored.</translation>
     </message>
     <message>
-        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
-        <translation>Ivorel was cut off before all was saved. Unsaved work was found: %1.</translation>
-    </message>
-    <message>
-        <source>Compare and Restore…</source>
-        <translation>Compare and Restore…</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <translation>Restore</translation>
-    </message>
-    <message>
-        <source>The unsaved work is restored.</source>
-        <translation>The unsaved work is restored.</translation>
-    </message>
-    <message>
-        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
-        <translation>A project that was never saved was found after Ivorel was cut off: %1.</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Discard</translation>
-    </message>
-    <message>
-        <source>Discard the project that was never saved?</source>
-        <translation>Discard the project that was never saved?</translation>
-    </message>
-    <message>
-        <source>What was written in it is lost.</source>
-        <translation>What was written in it is lost.</translation>
-    </message>
-    <message>
         <source>What was deleted is restored.</source>
         <translation>What was deleted is restored.</translation>
     </message>
@@ -7559,8 +7659,48 @@ What is said.
         <translation>new</translation>
     </message>
     <message>
-        <source>%1; the project’s is newer</source>
-        <translation>%1; the project’s is newer</translation>
+        <source>merged</source>
+        <translation>merged</translation>
+    </message>
+    <message>
+        <source>beside the newer one</source>
+        <translation>beside the newer one</translation>
+    </message>
+    <message>
+        <source>the project’s is newer</source>
+        <translation>the project’s is newer</translation>
+    </message>
+    <message>
+        <source>It was changed since in other places. Both are kept in it.</source>
+        <translation>It was changed since in other places. Both are kept in it.</translation>
+    </message>
+    <message>
+        <source>It was changed since in the same places. The unsaved work comes back beside it, as “%1 (unsaved work)”.</source>
+        <translation>It was changed since in the same places. The unsaved work comes back beside it, as “%1 (unsaved work)”.</translation>
+    </message>
+    <message>
+        <source>It was changed since. Restoring puts the unsaved work in place of that.</source>
+        <translation>It was changed since. Restoring puts the unsaved work in place of that.</translation>
+    </message>
+    <message>
+        <source>It was deleted before the program was cut off, and changed since. Restoring deletes it.</source>
+        <translation>It was deleted before the program was cut off, and changed since. Restoring deletes it.</translation>
+    </message>
+    <message>
+        <source>It was deleted. Restoring deletes it again.</source>
+        <translation>It was deleted. Restoring deletes it again.</translation>
+    </message>
+    <message>
+        <source>It is not in the project.</source>
+        <translation>It is not in the project.</translation>
+    </message>
+    <message>
+        <source>Nobody changed it since.</source>
+        <translation>Nobody changed it since.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It can be brought back for %n day(s) by File › Unsaved Work….</source>
+        <translation><numerusform>It can be brought back for %n day by File › Unsaved Work….</numerusform><numerusform>It can be brought back for %n days by File › Unsaved Work….</numerusform></translation>
     </message>
 </context>
 <context>

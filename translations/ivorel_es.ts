@@ -359,6 +359,10 @@
         <source>Recently &amp;Deleted…</source>
         <translation>&amp;Eliminado recientemente…</translation>
     </message>
+    <message>
+        <source>Unsaved &amp;Work…</source>
+        <translation>&amp;Trabajo sin guardar…</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -3532,6 +3536,14 @@ Do you want to delete it anyway?</source>
         <source>%1 (read-only)</source>
         <translation>%1 (solo lectura)</translation>
     </message>
+    <message>
+        <source>“%1” was opened to be read only. Save it under another name first; pictures are kept beside the text.</source>
+        <translation>«%1» se abrió solo para leer. Guárdelo antes con otro nombre; las imágenes se guardan junto al texto.</translation>
+    </message>
+    <message>
+        <source>Cannot create project folder: %1</source>
+        <translation>No se puede crear la carpeta del proyecto: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::Opening</name>
@@ -4065,6 +4077,18 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Restore unsaved work</source>
         <translation>Restaurar el trabajo sin guardar</translation>
+    </message>
+    <message>
+        <source>%1 (unsaved work)</source>
+        <translation>%1 (trabajo sin guardar)</translation>
+    </message>
+    <message>
+        <source>Cannot write file: %1</source>
+        <translation>No se puede escribir el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
     </message>
 </context>
 <context>
@@ -6143,6 +6167,106 @@ Lo que se dice.
     </message>
 </context>
 <context>
+    <name>vl::desktop::CrashRecovery</name>
+    <message>
+        <source>⚠ Not safe from a crash: %1</source>
+        <translation>⚠ Sin protección ante un cierre inesperado: %1</translation>
+    </message>
+    <message>
+        <source>What is not saved cannot be written to %1: %2. It is tried again every second; what you save is safe.</source>
+        <translation>Lo que no está guardado no se puede escribir en %1: %2. Se vuelve a intentar cada segundo; lo que guarde está a salvo.</translation>
+    </message>
+    <message>
+        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
+        <translation>Ivorel se interrumpió antes de guardarlo todo. Se encontró trabajo sin guardar: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Compare and Restore…</source>
+        <translation>&amp;Comparar y recuperar…</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
+        <translation>Se encontró un proyecto nunca guardado tras la interrupción de Ivorel: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Look and Restore…</source>
+        <translation>&amp;Ver y recuperar…</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Unsaved work of “%1” was found after Ivorel was cut off: %2.</source>
+        <translation>Se encontró trabajo sin guardar de «%1», de cuando Ivorel se cerró de golpe: %2.</translation>
+    </message>
+    <message>
+        <source>&amp;Open “%1”</source>
+        <translation>&amp;Abrir «%1»</translation>
+    </message>
+    <message>
+        <source>Unsaved work of “%1” was found after Ivorel was cut off: %2. The project is not there any more: %3</source>
+        <translation>Se encontró trabajo sin guardar de «%1», de cuando Ivorel se cerró de golpe: %2. El proyecto ya no está: %3</translation>
+    </message>
+    <message>
+        <source>&amp;Find the Project…</source>
+        <translation>&amp;Buscar el proyecto…</translation>
+    </message>
+    <message>
+        <source>Restore as a &amp;New Project</source>
+        <translation>Recuperar como proyecto &amp;nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>Discarded. File › Unsaved Work… keeps it for %n day(s).</source>
+        <translation><numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n día.</numerusform><numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n días.</numerusform></translation>
+    </message>
+    <message>
+        <source>Unsaved Work</source>
+        <translation>Trabajo sin guardar</translation>
+    </message>
+    <message>
+        <source>What was found cannot be read, and nothing was restored.</source>
+        <translation>Lo que se encontró no se puede leer y no se recuperó nada.</translation>
+    </message>
+    <message>
+        <source>The unsaved work is restored.</source>
+        <translation>El trabajo sin guardar se ha restaurado.</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>not decided</source>
+        <translation>sin decidir</translation>
+    </message>
+    <message>
+        <source>%1 (%2): %3</source>
+        <comment>project, time, what it holds</comment>
+        <translation>%1 (%2): %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>Nothing unsaved was found in the last %n day(s).</source>
+        <translation><numerusform>No se encontró nada sin guardar en el último día.</numerusform><numerusform>No se encontró nada sin guardar en los últimos %n días.</numerusform></translation>
+    </message>
+    <message>
+        <source>Work that was not saved when Ivorel was cut off:</source>
+        <translation>Trabajo que no estaba guardado cuando Ivorel se cerró de golpe:</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>All of it is in the project.</source>
+        <translation>Todo ello está en el proyecto.</translation>
+    </message>
+</context>
+<context>
     <name>vl::desktop::DamagedProjectDialog</name>
     <message>
         <source>Open Project</source>
@@ -6475,12 +6599,20 @@ Lo que se dice.
         <translation>Escritura</translation>
     </message>
     <message>
-        <source>Turn straight &amp;quotes and dashes into typographic ones</source>
-        <translation>Convertir las comillas y los guiones rectos en tipo&amp;gráficos</translation>
+        <source>Typographic &amp;quotes and dashes</source>
+        <translation>&amp;Comillas y rayas tipográficas</translation>
     </message>
     <message>
-        <source>&amp;Typewriter scrolling: keep the line being written at the same height</source>
-        <translation>Desplazamiento de &amp;máquina de escribir: mantener la línea que se escribe a la misma altura</translation>
+        <source>Turns straight ones into them as you type.</source>
+        <translation>Convierte las rectas mientras escribe.</translation>
+    </message>
+    <message>
+        <source>T&amp;ypewriter scrolling</source>
+        <translation>Desplazamiento de má&amp;quina de escribir</translation>
+    </message>
+    <message>
+        <source>Keeps the line being written at the same height.</source>
+        <translation>Mantiene a la misma altura la línea que se escribe.</translation>
     </message>
 </context>
 <context>
@@ -6545,10 +6677,6 @@ Lo que se dice.
     <message>
         <source>Insert Picture</source>
         <translation>Insertar imagen</translation>
-    </message>
-    <message>
-        <source>Save the project first. Pictures are kept in its folder, beside the text.</source>
-        <translation>Guarde primero el proyecto. Las imágenes se guardan en su carpeta, junto al texto.</translation>
     </message>
 </context>
 <context>
@@ -7224,6 +7352,10 @@ Lo que se dice.
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
+    <message>
+        <source>What needs attention</source>
+        <translation>Lo que pide atención</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ObjectTree</name>
@@ -7413,38 +7545,6 @@ Lo que se dice.
         <translation>El documento se ha restaurado.</translation>
     </message>
     <message>
-        <source>Ivorel was cut off before all was saved. Unsaved work was found: %1.</source>
-        <translation>Ivorel se interrumpió antes de guardarlo todo. Se encontró trabajo sin guardar: %1.</translation>
-    </message>
-    <message>
-        <source>Compare and Restore…</source>
-        <translation>Comparar y restaurar…</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <translation>Restaurar</translation>
-    </message>
-    <message>
-        <source>The unsaved work is restored.</source>
-        <translation>El trabajo sin guardar se ha restaurado.</translation>
-    </message>
-    <message>
-        <source>A project that was never saved was found after Ivorel was cut off: %1.</source>
-        <translation>Se encontró un proyecto nunca guardado tras la interrupción de Ivorel: %1.</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Discard the project that was never saved?</source>
-        <translation>¿Descartar el proyecto que nunca se guardó?</translation>
-    </message>
-    <message>
-        <source>What was written in it is lost.</source>
-        <translation>Lo escrito en él se pierde.</translation>
-    </message>
-    <message>
         <source>What was deleted is restored.</source>
         <translation>Lo eliminado se ha restaurado.</translation>
     </message>
@@ -7559,8 +7659,48 @@ Lo que se dice.
         <translation>nuevo</translation>
     </message>
     <message>
-        <source>%1; the project’s is newer</source>
-        <translation>%1; el del proyecto es más reciente</translation>
+        <source>merged</source>
+        <translation>fusionado</translation>
+    </message>
+    <message>
+        <source>beside the newer one</source>
+        <translation>junto al más reciente</translation>
+    </message>
+    <message>
+        <source>the project’s is newer</source>
+        <translation>el del proyecto es más reciente</translation>
+    </message>
+    <message>
+        <source>It was changed since in other places. Both are kept in it.</source>
+        <translation>Desde entonces cambió en otros lugares. Se conservan ambos cambios.</translation>
+    </message>
+    <message>
+        <source>It was changed since in the same places. The unsaved work comes back beside it, as “%1 (unsaved work)”.</source>
+        <translation>Desde entonces cambió en los mismos lugares. El trabajo sin guardar vuelve a su lado, como «%1 (trabajo sin guardar)».</translation>
+    </message>
+    <message>
+        <source>It was changed since. Restoring puts the unsaved work in place of that.</source>
+        <translation>Cambió desde entonces. Al recuperar, el trabajo sin guardar ocupa su lugar.</translation>
+    </message>
+    <message>
+        <source>It was deleted before the program was cut off, and changed since. Restoring deletes it.</source>
+        <translation>Se eliminó antes del cierre inesperado y cambió después. Al recuperar se elimina.</translation>
+    </message>
+    <message>
+        <source>It was deleted. Restoring deletes it again.</source>
+        <translation>Se había eliminado. Al recuperar se elimina de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is not in the project.</source>
+        <translation>No está en el proyecto.</translation>
+    </message>
+    <message>
+        <source>Nobody changed it since.</source>
+        <translation>Nadie lo cambió desde entonces.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It can be brought back for %n day(s) by File › Unsaved Work….</source>
+        <translation><numerusform>Se puede recuperar durante %n día con Archivo › Trabajo sin guardar….</numerusform><numerusform>Se puede recuperar durante %n días con Archivo › Trabajo sin guardar….</numerusform></translation>
     </message>
 </context>
 <context>
