@@ -85,11 +85,11 @@
     </message>
     <message>
         <source>Save as Content &amp;Pack…</source>
-        <translation>Guardar como paquete de cont&amp;enido…</translation>
+        <translation>Guardar como paquete de contenido…</translation>
     </message>
     <message>
         <source>Apply &amp;Content Pack…</source>
-        <translation>Apl&amp;icar un paquete de contenido…</translation>
+        <translation>Aplicar un paq&amp;uete de contenido…</translation>
     </message>
     <message>
         <source>&amp;Back Up Project Now</source>
@@ -337,7 +337,7 @@
     </message>
     <message>
         <source>Bac&amp;kups…</source>
-        <translation>Copias de se&amp;guridad…</translation>
+        <translation>Copias &amp;de seguridad…</translation>
     </message>
     <message>
         <source>Bold</source>
@@ -361,7 +361,7 @@
     </message>
     <message>
         <source>Unsaved &amp;Work…</source>
-        <translation>&amp;Trabajo sin guardar…</translation>
+        <translation>Traba&amp;jo sin guardar…</translation>
     </message>
 </context>
 <context>
@@ -6251,7 +6251,7 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Nothing unsaved was found in the last %n day(s).</source>
-        <translation><numerusform>No se encontró nada sin guardar en el último día.</numerusform><numerusform>No se encontró nada sin guardar en los últimos %n días.</numerusform></translation>
+        <translation><numerusform>No se encontró nada sin guardar en el último %n día.</numerusform><numerusform>No se encontró nada sin guardar en los últimos %n días.</numerusform></translation>
     </message>
     <message>
         <source>Work that was not saved when Ivorel was cut off:</source>
@@ -6757,7 +6757,7 @@ Lo que se dice.
     </message>
     <message>
         <source>To be filled for every &amp;entity</source>
-        <translation>Se debe rellenar en cada &amp;entidad</translation>
+        <translation>Se debe rellenar en cada enti&amp;dad</translation>
     </message>
     <message>
         <source>Options, one a line</source>
@@ -8188,7 +8188,7 @@ Lo que se dice.
     </message>
     <message>
         <source>&amp;Recent Projects</source>
-        <translation>Proyec&amp;tos recientes</translation>
+        <translation>Pro&amp;yectos recientes</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -8204,7 +8204,7 @@ Lo que se dice.
     </message>
     <message>
         <source>Appl&amp;y Layout</source>
-        <translation>A&amp;plicar disposición</translation>
+        <translation>Aplicar disposició&amp;n</translation>
     </message>
 </context>
 </TS>

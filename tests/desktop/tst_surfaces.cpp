@@ -90,12 +90,6 @@ public:
             QStringLiteral("&Generate Image…"),
             QStringLiteral("Generate &Speech…"),
             QStringLiteral("Batch AI Co&mmand…"),
-            QStringLiteral("Copias de se&guridad…"),
-            QStringLiteral("Apl&icar un paquete de contenido…"),
-            QStringLiteral("Guardar como paquete de cont&enido…"),
-            QStringLiteral("Proyec&tos recientes"),
-            QStringLiteral("A&plicar disposición"),
-            QStringLiteral("Se debe rellenar en cada &entidad"),
         };
         const QKeySequence keys = QKeySequence::mnemonic(text);
         if (keys.isEmpty() || settled.contains(text))
