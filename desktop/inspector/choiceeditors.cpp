@@ -5,6 +5,7 @@
 
 #include <QtCore/QLocale>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
@@ -161,14 +162,35 @@ QVariant OpenChoiceFieldEditor::typed() const
 CheckFieldEditor::CheckFieldEditor(const app::InspectorField &field,
                                    const FieldEditorContext &context, QWidget *parent)
     : FieldEditor(field, context, parent)
-    , m_box(new QCheckBox(field.label, this))
+    , m_box(new QCheckBox(this))
+    , m_text(new QLabel(field.label, this))
 {
+    // Texts of check boxes do not wrap, and the panel may be narrow.
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_text->installEventFilter(this);
+    auto *row = new QWidget(this);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(grid(1));
+    layout->addWidget(m_box, 0, Qt::AlignTop);
+    layout->addWidget(m_text, 1);
     connect(m_box, &QCheckBox::clicked, this, [this] {
         m_box->setTristate(false);
         touch();
         commit();
     });
-    setControl(m_box);
+    setControl(row, m_box);
+}
+
+bool CheckFieldEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_text)
+        return FieldEditor::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonRelease
+        && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+        m_box->click();
+    return false;
 }
 
 void CheckFieldEditor::showValue()

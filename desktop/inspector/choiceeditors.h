@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QProgressBar;
 class QSlider;
 class QSpinBox;
@@ -58,9 +59,11 @@ public:
 protected:
     void showValue() override;
     QVariant typed() const override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QCheckBox *m_box;
+    QLabel *m_text;
 };
 
 /// A step between 0 and 10, 0 standing for none.

@@ -5,6 +5,7 @@
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHBoxLayout>
@@ -48,12 +49,12 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
     m_search->setPlaceholderText(tr("Search preferences"));
     m_search->setAccessibleName(tr("Search preferences"));
     m_search->setClearButtonEnabled(true);
+    m_list->setObjectName(QStringLiteral("pages"));
     m_list->setAccessibleName(tr("Pages"));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_nothing->setWordWrap(true);
     m_nothing->hide();
-    QFont font = m_title->font();
-    font.setPointSizeF(font.pointSizeF() * titleScale);
-    m_title->setFont(font);
+    m_title->setContentsMargins(grid(1), 0, 0, 0); // where the texts of the pages begin
 
     auto *side = new QVBoxLayout;
     side->setSpacing(grid(2));
@@ -69,6 +70,7 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
     middle->addLayout(side, 2);
     middle->addLayout(page, 5);
 
+    addPages(context); // before the buttons: Tab goes from the list into the page
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *reset = buttons->addButton(tr("&Reset Page"), QDialogButtonBox::ResetRole);
     reset->setAutoDefault(false);
@@ -80,7 +82,6 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
     layout->addLayout(middle, 1);
     layout->addWidget(buttons);
 
-    addPages(context);
     connect(m_search, &QLineEdit::textChanged, this, &PreferencesDialog::find);
     connect(m_list, &QListWidget::currentRowChanged, this, &PreferencesDialog::showPage);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
@@ -88,6 +89,7 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
         if (PreferencesPage *shown = m_pages.value(m_stack->currentIndex()))
             shown->reset();
     });
+    fitFont();
     m_list->setCurrentRow(0);
     m_search->setFocus();
     sizeDialog(this, 200, 144);
@@ -121,6 +123,23 @@ void PreferencesDialog::addPages(const PreferencesContext &context)
         m_list->addItem(new QListWidgetItem(icon(QLatin1String(row.icon)),
                                             QCoreApplication::translate("Preferences", row.title)));
     }
+}
+
+void PreferencesDialog::fitFont()
+{
+    QFont larger = font();
+    larger.setPointSizeF(larger.pointSizeF() * titleScale);
+    m_title->setFont(larger);
+    const int hint = fontMetrics().horizontalAdvance(m_search->placeholderText()) + grid(4);
+    m_list->setMinimumWidth(qMax(hint, m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth()));
+}
+
+void PreferencesDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    // The list hears of the font after the dialog.
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        QMetaObject::invokeMethod(this, &PreferencesDialog::fitFont, Qt::QueuedConnection);
 }
 
 void PreferencesDialog::find(const QString &text)

@@ -22,8 +22,13 @@ public:
     /// Opens the dialog over the window, or brings the open one to the front.
     static void open(const PreferencesContext &context, QWidget *window);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void addPages(const PreferencesContext &context);
+    /// Keeps the names of the pages whole and their title larger, whatever the font.
+    void fitFont();
     void find(const QString &text);
     void showPage(int index);
 

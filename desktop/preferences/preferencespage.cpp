@@ -19,7 +19,7 @@ PreferencesPage::PreferencesPage(const PreferencesContext &context, QWidget *par
     , m_context(context)
     , m_column(new QVBoxLayout(this))
 {
-    m_column->setContentsMargins(0, 0, 0, 0);
+    m_column->setContentsMargins(grid(1), grid(1), grid(1), grid(1)); // room for the focus ring
     m_column->setSpacing(grid(4));
 }
 

@@ -66,6 +66,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
     connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
+    connect(&m_workspace, &app::Workspace::projectReplaced, m_panels, &PanelHost::focusFirst,
+            Qt::QueuedConnection); // once the panels show it
     m_safeKeeping = std::make_unique<SafeKeeping>(
         PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, this);
     m_care = std::make_unique<ProjectCare>(

@@ -125,15 +125,15 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     connect(
         &context.settings.changes(), &app::SettingsChanges::changed, this,
         [this](const QString &key) {
-            if (key == QLatin1String(app::settings::theme.name)
-                || key == QLatin1String(app::settings::fontScale.name))
-                drawIcons();
-            if (key == QLatin1String(app::settings::fontScale.name) && isCramped())
-                sizeAreas();
-            // The style sheet keeps the colours that the palette had.
-            if (key == QLatin1String(app::settings::theme.name)
-                && !m_manager->styleSheet().isEmpty())
+            const bool isScale = key == QLatin1String(app::settings::fontScale.name);
+            if (!isScale && key != QLatin1String(app::settings::theme.name))
+                return;
+            drawIcons();
+            // The style sheet keeps the colours that the palette had, and the font.
+            if (!m_manager->styleSheet().isEmpty())
                 m_manager->setStyleSheet(dockStyleSheet());
+            if (isScale && isCramped())
+                sizeAreas();
         },
         Qt::QueuedConnection);
     m_firstLayout = saveLayout();

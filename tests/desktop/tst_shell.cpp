@@ -1,5 +1,6 @@
 #include "app/base/settingskeys.h"
 #include "desktop/panels/catalogue.h"
+#include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
 #include "desktop/shell/maintoolbar.h"
@@ -13,8 +14,11 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QTreeView>
 
 using namespace vl;
 
@@ -78,6 +82,7 @@ private Q_SLOTS:
     void ownKeysStandOverBuiltInOnes();
     void keysAreTakenAndGivenBack();
     void theToolBarShowsWhatTheSettingsSay();
+    void theFontScaleReachesWhatIsOpen();
     void mnemonicsAreTold_data();
     void mnemonicsAreTold();
 };
@@ -434,6 +439,30 @@ void TestShell::theToolBarShowsWhatTheSettingsSay()
     QVERIFY(bar->actions().isEmpty()); // no separators are left over
     desk.settings.set(QStringLiteral("toolbars/file.open"), QStringLiteral("1"));
     QCOMPARE(bar->actions().size(), 1);
+}
+
+void TestShell::theFontScaleReachesWhatIsOpen()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(desk.window.get()));
+    desktop::PreferencesDialog dialog({desk.settings, desk.window->actions(), desk.prompts},
+                                      desk.window.get());
+    dialog.show();
+    const auto *tree = desk.window->findChild<QTreeView *>(QStringLiteral("documentsTree"));
+    const auto *pages = dialog.findChild<QListWidget *>(QStringLiteral("pages"));
+    QVERIFY(tree && pages);
+    for (const char *scale : {"2.0", "1.0"}) {
+        desk.settings.set(app::settings::fontScale, QLatin1String(scale));
+        QTRY_COMPARE(tree->font().pointSizeF(), QApplication::font().pointSizeF());
+        QTRY_VERIFY(pages->sizeHintForColumn(0) <= pages->viewport()->width());
+    }
+    // Tab goes from the names of the pages into the page that is shown.
+    QWidget *next = pages->nextInFocusChain();
+    while (!next->isVisible() || !(next->focusPolicy() & Qt::TabFocus))
+        next = next->nextInFocusChain();
+    QVERIFY(dialog.findChild<QStackedWidget *>()->isAncestorOf(next));
 }
 
 void TestShell::mnemonicsAreTold_data()

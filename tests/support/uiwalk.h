@@ -7,6 +7,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
@@ -62,10 +63,18 @@ inline QStringList unnamedControls(const QWidget *window)
 inline QStringList clippedTexts(const QWidget *window)
 {
     QStringList clipped;
-    for (const QScrollArea *area : window->findChildren<QScrollArea *>())
-        if (area->isVisible() && area->window()->inherits("QDialog")
-            && area->window() == window->window() && area->horizontalScrollBar()->maximum() > 0)
-            clipped.append(QStringLiteral("to be scrolled sideways: ") + placeOf(area));
+    for (const QScrollArea *area : window->findChildren<QScrollArea *>()) {
+        const bool mustFit = area->window()->inherits("QDialog")
+                             || area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff;
+        if (area->isVisible() && mustFit && area->window() == window->window()
+            && area->horizontalScrollBar()->maximum() > 0)
+            clipped.append(QStringLiteral("to be scrolled sideways by %1: %2")
+                               .arg(area->horizontalScrollBar()->maximum())
+                               .arg(placeOf(area)));
+    }
+    for (const auto *list : window->findChildren<QListView *>(QStringLiteral("pages")))
+        if (list->isVisible() && list->sizeHintForColumn(0) > list->viewport()->width())
+            clipped.append(QStringLiteral("names of pages: ") + placeOf(list));
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const auto *button = qobject_cast<const QAbstractButton *>(widget);
