@@ -22,23 +22,33 @@ const QLatin1String bundleSuffix(".vellum");
 constexpr int boxSteps = 80; ///< the least width of the text in a box
 constexpr int fieldSteps = 90;
 
+/// The text with places to break its paths at, which may be longer than a line.
+QString breakable(const QString &text)
+{
+    return QString(text).replace(u'/', QStringLiteral("/\u200b"));
+}
+
 /// A question or notice. Names that the user gave stand in it, so that nothing is taken for markup.
 class Box final : public QMessageBox
 {
 public:
     Box(Icon icon, const QString &title, const QString &text, const QString &detail,
         QWidget *window)
-        : QMessageBox(icon, title, text, NoButton, window)
+        : QMessageBox(icon, title, breakable(text), NoButton, window)
     {
         setTextFormat(Qt::PlainText);
         auto *first = findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-        first->setMinimumWidth(grid(boxSteps));
+        if (!detail.isEmpty()) {
+            QFont bold = first->font();
+            bold.setBold(true);
+            first->setFont(bold);
+        }
+        // With a least width the box would not know that a longer text has to be wrapped.
+        if (first->sizeHint().width() < grid(boxSteps))
+            first->setMinimumWidth(grid(boxSteps));
         if (detail.isEmpty())
             return;
-        QFont bold = first->font();
-        bold.setBold(true);
-        first->setFont(bold);
-        setInformativeText(detail);
+        setInformativeText(breakable(detail));
         // It would guess for itself what the text is.
         findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"))
             ->setTextFormat(Qt::PlainText);

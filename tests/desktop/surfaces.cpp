@@ -150,8 +150,7 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
     add("RestoreDocumentDialog", [text](Desk &desk) {
         app::BackupDocument document;
         document.title = text;
-        document.versions.after =
-            QStringLiteral("The lamps of Vessarine were lit from the water upward.");
+        document.after = QStringLiteral("The lamps of Vessarine were lit from the water upward.");
         return new desktop::RestoreDocumentDialog({document}, &desk.window);
     });
     add("BackupsDialog", [](Desk &desk) {
@@ -277,6 +276,15 @@ void addPrompts(QList<Surface> &list, const QString &text)
     });
     ask("showInformation", [text](DialogPrompts &prompts) { prompts.showInformation(text, text); });
     ask("showError", [text](DialogPrompts &prompts) { prompts.showError(text, text); });
+    ask("showError of a file", [](DialogPrompts &prompts) {
+        prompts.showError(QStringLiteral("Save Project"),
+                          QStringLiteral("Cannot write file: /home/mara/Manuscripts/The Low Lamps/"
+                                         "objects/804ddec3-70bb-42bf-916d-857f930b56b7.json"));
+    });
+    ask("showError of a deep folder", [](DialogPrompts &prompts) {
+        prompts.showError(QStringLiteral("Save Project"),
+                          QStringLiteral("/manuscripts_of_the_low_lamps").repeated(12));
+    });
     ask("askDamaged", [text](DialogPrompts &prompts) {
         app::DamagedProject project;
         project.path = text;
