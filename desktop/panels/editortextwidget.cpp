@@ -399,6 +399,11 @@ void EditorTextWidget::showEvent(QShowEvent *event)
 
 void EditorTextWidget::resizeEvent(QResizeEvent *event)
 {
+    const auto isCaretIn = [this](int height) {
+        const QRect caret = cursorRect();
+        return caret.bottom() >= 0 && caret.top() < height && caret.bottom() <= height;
+    };
+    const bool wasCaretSeen = isCaretIn(event->oldSize().height());
     centreColumn();
     if (m_live)
         m_live->layout()->setWidth(viewport()->width());
@@ -407,6 +412,9 @@ void EditorTextWidget::resizeEvent(QResizeEvent *event)
     QPlainTextEdit::resizeEvent(&actual);
     if (m_live)
         m_live->layout()->estimateLines();
+    // A notice above, or a strip below, does not take away the line that is being written.
+    if (wasCaretSeen && !isCaretIn(viewport()->height()))
+        ensureCursorVisible();
 }
 
 void EditorTextWidget::changeEvent(QEvent *event)

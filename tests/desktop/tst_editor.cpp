@@ -76,6 +76,7 @@ private Q_SLOTS:
     void stylesFollowFences();
     void undoPutsTheCaretBack();
     void burstsEndAfterManyWords();
+    void theCaretStaysInView();
     void undoReachesOtherDocuments();
     void removedDocumentsKeepWhatWasTyped();
     void placesComeBack();
@@ -184,6 +185,37 @@ void TestEditor::undoPutsTheCaretBack()
     QCOMPARE(desk.text->text(), QStringLiteral("bananana\nend"));
     desk.redo();
     QCOMPARE(document.body(), QStringLiteral("x\nend"));
+}
+
+void TestEditor::theCaretStaysInView()
+{
+    Window desk;
+    desk.window.resize(1200, 800);
+    desk.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.add(QStringLiteral("line\n").repeated(200));
+    const auto isSeen = [&] {
+        const QRect view = desk.text->viewport()->rect();
+        return view.contains(desk.text->cursorRect().center());
+    };
+    // On the last line that is seen whole.
+    QScrollBar *bar = desk.text->verticalScrollBar();
+    const int last = int(desk.text->cursorForPosition(desk.text->viewport()->rect().bottomLeft())
+                             .block()
+                             .position())
+                     - 10;
+    desk.text->select(last, last);
+    const int scrolled = bar->value();
+    QVERIFY(isSeen());
+    desk.window.resize(1200, 600);
+    QTRY_VERIFY(bar->value() > scrolled);
+    QVERIFY(isSeen());
+    // One that the writer scrolled away from is not gone back to.
+    bar->setValue(bar->maximum());
+    QVERIFY(!isSeen());
+    desk.window.resize(1200, 500);
+    QTRY_VERIFY(desk.window.height() <= 500);
+    QVERIFY(!isSeen());
 }
 
 void TestEditor::burstsEndAfterManyWords()
