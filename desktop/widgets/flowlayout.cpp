@@ -76,15 +76,16 @@ int FlowLayout::place(const QRect &rect, bool isTrial) const
     for (QLayoutItem *item : m_items) {
         if (item->isEmpty())
             continue;
-        const bool isLast = item == m_items.last();
-        QSize size = isLast ? item->minimumSize() : item->sizeHint();
+        const bool takesRest =
+            item == m_items.last() && item->expandingDirections().testFlag(Qt::Horizontal);
+        QSize size = takesRest ? item->minimumSize() : item->sizeHint();
         size.setWidth(qMin(size.width(), inside.width()));
         if (x > inside.x() && x + size.width() > inside.x() + inside.width()) {
             x = inside.x();
             y += lineHeight + spacing();
             lineHeight = 0;
         }
-        if (isLast) {
+        if (takesRest) {
             size.setWidth(inside.x() + inside.width() - x);
             size.setHeight(item->sizeHint().height());
         }

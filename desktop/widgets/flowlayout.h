@@ -4,7 +4,8 @@
 
 namespace vl::desktop {
 
-/// Lays its items side by side like words of a text; the last one takes what is left of its line.
+/// Lays its items side by side like words of a text; the last one takes what is left of its line if
+/// it can grow.
 class FlowLayout final : public QLayout
 {
     Q_OBJECT
