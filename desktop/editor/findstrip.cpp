@@ -150,6 +150,7 @@ void FindStrip::showFind()
     if (!m_session->live())
         return;
     takeSelection();
+    m_replaceRow->show();
     show();
     m_pattern->setFocus();
     m_pattern->selectAll();
@@ -158,8 +159,11 @@ void FindStrip::showFind()
 
 void FindStrip::showReplace()
 {
-    m_replaceRow->show();
     showFind();
+    if (!isVisible() || m_pattern->text().isEmpty())
+        return;
+    m_replacement->setFocus();
+    m_replacement->selectAll();
 }
 
 void FindStrip::takeSelection()

@@ -399,6 +399,12 @@ void TestEditor::findsAndReplaces()
     QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);
     QVERIFY(!desk.strip->isVisible());
     QVERIFY(desk.text->hasFocus());
+
+    desk.window.actions()["edit.find"]->trigger();
+    QVERIFY(desk.field(QStringLiteral("Find"))->hasFocus());
+    QVERIFY(desk.field(QStringLiteral("Replace with"))->isVisible());
+    desk.window.actions()["edit.replace"]->trigger(); // what is searched for is known
+    QVERIFY(desk.field(QStringLiteral("Replace with"))->hasFocus());
 }
 
 void TestEditor::distractionFreeGivesTheTextBack()
