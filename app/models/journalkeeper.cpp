@@ -1,7 +1,6 @@
 #include "app/models/journalkeeper.h"
 
 #include "app/base/files.h"
-#include "app/models/editortext.h"
 #include "app/storage/projectkey.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectwriter.h"
@@ -16,8 +15,9 @@ namespace vl::app {
 
 namespace {
 
-/// So many bytes are chosen at a time; then the interface has its turn.
+/// So many bytes, and so many objects, are chosen at a time; then the interface has its turn.
 constexpr qsizetype turnBytes = 256 * 1024;
+constexpr std::size_t turnObjects = 256;
 
 std::optional<QByteArray> readBase(const QString &folder, const QString &path)
 {
@@ -147,6 +147,7 @@ void JournalKeeper::giveUp()
 {
     m_timer.stop();
     m_due.clear();
+    m_dueObjects.clear();
     m_pending.clear();
     m_isBehind = false;
     if (!std::exchange(m_fault, QString()).isEmpty())
@@ -157,7 +158,7 @@ void JournalKeeper::giveUp()
 
 bool JournalKeeper::finish()
 {
-    while (m_timer.isActive() || !m_due.isEmpty()) {
+    while (m_timer.isActive() || hasDue()) {
         m_timer.stop();
         writeDue();
     }
@@ -188,72 +189,74 @@ void JournalKeeper::writeDue()
         giveUp(); // undone back to what is saved
         return;
     }
-    std::vector<FileChange> changes = chooseDue();
-    addPending(changes, pending);
-    if (!changes.empty() || std::exchange(m_isBehind, false))
-        post(std::move(changes));
+    std::vector<UnwrittenFile> files = chooseDue();
+    addPending(files, pending);
+    if (!files.empty() || std::exchange(m_isBehind, false))
+        post(std::move(files));
     m_timer.stop();
-    if (!m_due.isEmpty())
+    if (hasDue())
         schedule(0);
 }
 
 /// Takes from what is due as much as may be done in one turn.
-std::vector<FileChange> JournalKeeper::chooseDue()
+std::vector<UnwrittenFile> JournalKeeper::chooseDue()
 {
     const core::Project &project = m_workspace.project();
-    std::vector<FileChange> changes;
-    core::ChangeSet rest;
-    qsizetype bytes = 0;
-    for (const auto &[id, change] : m_due.objects()) {
-        if (bytes > turnBytes) {
-            rest.touchObject(id, change);
-            continue;
+    std::vector<UnwrittenFile> files;
+    if (m_dueObjects.empty()) {
+        m_dueObjects.reserve(m_due.objects().size());
+        for (auto entry = m_due.objects().rbegin(); entry != m_due.objects().rend(); ++entry)
+            m_dueObjects.push_back(entry->first);
+        for (const auto &[id, change] : m_due.categories()) {
+            const core::Category *category = project.taxonomy().find(id);
+            files.emplace_back(categoryPath(id), category
+                                                     ? std::optional(serializeCategory(*category))
+                                                     : std::nullopt);
         }
-        const core::ContentObject *object = project.find(id);
-        changes.push_back(
-            {objectPath(id), object ? std::optional(serializeObject(*object)) : std::nullopt});
-        bytes += object ? changes.back().bytes->size() : 0;
+        if (m_due.touchesAnyRecord())
+            files.emplace_back(recordsPath(), serializeProjectRecords(project));
+        m_due.clear();
+    }
+    qsizetype bytes = 0;
+    for (std::size_t objects = 0;
+         !m_dueObjects.empty() && bytes <= turnBytes && objects < turnObjects; ++objects) {
+        const core::ContentId id = m_dueObjects.back();
+        m_dueObjects.pop_back();
+        files.emplace_back(id, project.find(id));
+        bytes += files.back().size();
         m_pending.remove(id);
     }
-    for (const auto &[id, change] : m_due.categories()) {
-        const core::Category *category = project.taxonomy().find(id);
-        changes.push_back({categoryPath(id),
-                           category ? std::optional(serializeCategory(*category)) : std::nullopt});
-    }
-    if (m_due.touchesAnyRecord())
-        changes.push_back({recordsPath(), serializeProjectRecords(project)});
-    m_due = rest;
-    return changes;
+    return files;
 }
 
 /// Writes documents down with what stands in an editor and is no step of the history yet.
-void JournalKeeper::addPending(std::vector<FileChange> &changes, const PendingTexts &pending)
+void JournalKeeper::addPending(std::vector<UnwrittenFile> &files, const PendingTexts &pending)
 {
     QSet<core::ContentId> typed;
     for (const PendingText &text : pending) {
-        auto *document = m_workspace.project().find<core::Document>(text.documentId);
+        const auto *document = m_workspace.project().find<core::Document>(text.documentId);
         if (!document)
             continue;
-        // For the length of this call the document holds what it is about to; nobody is told.
-        const QString body = document->body();
-        document->setBody(bodyAfterEdit(body, text.shownText));
-        changes.push_back({objectPath(document->id()), serializeObject(*document)});
-        document->setBody(body);
+        files.emplace_back(*document, text);
         typed.insert(document->id());
     }
     // What was typed and taken back again leaves the document as it is.
     for (const core::ContentId &id : m_pending - typed) {
         if (const core::ContentObject *object = m_workspace.project().find(id))
-            changes.push_back({objectPath(id), serializeObject(*object)});
+            files.emplace_back(id, object);
     }
     m_pending = typed;
 }
 
-void JournalKeeper::post(std::vector<FileChange> changes)
+void JournalKeeper::post(std::vector<UnwrittenFile> files)
 {
     m_hasJournal = true;
     // The pool is waited for before this goes.
-    m_pool.start([this, writer = m_writer, changes = std::move(changes)] {
+    m_pool.start([this, writer = m_writer, files = std::move(files)]() mutable {
+        std::vector<FileChange> changes;
+        changes.reserve(files.size());
+        for (UnwrittenFile &file : files)
+            changes.push_back(file.take());
         const Result<> result = writer->write(changes);
         QMetaObject::invokeMethod(
             this, [this, writer, result] { written(writer, result); }, Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/models/unwrittenfile.h"
 #include "app/models/workspace.h"
 #include "app/storage/journal.h"
 #include "app/storage/journalshelf.h"
@@ -59,10 +60,11 @@ private:
     void enter();
     void schedule(int milliseconds);
     void writeDue();
-    std::vector<FileChange> chooseDue();
-    void addPending(std::vector<FileChange> &changes, const PendingTexts &pending);
+    bool hasDue() const { return !m_due.isEmpty() || !m_dueObjects.empty(); }
+    std::vector<UnwrittenFile> chooseDue();
+    void addPending(std::vector<UnwrittenFile> &files, const PendingTexts &pending);
     void forgetSaved();
-    void post(std::vector<FileChange> changes);
+    void post(std::vector<UnwrittenFile> files);
     void written(const std::shared_ptr<JournalWriter> &writer, const Result<> &result);
     QString newJournalPath() const;
     void lookForJournals();
@@ -74,9 +76,11 @@ private:
     QTimer m_timer;
     std::shared_ptr<JournalWriter> m_writer; ///< used on the pool's thread only
     core::ChangeSet m_due;                   ///< changed and not written down yet
-    QSet<core::ContentId> m_pending;         ///< documents written down with what is being typed
-    QString m_origin;                        ///< of the project that the journal is of
-    QString m_folder;                        ///< in which its files stand
+    std::vector<core::ContentId>
+        m_dueObjects;                ///< the same of what is being chosen from, last first
+    QSet<core::ContentId> m_pending; ///< documents written down with what is being typed
+    QString m_origin;                ///< of the project that the journal is of
+    QString m_folder;                ///< in which its files stand
     bool m_hasJournal = false;
     bool m_isBehind = false; ///< a piece could not be written
     QString m_fault;         ///< why, as it was told

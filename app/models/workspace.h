@@ -9,11 +9,14 @@
 
 namespace vl::app {
 
-/// What stands in an editor and is no step of the history yet.
+/// What stands in an editor and is no step of the history yet: a beginning and an end in common
+/// with the shown text of the document's body (see shownText()), and between them what was typed.
 struct PendingText
 {
     core::ContentId documentId;
-    QString shownText; ///< as the widget holds it; see shownText()
+    qsizetype head = 0; ///< length of what is in common at the beginning, in UTF-16 units
+    qsizetype tail = 0; ///< and of that at the end
+    QString typed;      ///< as the widget holds it
 };
 using PendingTexts = QList<PendingText>;
 

@@ -52,7 +52,7 @@ EditorSession::EditorSession(const PanelContext &context, EditorTextWidget *text
     connect(&workspace, &app::Workspace::flushRequested, this, &EditorSession::handIn);
     connect(&workspace, &app::Workspace::peekRequested, this, [this](app::PendingTexts &texts) {
         if (m_live && m_live->hasTyped)
-            texts.append({m_live->id(), m_live->text()});
+            texts.append(m_live->pendingText());
     });
     connect(&workspace, &app::Workspace::selectionChanged, this, &EditorSession::openSelected);
     connect(&workspace, &app::Workspace::revealRequested, this, &EditorSession::reveal);
@@ -111,7 +111,7 @@ void EditorSession::open(const core::ContentId &id)
             live->apply(
                 app::difference(app::shownText(live->body), app::shownText(toOpen->body())));
         }
-        live->body = toOpen->body();
+        live->noteInStep(toOpen->body());
         m_live = live;
         m_desk.setLastDocument(id);
     }
@@ -162,11 +162,10 @@ void EditorSession::handIn()
     core::Document *written = document();
     if (!written || !m_live->hasTyped)
         return;
-    m_live->hasTyped = false;
     const QString body = app::bodyAfterEdit(written->body(), m_live->text());
+    m_live->noteInStep(body); // so that the step is not taken for somebody else's
     if (body == written->body())
         return;
-    m_live->body = body; // so that the step is not taken for somebody else's
     m_context.workspace.push<core::SetDocumentBodyCommand>(*written, body);
     m_desk.day().stepMade(m_steps);
     m_desk.touch();
@@ -263,6 +262,7 @@ void EditorSession::followText(const core::Document &changed)
     } else {
         m_pause.stop();
         const QTextCursor edit = m_live->apply(app::difference(before, after, m_text->caret()));
+        m_live->noteInStep(changed.body());
         // Only a step back or forth leads to what it changes; what others did leaves the writer
         // where she is.
         if (m_context.workspace.isStepping()) {

@@ -83,6 +83,37 @@ LiveDocument::LiveDocument(const core::ContentId &id, QObject *parent)
 {
     m_document->setUndoRedoEnabled(false);
     m_document->setDocumentLayout(m_layout);
+    connect(m_document, &QTextDocument::contentsChange, this,
+            [this](int position, int, int added) { noteEdit(position, added); });
+}
+
+void LiveDocument::noteInStep(const QString &newBody)
+{
+    body = newBody;
+    hasTyped = false;
+    m_editedHead = m_editedTail = m_document->characterCount() - 1;
+}
+
+/// The reported range may be wider than the edit, and count the end of the last paragraph too.
+void LiveDocument::noteEdit(int position, int added)
+{
+    const int behind = m_document->characterCount() - 1 - (position + added);
+    m_editedHead = qMin(m_editedHead, position);
+    m_editedTail = qMin(m_editedTail, qMax(0, behind));
+}
+
+app::PendingText LiveDocument::pendingText() const
+{
+    // A piece's seam may come and go with an edit, so that places before and after it do not agree.
+    if (m_hasPieces)
+        return {m_id, 0, 0, text()};
+    const int last = m_document->characterCount() - 1;
+    QTextCursor cursor(m_document);
+    cursor.setPosition(qMin(m_editedHead, last));
+    cursor.setPosition(qMax(cursor.position(), last - m_editedTail), QTextCursor::KeepAnchor);
+    QString typed = cursor.selectedText();
+    typed.replace(QChar(QChar::ParagraphSeparator), QChar(u'\n'));
+    return {m_id, cursor.selectionStart(), last - cursor.selectionEnd(), typed};
 }
 
 QString LiveDocument::text() const

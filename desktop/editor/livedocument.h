@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/models/editortext.h"
+#include "app/models/workspace.h"
 #include "app/models/writingdesk.h"
 #include "core/id.h"
 
@@ -39,6 +40,11 @@ public:
     /// Puts a text in place of the cursor's selection.
     void insert(QTextCursor &cursor, const QString &text);
 
+    /// The text is the shown one of this body now.
+    void noteInStep(const QString &body);
+    /// What is typed and not in the body; costs as much as was typed, however long the text is.
+    app::PendingText pendingText() const;
+
     int toDocument(qsizetype shown) const;
     qsizetype toShown(int position) const;
 
@@ -47,10 +53,14 @@ public:
     app::WritingPlace place; ///< while another document is open
 
 private:
+    void noteEdit(int position, int added);
+
     core::ContentId m_id;
     QTextDocument *m_document;
     EditorLayout *m_layout;
     bool m_hasPieces = false;
+    int m_editedHead = 0; ///< places of the document before what was edited since it was in step
+    int m_editedTail = 0; ///< and behind it
 };
 
 } // namespace vl::desktop

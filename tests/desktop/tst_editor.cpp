@@ -72,6 +72,7 @@ class TestEditor : public QObject
 
 private Q_SLOTS:
     void longLinesAreHeldInPieces();
+    void pendingTextIsWhatDiffers();
     void wordsAreCountedLineByLine();
     void stylesFollowFences();
     void undoPutsTheCaretBack();
@@ -129,6 +130,49 @@ void TestEditor::longLinesAreHeldInPieces()
         text.insert(at, i % 3 ? u'\n' : u'z');
         QVERIFY(live.text() == text);
     }
+}
+
+void TestEditor::pendingTextIsWhatDiffers()
+{
+    QRandomGenerator random(7);
+    const QString alphabet = QStringLiteral("ab \n\u00a0\u2028\U0001F600");
+    const auto anyText = [&] {
+        QString text;
+        for (int i = random.bounded(12); i > 0; --i)
+            text += alphabet[random.bounded(int(alphabet.size()))];
+        return text;
+    };
+    desktop::LiveDocument live(core::ContentId::create());
+    QString base = anyText() + anyText();
+    live.setText(base);
+    live.noteInStep(base);
+    bool isShort = false;
+    for (int round = 0; round < 3000; ++round) {
+        QTextCursor cursor(live.document());
+        const int size = live.document()->characterCount() - 1;
+        const int at = random.bounded(size + 1);
+        cursor.setPosition(at);
+        cursor.setPosition(at + random.bounded(size - at + 1) / 4, QTextCursor::KeepAnchor);
+        if (round % 5 == 0)
+            cursor.beginEditBlock();
+        cursor.insertText(anyText());
+        if (round % 5 == 0) {
+            cursor.setPosition(random.bounded(live.document()->characterCount()));
+            cursor.deletePreviousChar();
+            cursor.endEditBlock();
+        }
+        const app::PendingText pending = live.pendingText();
+        QVERIFY(pending.head + pending.tail <= base.size());
+        QCOMPARE(base.first(pending.head) + pending.typed + base.last(pending.tail), live.text());
+        isShort |= size > 40 && pending.head > size / 4 && pending.tail > size / 4;
+        if (round % 3 == 2) {
+            base = live.text();
+            live.noteInStep(base);
+        }
+        if (round % 50 == 49)
+            live.apply({0, base.size() / 2, QString()});
+    }
+    QVERIFY(isShort); // it is not the whole text each time
 }
 
 void TestEditor::wordsAreCountedLineByLine()

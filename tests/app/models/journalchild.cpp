@@ -49,7 +49,7 @@ int main(int argc, char *argv[])
     QString typed;
     QObject::connect(&workspace, &app::Workspace::peekRequested, [&](app::PendingTexts &texts) {
         if (!typed.isEmpty())
-            texts.append({document->id(), document->body() + typed});
+            texts.append({document->id(), document->body().size(), 0, typed});
     });
     for (int i = 0;; ++i) {
         const QString word = QStringLiteral("word%1 ").arg(i);

@@ -314,10 +314,10 @@ void TestRecovery::typedText()
     core::Document &document = addDocument(workspace, QStringLiteral("One"));
     workspace.push<core::SetDocumentBodyCommand>(document, QStringLiteral("a\r\nb"));
     QVERIFY(workspace.current().save());
-    QString typed = QStringLiteral("a\nb and c");
+    std::optional<PendingText> typed;
     connect(&workspace, &Workspace::peekRequested, this, [&](PendingTexts &texts) {
-        if (!typed.isNull())
-            texts.append({document.id(), typed});
+        if (typed)
+            texts.append(*typed);
     });
     const auto written = [&] {
         keeper.finish();
@@ -327,12 +327,21 @@ void TestRecovery::typedText()
         const ReadContents contents = contentsOf({read->files.begin()->second.change});
         return static_cast<const core::Document &>(*contents.contents.objects.front()).body();
     };
-    Q_EMIT workspace.typed();
-    // What the editor does not touch keeps its bytes; the model knows nothing of it yet.
-    QCOMPARE(written(), QStringLiteral("a\r\nb and c"));
+    // What the editor does not touch keeps its bytes, whether it hands over all or what differs.
+    for (const PendingText &form : {PendingText{document.id(), 3, 0, QStringLiteral(" and c")},
+                                    PendingText{document.id(), 0, 0, QStringLiteral("a\nb or c")},
+                                    PendingText{document.id(), 2, 1, QStringLiteral("no ")}}) {
+        typed = form;
+        Q_EMIT workspace.typed();
+        const QString shown = QStringLiteral("a\nb");
+        QCOMPARE(written().remove(u'\r'),
+                 shown.first(form.head) + form.typed + shown.last(form.tail));
+        QVERIFY(written().startsWith(QLatin1String("a\r\n")));
+    }
+    // The model knows nothing of it yet.
     QCOMPARE(document.body(), QStringLiteral("a\r\nb"));
     QVERIFY(!workspace.current().isDirty());
-    typed = QString();
+    typed.reset();
     Q_EMIT workspace.typed(); // taken back again
     QCOMPARE(written(), QString());
 }
