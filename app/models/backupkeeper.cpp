@@ -57,6 +57,8 @@ BackupKeeper::BackupKeeper(Workspace &workspace, StorageLocations locations, QOb
     , m_saves(std::make_shared<std::atomic<int>>(0))
 {
     m_pool.setMaxThreadCount(1);
+    m_opening.setSingleShot(true);
+    connect(&m_opening, &QTimer::timeout, this, &BackupKeeper::backUpOpened);
     connect(&workspace, &Workspace::projectReplaced, this, [this] {
         leave();
         enter();
@@ -68,6 +70,7 @@ BackupKeeper::BackupKeeper(Workspace &workspace, StorageLocations locations, QOb
         }
     });
     connect(&workspace, &Workspace::flushRequested, this, [this] {
+        endOpeningDelay();
         ++*m_saves;
         lookAtDay();
     });
@@ -101,11 +104,27 @@ AutoBackups BackupKeeper::backups() const
 
 void BackupKeeper::finish()
 {
+    endOpeningDelay();
     m_pool.waitForDone();
+}
+
+void BackupKeeper::backUpOpened()
+{
+    if (m_isAutomatic)
+        run(m_path, {m_path, {}}, BackupReason::Opened);
+}
+
+void BackupKeeper::endOpeningDelay()
+{
+    if (!m_opening.isActive())
+        return;
+    m_opening.stop();
+    backUpOpened();
 }
 
 void BackupKeeper::leave()
 {
+    endOpeningDelay();
     if (!m_path.isEmpty() && m_isAutomatic && (m_savedSince || m_owed))
         run(m_path, {m_path, {}}, BackupReason::Closed);
     m_path.clear();
@@ -120,8 +139,10 @@ void BackupKeeper::enter()
     if (!project.hasLocation())
         return;
     m_path = project.path();
-    if (m_isAutomatic)
-        run(m_path, {m_path, {}}, BackupReason::Opened);
+    if (m_opening.interval() > 0)
+        m_opening.start();
+    else
+        backUpOpened();
 }
 
 /// Any other day will do, and 24 hours whatever the day: neither a clock that is set back nor one

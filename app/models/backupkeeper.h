@@ -4,6 +4,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QThreadPool>
+#include <QtCore/QTimer>
 
 #include <atomic>
 #include <memory>
@@ -40,9 +41,12 @@ public:
     void setAutomatic(bool isAutomatic) { m_isAutomatic = isAutomatic; }
     /// Where they are made from now on; empty for the program's own folder.
     void setFolder(const QString &folder);
+    /// How long the backup at opening is put off, in milliseconds, so that it takes nothing from
+    /// the window that is being filled. It never comes later than the first save.
+    void setOpeningDelay(int milliseconds) { m_opening.setInterval(milliseconds); }
     /// Makes the backup that is due: one that failed, or that of a new day.
     void lookAtDay();
-    /// Waits for the backups that are being made.
+    /// Waits for the backups that are being made, one that was put off among them.
     void finish();
 
 Q_SIGNALS:
@@ -56,6 +60,8 @@ Q_SIGNALS:
 private:
     void leave();
     void enter();
+    void backUpOpened();
+    void endOpeningDelay();
     void run(const QString &projectPath, BackupContent content, BackupReason reason);
     void report(const QString &projectPath, BackupReason reason,
                 const Result<std::optional<BackupInfo>> &result);
@@ -64,6 +70,7 @@ private:
     Workspace &m_workspace;
     StorageLocations m_locations;
     QThreadPool m_pool; ///< of one thread, so that one backup follows the other
+    QTimer m_opening;   ///< runs while the backup at opening is put off
     bool m_isAutomatic = true;
     QString m_path;                     ///< of the project whose backups are made; empty for none
     bool m_savedSince = false;          ///< since the last backup

@@ -6,6 +6,7 @@
 #include "app/models/workspace.h"
 #include "core/commands/documentcommands.h"
 
+#include <QtConcurrent/QtConcurrentMap>
 #include <QtCore/QLocale>
 #include <QtCore/QMimeData>
 #include <QtCore/QSet>
@@ -29,6 +30,27 @@ QList<core::ContentId> idsFrom(const QMimeData *data)
             ids.append(id);
     }
     return ids;
+}
+
+/// The words of each, counted on all processors when there are many.
+template<typename Places>
+std::vector<qsizetype> wordsOf(const Places &places)
+{
+    constexpr std::size_t documentsOfAPiece = 256;
+    std::vector<qsizetype> words(places.size());
+    std::vector<std::size_t> pieces;
+    for (std::size_t first = 0; first < words.size(); first += documentsOfAPiece)
+        pieces.push_back(first);
+    const auto count = [&](std::size_t first) {
+        const std::size_t end = std::min(first + documentsOfAPiece, words.size());
+        for (std::size_t i = first; i < end; ++i)
+            words[i] = countWords(places[i].document->body());
+    };
+    if (pieces.size() > 1)
+        QtConcurrent::blockingMap(pieces, count);
+    else
+        std::for_each(pieces.begin(), pieces.end(), count);
+    return words;
 }
 
 } // namespace
@@ -76,14 +98,18 @@ void DocumentsModel::reset()
     beginResetModel();
     m_root = std::make_unique<Node>();
     m_nodes.clear();
+    const auto places = m_workspace.project().documentTree().inOrder();
+    const std::vector<qsizetype> words = wordsOf(places);
+    auto count = words.begin();
+    m_nodes.reserve(qsizetype(places.size()));
     // A place's parent is the nearest place before it that is one step less deep.
     std::vector<Node *> path{m_root.get()};
-    for (const core::DocumentTree::Place &place : m_workspace.project().documentTree().inOrder()) {
+    for (const core::DocumentTree::Place &place : places) {
         path.resize(size_t(place.depth) + 1);
         auto node = std::make_unique<Node>();
         node->id = place.document->id();
         node->parent = path.back();
-        node->words = countWords(place.document->body());
+        node->words = *count++;
         m_nodes.insert(node->id, node.get());
         path.push_back(node.get());
         for (Node *above = node.get(); above; above = above->parent)

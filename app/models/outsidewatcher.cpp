@@ -54,7 +54,11 @@ void OutsideWatcher::watch(const QString &path, bool isBundle)
     if (path.isEmpty())
         renew();
     // The look that follows the first answer begins to watch, and sees what came before it.
-    askForTouched();
+    m_isPutOff = m_openingDelay > 0 && !path.isEmpty();
+    if (m_isPutOff)
+        m_asking.start(m_openingDelay);
+    else
+        askForTouched();
 }
 
 void OutsideWatcher::setDelays(int quiet, int asking)
@@ -105,7 +109,7 @@ void OutsideWatcher::renew()
 
 void OutsideWatcher::stir()
 {
-    if (m_path.isEmpty())
+    if (m_path.isEmpty() || m_isPutOff)
         return;
     if (!m_sinceFirst.isValid())
         m_sinceFirst.start();
@@ -115,6 +119,7 @@ void OutsideWatcher::stir()
 
 void OutsideWatcher::askForTouched()
 {
+    m_isPutOff = false;
     if (m_path.isEmpty() || m_answer.isRunning())
         return;
     m_sinceAsked.start();

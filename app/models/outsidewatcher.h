@@ -30,6 +30,9 @@ public:
     /// How long it waits after the last stir, and how often it asks for touched files, in
     /// milliseconds.
     void setDelays(int quiet, int asking);
+    /// How long it leaves a project alone that was just opened, in milliseconds; the first look
+    /// sees what happened meanwhile.
+    void setOpeningDelay(int milliseconds) { m_openingDelay = milliseconds; }
 
 public Q_SLOTS:
     /// As if something had stirred.
@@ -52,6 +55,8 @@ private:
     QElapsedTimer m_sinceFirst; ///< of the stirs that were not told yet
     QTimer m_asking;
     int m_askingInterval;
+    int m_openingDelay = 0;
+    bool m_isPutOff = false; ///< the first look, which comes in any case
     QElapsedTimer m_sinceAsked;
     QFutureWatcher<quint64> m_answer;
     QString m_askedPath;     ///< that the answer is about

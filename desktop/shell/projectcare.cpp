@@ -14,6 +14,12 @@
 
 namespace vl::desktop {
 
+namespace {
+
+constexpr int openingMilliseconds = 2000; // in which the window has the processor to itself
+
+} // namespace
+
 ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, QWidget *window)
     : m_context(context)
     , m_flows(flows)
@@ -22,6 +28,7 @@ ProjectCare::ProjectCare(const PanelContext &context, app::ProjectFlows &flows, 
     , m_crash(context, flows, window)
     , m_deleted(context.workspace, app::StorageLocations::standard())
 {
+    m_backups.setOpeningDelay(openingMilliseconds);
     followSettings();
     listen();
     context.actions.bind("file.backUp", this, &ProjectCare::backUpNow);

@@ -13,6 +13,7 @@ namespace vl::desktop {
 
 namespace {
 
+constexpr int openingMilliseconds = 2000; // in which the window has the processor to itself
 const QString outsideNotice = QStringLiteral("outsideChanges");
 const QString mediaNotice = QStringLiteral("outsideMedia");
 
@@ -34,6 +35,7 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
     connect(&context.workspace, &app::Workspace::projectReplaced, this,
             &SafeKeeping::followProject);
     m_outside.setMayChange(&areHandsFree);
+    m_outside.watcher().setOpeningDelay(openingMilliseconds);
     connect(&m_outside, &app::OutsideMonitor::offerChanged, this, &SafeKeeping::showOffer);
     connect(&m_outside, &app::OutsideMonitor::nothingFound, this, [this] {
         m_isAsked = false;

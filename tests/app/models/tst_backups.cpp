@@ -41,6 +41,8 @@ private Q_SLOTS:
     void listsAndCounts();
     void madeWhenOpenedSavedAndClosed_data();
     void madeWhenOpenedSavedAndClosed();
+    void putOffWhenOpened_data();
+    void putOffWhenOpened();
     void dailyWhateverTheClock_data();
     void dailyWhateverTheClock();
     void triesAgainWhatFailed_data();
@@ -420,6 +422,47 @@ struct KeptProject
 };
 
 } // namespace
+
+void TestBackups::putOffWhenOpened_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<bool>("isMade");
+    for (const char *end : {"save", "other project", "waited for", "time"})
+        QTest::newRow(end) << QString::fromLatin1(end) << true;
+    QTest::newRow("not wanted") << "not wanted" << false;
+}
+
+/// What was put off comes before whatever could change the files, and is not lost.
+void TestBackups::putOffWhenOpened()
+{
+    QFETCH(QString, end);
+    QFETCH(bool, isMade);
+    KeptProject project(at(QStringLiteral("novel")), m_locations);
+    project.made.clear();
+    project.write(); // so that there is something new to back up
+    QVERIFY(project.workspace.current().saveAsFolder(at(QStringLiteral("second"))));
+    project.settle();
+    project.made.clear();
+    project.write();
+    QVERIFY(project.workspace.current().save());
+    project.keeper.setAutomatic(false); // at leaving
+    project.workspace.replaceProject(std::make_unique<OpenProject>());
+    project.keeper.setAutomatic(end != QLatin1String("not wanted"));
+    project.keeper.setOpeningDelay(end == QLatin1String("time") ? 1 : 3600 * 1000);
+    auto opened = OpenProject::open(at(QStringLiteral("second")));
+    QVERIFY(opened);
+    project.workspace.replaceProject(*std::move(opened));
+    QCoreApplication::processEvents();
+    if (end == QLatin1String("save"))
+        project.workspace.flush();
+    else if (end == QLatin1String("other project"))
+        project.workspace.replaceProject(std::make_unique<OpenProject>());
+    else if (end == QLatin1String("time"))
+        QTRY_VERIFY(!project.made.isEmpty());
+    project.settle();
+    QCOMPARE(project.made,
+             isMade ? QList<BackupReason>{BackupReason::Opened} : QList<BackupReason>());
+}
 
 void TestBackups::dailyWhateverTheClock_data()
 {

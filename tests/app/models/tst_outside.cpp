@@ -30,6 +30,7 @@ private Q_SLOTS:
     void savingOverTheirsKeepsABackup();
     void typedWordsTakePart();
     void failuresChangeNothing();
+    void putOffWhenOpened();
     void media();
 };
 
@@ -380,6 +381,16 @@ void TestOutside::failuresChangeNothing()
     desk.project().finishSaving();
     QCOMPARE(desk.bodyOnDisk(0), QStringLiteral("Mine."));
     QCOMPARE(desk.bodyOnDisk(2), QStringLiteral("Theirs too."));
+}
+
+void TestOutside::putOffWhenOpened()
+{
+    Desk desk;
+    desk.monitor->watcher().setOpeningDelay(300);
+    desk.reopen(desk.project().path());
+    desk.othersWrite(1, QStringLiteral("Theirs."));
+    desk.monitor->lookSoon(); // does not make the first look the only one that fails to come
+    QTRY_COMPARE(desk.kind(), Kind::Notice);
 }
 
 void TestOutside::media()
