@@ -24,6 +24,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
@@ -176,10 +177,16 @@ void CodexPanel::buildLayout()
 {
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
-    bar->addWidget(makeMenuButton(tr("New ▾"), tr("Add to the codex"), m_newMenu, this));
-    bar->addWidget(
-        makeMenuButton(tr("More ▾"), tr("Change what is selected in the codex"), m_moreMenu, this));
-    bar->addWidget(m_tree->makeFilter(tr("Filter the codex by name, alias or tag"), this), 1);
+    QToolButton *add = makeMenuButton(tr("New ▾"), tr("Add to the codex"), m_newMenu, this);
+    QToolButton *more =
+        makeMenuButton(tr("More ▾"), tr("Change what is selected in the codex"), m_moreMenu, this);
+    QLineEdit *filter = m_tree->makeFilter(tr("Filter the codex by name, alias or tag"), this);
+    bar->addWidget(add);
+    bar->addWidget(more);
+    bar->addWidget(filter, 1);
+    setTabOrder(add, more);
+    setTabOrder(more, filter);
+    setTabOrder(filter, m_tree);
 
     auto *nothing = new EmptyState(
         tr("The people, places and things of your world stand here, sorted into categories."),

@@ -14,6 +14,7 @@
 #include "desktop/widgets/grid.h"
 #include "desktop/widgets/menubutton.h"
 
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
@@ -26,7 +27,7 @@ using core::ContentId;
 
 namespace {
 
-constexpr int roomForStatus = 46; // characters of the panel's width
+constexpr int roomForStatus = 54; // characters of the panel's width
 constexpr int roomForWords = 24;
 
 } // namespace
@@ -72,7 +73,10 @@ void DocumentsPanel::buildLayout()
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
     bar->addWidget(add);
-    bar->addWidget(m_tree->makeFilter(tr("Filter the documents by title"), this), 1);
+    QLineEdit *filter = m_tree->makeFilter(tr("Filter the documents by title"), this);
+    bar->addWidget(filter, 1);
+    setTabOrder(add, filter);
+    setTabOrder(filter, m_tree);
 
     auto *nothing = new EmptyState(tr("The chapters and scenes of your manuscript stand here."),
                                    tr("Write the First Document"), this);

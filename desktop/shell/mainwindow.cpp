@@ -66,8 +66,12 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
     connect(&m_workspace, &app::Workspace::projectReplaced, m_saveFault, &QWidget::hide);
-    connect(&m_workspace, &app::Workspace::projectReplaced, m_panels, &PanelHost::focusFirst,
-            Qt::QueuedConnection); // once the panels show it
+    // Once the panels show it. The text is what a project is opened for; one without any begins in
+    // the manuscript.
+    const auto focus = [this] {
+        m_panels->focusSide(m_workspace.selection().isEmpty() ? DockSide::Left : DockSide::Center);
+    };
+    connect(&m_workspace, &app::Workspace::projectReplaced, this, focus, Qt::QueuedConnection);
     m_safeKeeping = std::make_unique<SafeKeeping>(
         PanelContext{m_workspace, m_actions, m_settings, m_prompts, *m_notices}, this);
     m_care = std::make_unique<ProjectCare>(
@@ -75,7 +79,7 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     updateTitle();
     updateSteps();
     restoreWindow();
-    m_panels->focusFirst();
+    m_panels->focusSide(DockSide::Left);
 }
 
 MainWindow::~MainWindow()

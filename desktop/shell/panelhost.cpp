@@ -336,12 +336,12 @@ void PanelHost::showPanel(const QString &objectName)
     }
 }
 
-void PanelHost::focusFirst()
+void PanelHost::focusSide(DockSide side)
 {
-    for (const DockSide side : {DockSide::Left, DockSide::Center})
+    for (const DockSide candidate : {side, DockSide::Left, DockSide::Center})
         for (const PanelRow &row : panelCatalogue()) {
             ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
-            if (row.side == side && dock && !dock->isClosed()) {
+            if (row.side == candidate && dock && !dock->isClosed()) {
                 focusInto(dock);
                 return;
             }

@@ -49,8 +49,9 @@ public:
     /// Shows the first layout, and gives false, when the state is damaged or of another version.
     bool restoreLayout(const QByteArray &state);
     void showPanel(const QString &objectName);
-    /// Gives the focus to the first open panel of the manuscript, also before the window is shown.
-    void focusFirst();
+    /// Gives the focus to the first open panel of this side, or else of the other sides, also
+    /// before the window is shown.
+    void focusSide(DockSide side);
     /// Moves the focus to the next or previous open panel.
     void focusNext() { moveFocus(1); }
     void focusPrevious() { moveFocus(-1); }

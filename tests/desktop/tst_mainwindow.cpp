@@ -42,6 +42,7 @@ private Q_SLOTS:
     void nothingTypedIsLost();
     void oddCharactersSurviveTheWidget();
     void theTreeMovesAndRenames();
+    void theTextHasTheFocus();
     void closingAsks();
     void theLayoutComesBack();
     void noticesOfferAndAsk();
@@ -179,6 +180,26 @@ void TestMainWindow::theTreeMovesAndRenames()
     desk.window.actions()["doc.addTask"]->trigger();
     QCOMPARE(project.all<core::Task>().size(), size_t(1));
     QCOMPARE(project.all<core::Task>().front()->targetId(), current);
+}
+
+void TestMainWindow::theTextHasTheFocus()
+{
+    Window desk;
+    QVERIFY(!desk.text->hasFocus()); // there is none
+    QVERIFY(QApplication::focusWidget());
+    desk.add(QStringLiteral("First."));
+    desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
+    desk.window.actions()["file.saveAsFolder"]->trigger();
+    QVERIFY(desk.window.openProject(desk.prompts.path));
+    QTRY_VERIFY(desk.text->hasFocus());
+
+    // From the tree back over the line that filters it.
+    desk.tree->setFocus();
+    QTest::keyClick(desk.tree, Qt::Key_Backtab, Qt::ShiftModifier);
+    auto *filter = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QVERIFY(filter);
+    QTest::keyClick(filter, Qt::Key_Tab);
+    QVERIFY(desk.tree->hasFocus());
 }
 
 void TestMainWindow::closingAsks()
