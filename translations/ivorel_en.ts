@@ -4030,6 +4030,117 @@ Do you want to delete it anyway?</translation>
     </message>
 </context>
 <context>
+    <name>vl::app::ReadableFile</name>
+    <message>
+        <source>Place in the text</source>
+        <translation>Place in the text</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Media file</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Author</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Made</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Due</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Endnote</source>
+        <translation>Endnote</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Fields</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Footnotes</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Mark</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Under</source>
+        <translation>Under</translation>
+    </message>
+    <message>
+        <source>Who takes part</source>
+        <translation>Who takes part</translation>
+    </message>
+    <message>
+        <source>Text before the revision</source>
+        <translation>Text before the revision</translation>
+    </message>
+    <message>
+        <source>Place in the order</source>
+        <translation>Place in the order</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Sources</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Beginning</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Other wordings</source>
+        <translation>Other wordings</translation>
+    </message>
+    <message>
+        <source>Earlier versions</source>
+        <translation>Earlier versions</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message>
+        <source>another object (%1)</source>
+        <translation>another object (%1)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>yes</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::RecentlyDeleted</name>
     <message>
         <source>Restore what was deleted</source>
@@ -6222,7 +6333,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>Discarded. File › Unsaved Work… keeps it for %n day(s).</source>
-        <translation><numerusform>Discarded. File › Unsaved Work… keeps it for %n day.</numerusform><numerusform>Discarded. File › Unsaved Work… keeps it for %n days.</numerusform></translation>
+        <translation>
+            <numerusform>Discarded. File › Unsaved Work… keeps it for %n day.</numerusform>
+            <numerusform>Discarded. File › Unsaved Work… keeps it for %n days.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Unsaved Work</source>
@@ -6251,7 +6365,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>Nothing unsaved was found in the last %n day(s).</source>
-        <translation><numerusform>Nothing unsaved was found in the last %n day.</numerusform><numerusform>Nothing unsaved was found in the last %n days.</numerusform></translation>
+        <translation>
+            <numerusform>Nothing unsaved was found in the last %n day.</numerusform>
+            <numerusform>Nothing unsaved was found in the last %n days.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Work that was not saved when Ivorel was cut off:</source>
@@ -7700,7 +7817,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>It can be brought back for %n day(s) by File › Unsaved Work….</source>
-        <translation><numerusform>It can be brought back for %n day by File › Unsaved Work….</numerusform><numerusform>It can be brought back for %n days by File › Unsaved Work….</numerusform></translation>
+        <translation>
+            <numerusform>It can be brought back for %n day by File › Unsaved Work….</numerusform>
+            <numerusform>It can be brought back for %n days by File › Unsaved Work….</numerusform>
+        </translation>
     </message>
 </context>
 <context>

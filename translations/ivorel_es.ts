@@ -4030,6 +4030,117 @@ Do you want to delete it anyway?</source>
     </message>
 </context>
 <context>
+    <name>vl::app::ReadableFile</name>
+    <message>
+        <source>Place in the text</source>
+        <translation>Lugar en el texto</translation>
+    </message>
+    <message>
+        <source>Media file</source>
+        <translation>Archivo multimedia</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Hecha</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Hecho</translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation>Vence</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Endnote</source>
+        <translation>Nota final</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Campos</translation>
+    </message>
+    <message>
+        <source>Footnotes</source>
+        <translation>Notas al pie</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Under</source>
+        <translation>Dentro de</translation>
+    </message>
+    <message>
+        <source>Who takes part</source>
+        <translation>Quién participa</translation>
+    </message>
+    <message>
+        <source>Text before the revision</source>
+        <translation>Texto anterior a la revisión</translation>
+    </message>
+    <message>
+        <source>Place in the order</source>
+        <translation>Lugar en el orden</translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation>Fuentes</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Comienzo</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiado</translation>
+    </message>
+    <message>
+        <source>Other wordings</source>
+        <translation>Otras redacciones</translation>
+    </message>
+    <message>
+        <source>Earlier versions</source>
+        <translation>Versiones anteriores</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vacío)</translation>
+    </message>
+    <message>
+        <source>another object (%1)</source>
+        <translation>otro objeto (%1)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
     <name>vl::app::RecentlyDeleted</name>
     <message>
         <source>Restore what was deleted</source>
@@ -6222,7 +6333,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Discarded. File › Unsaved Work… keeps it for %n day(s).</source>
-        <translation><numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n día.</numerusform><numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n días.</numerusform></translation>
+        <translation>
+            <numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n día.</numerusform>
+            <numerusform>Descartado. Archivo › Trabajo sin guardar… lo conserva %n días.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Unsaved Work</source>
@@ -6251,7 +6365,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>Nothing unsaved was found in the last %n day(s).</source>
-        <translation><numerusform>No se encontró nada sin guardar en el último %n día.</numerusform><numerusform>No se encontró nada sin guardar en los últimos %n días.</numerusform></translation>
+        <translation>
+            <numerusform>No se encontró nada sin guardar en el último %n día.</numerusform>
+            <numerusform>No se encontró nada sin guardar en los últimos %n días.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Work that was not saved when Ivorel was cut off:</source>
@@ -7700,7 +7817,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>It can be brought back for %n day(s) by File › Unsaved Work….</source>
-        <translation><numerusform>Se puede recuperar durante %n día con Archivo › Trabajo sin guardar….</numerusform><numerusform>Se puede recuperar durante %n días con Archivo › Trabajo sin guardar….</numerusform></translation>
+        <translation>
+            <numerusform>Se puede recuperar durante %n día con Archivo › Trabajo sin guardar….</numerusform>
+            <numerusform>Se puede recuperar durante %n días con Archivo › Trabajo sin guardar….</numerusform>
+        </translation>
     </message>
 </context>
 <context>
