@@ -214,7 +214,8 @@ QString Writer::shortText(const QString &key, const QJsonValue &value) const
         const QVariant number = value.toVariant();
         if (isInstant(key) && m_project)
             return formatInstant(m_project->calendar(), number.toLongLong());
-        return number.toString();
+        return key == QLatin1String("sortIndex") ? QString::number(number.toLongLong() + 1)
+                                                 : number.toString();
     }
     if (value.isArray()) {
         QStringList texts;

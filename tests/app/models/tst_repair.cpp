@@ -380,10 +380,12 @@ void TestRepair::readableFiles_data()
     QTest::newRow("fields") << QByteArray("{\"a\": \"x\", \"b\": 9007199254740993, \"c\": true}")
                             << "A: x\nB: 9007199254740993\nC: yes\n";
     QTest::newRow("the words of the inspector, the title first, the text last")
-        << QByteArray("{\"body\": \"It rains.\", \"pointOfView\": \"Mara\", \"id\": \"x\","
-                      " \"kind\": \"note\", \"wordCountTarget\": 5, \"title\": \"Rain\","
-                      " \"type\": \"document\"}")
-        << "Title: Rain\nKind: Note\nPoint of view: Mara\nWord-count target: 5\n\nIt rains.\n";
+        << QByteArray(
+               "{\"body\": \"It rains.\", \"pointOfView\": \"Mara\", \"id\": \"x\","
+               " \"kind\": \"note\", \"sortIndex\": 0, \"wordCountTarget\": 5, \"title\": \"Rain\","
+               " \"type\": \"document\"}")
+        << "Title: Rain\nKind: Note\nPoint of view: Mara\nPlace in the order: 1\nWord-count "
+           "target: 5\n\nIt rains.\n";
     QTest::newRow("nothing but a name for programs")
         << QByteArray("{\"id\": \"x\", \"aiExcluded\": false, \"synopsis\": \"\"}") << "(empty)\n";
     QTest::newRow("what its category calls its fields")
