@@ -8,7 +8,9 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
+#include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
@@ -26,7 +28,7 @@ DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget 
     setWindowTitle(tr("Open Project"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(grid(6), grid(6), grid(6), grid(6));
-    layout->setSpacing(grid(4));
+    layout->setSpacing(grid(3));
     auto *what = new QLabel(tr("The project does not load. Nothing in it was changed."), this);
     QFont bold = what->font();
     bold.setBold(true);
@@ -47,6 +49,9 @@ DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget 
     layout->addWidget(buttons);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     sizeDialog(this, 180, m_project.leftOut.empty() ? 60 : 140);
+    // At large font scales the texts need more than that, and would be cut.
+    const int needed = layout->totalMinimumHeightForWidth(width());
+    resize(width(), std::clamp(needed, height(), screen()->availableSize().height()));
 }
 
 void DamagedProjectDialog::addFiles(QLayout *layout)
@@ -59,6 +64,7 @@ void DamagedProjectDialog::addFiles(QLayout *layout)
     m_files = new QListWidget(split);
     m_files->setAccessibleName(tr("Files that a repaired copy leaves out"));
     m_files->setUniformItemSizes(true);
+    m_files->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_files->setItemDelegate(new RowDelegate(m_files));
     for (const app::LeftOutFile &file : m_project.leftOut) {
         const app::ConflictingCopy *conflict = conflictOf(file.path);
@@ -100,14 +106,20 @@ void DamagedProjectDialog::showFile(int row)
     }
 }
 
-void DamagedProjectDialog::addAnswers(QLayout *layout)
+/// What each answer does stands beside it, which leaves room for the files on small screens.
+void DamagedProjectDialog::addAnswers(QBoxLayout *layout)
 {
+    auto *answers = new QGridLayout;
+    answers->setHorizontalSpacing(grid(4));
+    answers->setVerticalSpacing(grid(2));
+    answers->setColumnStretch(1, 1);
+    layout->addLayout(answers);
     if (m_project.hasBackup) {
         const QString date =
             m_project.newestBackup.isValid()
                 ? QLocale().toString(m_project.newestBackup.toLocalTime(), QLocale::ShortFormat)
                 : tr("unknown");
-        addAnswer(layout, app::DamageAnswer::OpenBackup, tr("Open newest &backup"),
+        addAnswer(answers, app::DamageAnswer::OpenBackup, tr("Open newest &backup"),
                   tr("As a copy in a place that you choose. It was made: %1").arg(date));
     }
     if (m_project.isRepairable) {
@@ -116,21 +128,21 @@ void DamagedProjectDialog::addAnswers(QLayout *layout)
             explanation += u' '
                            + tr("%n damaged file(s) can be taken from the working copy.", nullptr,
                                 int(m_project.fromWorkingCopy.size()));
-        addAnswer(layout, app::DamageAnswer::RepairedCopy,
+        addAnswer(answers, app::DamageAnswer::RepairedCopy,
                   tr("Make a &repaired copy without the damaged files"), explanation);
     }
     if (!m_project.conflicts.empty() && m_project.conflicts.size() == m_project.leftOut.size())
         addAnswer(
-            layout, app::DamageAnswer::SetAside, tr("&Set the conflicting copies aside"),
+            answers, app::DamageAnswer::SetAside, tr("&Set the conflicting copies aside"),
             tr("They go into the folder “conflicting copies” of the project, then it opens."));
 }
 
-void DamagedProjectDialog::addAnswer(QLayout *layout, app::DamageAnswer answer, const QString &text,
-                                     const QString &explanation)
+void DamagedProjectDialog::addAnswer(QGridLayout *answers, app::DamageAnswer answer,
+                                     const QString &text, const QString &explanation)
 {
     auto *button = new QPushButton(text, this);
     button->setAutoDefault(false);
-    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     button->setAccessibleDescription(explanation);
     connect(button, &QPushButton::clicked, this, [this, answer] {
         m_answer = answer;
@@ -140,11 +152,9 @@ void DamagedProjectDialog::addAnswer(QLayout *layout, app::DamageAnswer answer, 
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setForegroundRole(QPalette::PlaceholderText);
-    auto *group = new QVBoxLayout;
-    group->setSpacing(grid(1));
-    group->addWidget(button);
-    group->addWidget(label);
-    static_cast<QVBoxLayout *>(layout)->addLayout(group);
+    const int row = answers->rowCount();
+    answers->addWidget(button, row, 0);
+    answers->addWidget(label, row, 1);
 }
 
 } // namespace vl::desktop

@@ -4,6 +4,8 @@
 
 #include <QtWidgets/QDialog>
 
+class QBoxLayout;
+class QGridLayout;
 class QListWidget;
 
 namespace vl::desktop {
@@ -22,8 +24,8 @@ public:
 
 private:
     void addFiles(QLayout *layout);
-    void addAnswers(QLayout *layout);
-    void addAnswer(QLayout *layout, app::DamageAnswer answer, const QString &text,
+    void addAnswers(QBoxLayout *layout);
+    void addAnswer(QGridLayout *answers, app::DamageAnswer answer, const QString &text,
                    const QString &explanation);
     void showFile(int row);
     const app::ConflictingCopy *conflictOf(const QString &path) const;

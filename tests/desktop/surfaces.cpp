@@ -291,6 +291,21 @@ void addPrompts(QList<Surface> &list, const QString &text)
         project.message = text;
         prompts.askDamaged(project);
     });
+    ask("askDamaged with all its offers", [text](DialogPrompts &prompts) {
+        app::DamagedProject project;
+        project.path = QStringLiteral("/home/mara/The Low Lamps");
+        const QString file = QStringLiteral("objects/804ddec3-70bb-42bf-916d-857f930b56b7.json");
+        const QString copy = file.chopped(5) + QStringLiteral(" (conflicted copy).json");
+        project.message = QStringLiteral("Duplicate object id 804ddec3-70bb-42bf-916d-857f930b56b7 "
+                                         "in %1/%2")
+                              .arg(project.path, copy);
+        project.leftOut.push_back({copy, project.message});
+        project.conflicts.push_back({copy, file, "{\"title\": \"Dusk\"}", "{\"title\": \"Dawn\"}"});
+        project.hasBackup = true;
+        project.newestBackup = QDateTime(QDate(2026, 11, 21), QTime(12, 3), Qt::UTC);
+        project.isRepairable = true;
+        prompts.askDamaged(project);
+    });
     ask("askLocked", [text](DialogPrompts &prompts) {
         app::LockHolder holder = app::LockHolder::current();
         holder.user = text;
