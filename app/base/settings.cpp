@@ -17,6 +17,14 @@ QString nameOf(const SettingKey &key)
     return QString::fromLatin1(key.name);
 }
 
+/// The key as the toolkit has it after it has read it from a file: the group "general" alone comes
+/// back with another letter than it went.
+QString stored(const QString &key)
+{
+    static const QLatin1String group("general/");
+    return key.startsWith(group) ? QLatin1String("General/") + key.mid(group.size()) : key;
+}
+
 } // namespace
 
 Settings::Settings()
@@ -51,7 +59,7 @@ bool Settings::areKept() const
 
 QString Settings::text(const SettingKey &key) const
 {
-    return m_store->value(nameOf(key), QString::fromUtf8(key.defaultValue)).toString();
+    return m_store->value(stored(nameOf(key)), QString::fromUtf8(key.defaultValue)).toString();
 }
 
 bool Settings::flag(const SettingKey &key) const
@@ -71,19 +79,19 @@ void Settings::set(const SettingKey &key, bool value)
 
 QString Settings::text(const QString &key) const
 {
-    return m_store->value(key).toString();
+    return m_store->value(stored(key)).toString();
 }
 
 bool Settings::contains(const QString &key) const
 {
-    return m_store->contains(key);
+    return m_store->contains(stored(key));
 }
 
 void Settings::set(const QString &key, const QString &value)
 {
     if (contains(key) && text(key) == value)
         return;
-    m_store->setValue(key, value);
+    m_store->setValue(stored(key), value);
     Q_EMIT m_changes->changed(key);
 }
 
@@ -91,18 +99,18 @@ void Settings::remove(const QString &key)
 {
     if (!contains(key))
         return;
-    m_store->remove(key);
+    m_store->remove(stored(key));
     Q_EMIT m_changes->changed(key);
 }
 
 QByteArray Settings::bytes(const QString &key) const
 {
-    return m_store->value(key).toByteArray();
+    return m_store->value(stored(key)).toByteArray();
 }
 
 void Settings::setBytes(const QString &key, const QByteArray &value)
 {
-    m_store->setValue(key, value);
+    m_store->setValue(stored(key), value);
 }
 
 QStringList Settings::recentProjects() const

@@ -157,11 +157,15 @@ void StartUp::tellOfSettings()
 
 void StartUp::open()
 {
+    const bool isCapture = !m_launch.captureFile.isEmpty();
+    // Its time begins when the project stands there, or a message about it that nobody answers.
+    if (isCapture)
+        QMetaObject::invokeMethod(
+            this, [this] { QTimer::singleShot(captureMilliseconds, this, &StartUp::capture); },
+            Qt::QueuedConnection);
     const QString &path = m_launch.options.projectPath;
     const bool isOpen = !path.isEmpty() && m_window->openProject(path);
-    if (!m_launch.captureFile.isEmpty()) {
-        QTimer::singleShot(captureMilliseconds, this, &StartUp::capture);
-    } else if (!isOpen) {
+    if (!isCapture && !isOpen) {
         reopenLast();
         welcome();
     }

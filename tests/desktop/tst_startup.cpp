@@ -46,6 +46,8 @@ private Q_SLOTS:
     void opensWhatWasAskedFor_data();
     void opensWhatWasAskedFor();
     void capture();
+    void settingsComeBack_data();
+    void settingsComeBack();
     void faultySettings_data();
     void faultySettings();
     void language_data();
@@ -321,6 +323,32 @@ void TestStartUp::capture()
     QCOMPARE(QCoreApplication::exec(), 0);
     const QImage image(picture);
     QCOMPARE(image.size(), startUp.window().size());
+}
+
+void TestStartUp::settingsComeBack_data()
+{
+    QTest::addColumn<QString>("key");
+    for (const char *key : {"general/reopenLast", "general/layout", "appearance/theme",
+                            "recentProjects", "shortcuts/file.open"})
+        QTest::newRow(key) << QString(QLatin1String(key));
+}
+
+void TestStartUp::settingsComeBack()
+{
+    QFETCH(QString, key);
+    Start start;
+    {
+        app::Settings settings(start.settingsFile);
+        settings.set(key, QStringLiteral("kept"));
+    }
+    // Read from another file: what is in memory of the first is not asked.
+    const QString copy = start.dir.filePath(QStringLiteral("copy.ini"));
+    QVERIFY(QFile::copy(start.settingsFile, copy));
+    app::Settings settings(copy);
+    QVERIFY(settings.contains(key));
+    QCOMPARE(settings.text(key), QStringLiteral("kept"));
+    settings.remove(key);
+    QVERIFY(!settings.contains(key));
 }
 
 void TestStartUp::faultySettings_data()
