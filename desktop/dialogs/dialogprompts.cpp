@@ -7,6 +7,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
@@ -22,10 +23,11 @@ const QLatin1String bundleSuffix(".vellum");
 constexpr int boxSteps = 80; ///< the least width of the text in a box
 constexpr int fieldSteps = 90;
 
-/// The text with places to break its paths at, which may be longer than a line.
+/// The text with places to break its paths at, which may be longer than a line; dates stay whole.
 QString breakable(const QString &text)
 {
-    return QString(text).replace(u'/', QStringLiteral("/\u200b"));
+    static const QRegularExpression slash(QStringLiteral("(?<!\\d)/|/(?!\\d)"));
+    return QString(text).replace(slash, QStringLiteral("/\u200b"));
 }
 
 /// A question or notice. Names that the user gave stand in it, so that nothing is taken for markup.
