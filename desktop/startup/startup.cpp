@@ -8,6 +8,7 @@
 #include "desktop/startup/handover.h"
 #include "desktop/startup/updatecheck.h"
 #include "desktop/startup/updatestatus.h"
+#include "desktop/widgets/caretrest.h"
 #include "desktop/widgets/focusring.h"
 #include "desktop/widgets/programstyle.h"
 
@@ -72,6 +73,7 @@ void StartUp::applyLook()
     QApplication::setStyle(new ProgramStyle); // the application owns it
     Appearance::apply(m_settings);
     m_focusRing = std::make_unique<FocusRing>();
+    m_caretRest = std::make_unique<CaretRest>();
 }
 
 void StartUp::showWindow()

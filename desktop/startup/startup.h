@@ -16,6 +16,7 @@ class Prompts;
 
 namespace vl::desktop {
 
+class CaretRest;
 class FocusRing;
 class HandOver;
 class MainWindow;
@@ -78,6 +79,7 @@ private:
     std::unique_ptr<SingleInstanceServer> m_server;
     std::unique_ptr<Translations> m_translations;
     std::unique_ptr<FocusRing> m_focusRing;
+    std::unique_ptr<CaretRest> m_caretRest;
     std::unique_ptr<MainWindow> m_window;
     HandOver *m_handOver = nullptr;
     UpdateCheck *m_updates = nullptr;

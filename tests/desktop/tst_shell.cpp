@@ -7,6 +7,7 @@
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/panelhost.h"
 #include "desktop/shell/theme.h"
+#include "desktop/widgets/caretrest.h"
 #include "desktop/widgets/grid.h"
 #include "tests/support/fakeprompts.h"
 
@@ -14,6 +15,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void theFontScaleReachesWhatIsOpen();
     void mnemonicsAreTold_data();
     void mnemonicsAreTold();
+    void theCaretRests();
 };
 
 void TestShell::cleanup()
@@ -506,6 +509,22 @@ void TestShell::mnemonicsAreTold()
                  qPrintable(action->text() + u'/' + known.value(letter)));
         known.insert(letter, action->text());
     }
+}
+
+void TestShell::theCaretRests()
+{
+    const int flashTime = QApplication::cursorFlashTime();
+    QVERIFY(flashTime > 0);
+    QLineEdit field;
+    field.show();
+    {
+        const desktop::CaretRest rest(1);
+        QTRY_COMPARE(QApplication::cursorFlashTime(), 0);
+        QTest::keyClick(&field, Qt::Key_A);
+        QCOMPARE(QApplication::cursorFlashTime(), flashTime);
+        QTRY_COMPARE(QApplication::cursorFlashTime(), 0);
+    }
+    QCOMPARE(QApplication::cursorFlashTime(), flashTime);
 }
 
 QTEST_MAIN(TestShell)
