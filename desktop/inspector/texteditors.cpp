@@ -1,8 +1,8 @@
 #include "desktop/inspector/texteditors.h"
 
 #include "app/models/editortext.h"
-#include "app/models/objectsummary.h"
 #include "app/models/inspectormodel.h"
+#include "app/models/objectsummary.h"
 #include "app/models/referencesmodel.h"
 #include "app/models/workspace.h"
 #include "desktop/panels/panelcontext.h"

@@ -167,8 +167,8 @@ void SafeKeeping::review()
     if (m_dialog)
         return;
     m_context.workspace.flush();
-    ExternalChangesDialog dialog(m_outside.state(), m_outside.entries(),
-                                 &m_context.workspace, m_window);
+    ExternalChangesDialog dialog(m_outside.state(), m_outside.entries(), &m_context.workspace,
+                                 m_window);
     m_dialog = &dialog;
     if (dialog.exec() == QDialog::Accepted && mayRemoveMuch())
         m_outside.apply(dialog.resolution());

@@ -12,7 +12,7 @@ namespace vl::desktop {
 namespace {
 
 constexpr double legibleContrast = 4.6; ///< a little over what is asked of text
-constexpr double offAmount = 0.6;      ///< of its colour that text keeps where it cannot be used
+constexpr double offAmount = 0.6;       ///< of its colour that text keeps where it cannot be used
 constexpr double highContrast = 7.1;
 constexpr double visibleContrast = 3.1; ///< and of what is to be made out
 
