@@ -14,7 +14,7 @@ namespace vl::cli {
 enum class ExitStatus
 {
     Done = 0,
-    Findings = 1, ///< done, and there is something to report
+    Findings = 1, ///< done, but with findings or conflicts
     Usage = 2,
     Failed = 3
 };

@@ -13,7 +13,7 @@ namespace vl::core {
 
 class CompositeCommand;
 
-/// The history of one project: what was done, what was undone, and where the saved state lies.
+/// Holds the steps of one project both ways, and knows which of its states is the one on disk.
 class CommandStack
 {
 public:
@@ -28,7 +28,7 @@ public:
 
     void setListener(Listener listener) { m_listener = std::move(listener); }
 
-    /// Runs the command, keeps it, and forgets everything that was undone. Null is ignored.
+    /// Executes the command as the newest step; undone steps are gone then. Null is ignored.
     void push(std::unique_ptr<Command> command);
 
     /// Opens a group: what is pushed until the matching endMacro() is one step. Inside an open
@@ -70,9 +70,9 @@ private:
     void notify(const ChangeSet &changes) const;
     void dropRedo();
 
-    std::vector<std::unique_ptr<Command>> m_undo; ///< the last executed at the end
-    std::vector<std::unique_ptr<Command>> m_redo; ///< the last undone at the end
-    qsizetype m_cleanIndex = 0; ///< length of m_undo at the last save; -1 when no position matches
+    std::vector<std::unique_ptr<Command>> m_undo; ///< newest step last
+    std::vector<std::unique_ptr<Command>> m_redo; ///< next to redo last
+    qsizetype m_cleanIndex = 0; ///< how many steps the saved state has; -1 for none of ours
     std::unique_ptr<CompositeCommand> m_openGroup;
     int m_groupDepth = 0;
     quint64 m_branch = 0;

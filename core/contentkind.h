@@ -4,7 +4,7 @@
 
 namespace vl::core {
 
-/// The kind of a content object, fixed when the object is made.
+/// What a content object is; it never turns into something else.
 enum class ContentKind
 {
     Document,

@@ -46,7 +46,7 @@ public:
     }
     bool contains(const ContentId &id) const { return m_objects.contains(id); }
     qsizetype size() const { return qsizetype(m_objects.size()); }
-    /// The ids of all objects, in id order.
+    /// Every object's id, sorted.
     std::vector<ContentId> ids() const;
     /// All objects of a class, in id order.
     template<typename T>

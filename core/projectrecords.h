@@ -34,7 +34,7 @@ struct PlotThread
 {
     QString name;
     QString description;
-    ContentId characterId; ///< null when the thread follows no character
+    ContentId characterId; ///< null: a thread of no one person
     QString color;
 
     bool operator==(const PlotThread &) const = default;
@@ -79,7 +79,7 @@ struct TimelineMarker
     bool operator==(const TimelineMarker &) const = default;
 };
 
-/// A saved visible range of the timeline.
+/// A stretch of the timeline to come back to.
 struct TimelineBookmark
 {
     QString name;

@@ -73,7 +73,7 @@ struct SaveReport
     QString backupPath; ///< what others wrote, when it was overwritten
 };
 
-/// Writes the bundle, with the other files of its working copy, then brings the copy up to date.
+/// Writes the bundle and what else its working copy holds; the copy itself follows afterwards.
 SaveReport saveBundle(const BundleSave &save, const StorageLocations &locations);
 
 /// Writes a bundle at another place, with what is to be carried along from the folder that the

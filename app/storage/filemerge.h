@@ -8,7 +8,7 @@
 
 namespace vl::app {
 
-/// The three-way line merge of three files, byte for byte in whatever encoding they are.
+/// Merges the lines of three files as bytes, so that no encoding is read into them.
 struct FileMerge
 {
     Q_DECLARE_TR_FUNCTIONS(vl::app::FileMerge)

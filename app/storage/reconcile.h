@@ -22,10 +22,10 @@ enum class ReconcileState
     ConflictEdited = 4,  ///< both changed the same lines
     AddedLocally = 5,    ///< in neither base nor remote
     AddedRemotely = 6,   ///< in neither base nor local
-    ConflictAdded = 7,   ///< added on both sides with different texts
+    ConflictAdded = 7,   ///< both added it, not with the same text
     DeletedLocally = 8,  ///< gone locally, remote as in the base
     DeletedRemotely = 9, ///< gone on disk, local as in the base
-    ConflictDeleted = 10 ///< gone on one side, changed on the other
+    ConflictDeleted = 10 ///< one side removed it, one edited it
 };
 
 /// Whether a file in this state waits for the user's decision.

@@ -108,7 +108,7 @@ private:
 /// The path of a bundle as its working copy and its marker know it: absolute and clean.
 QString absoluteBundlePath(const QString &path);
 
-/// The file name without its last extension, reduced to characters that are safe in a file name.
+/// What a working copy is called after: the bundle's base name with unsafe characters taken out.
 QString bundleBaseName(const QString &path);
 
 } // namespace vl::app

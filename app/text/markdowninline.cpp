@@ -169,7 +169,7 @@ void MarkdownInline::render(QStringView text)
         if (m_footnotes.hasNumbered())
             replaceFootnoteReferences();
         if (m_seen & SeenImage)
-            replaceTargets(Target::Image); // first, so that an image is never taken for a link
+            replaceTargets(Target::Image); // before links: without its "!" it would be one
         replaceTargets(Target::Link);
     }
     if (m_seen & (SeenAsterisk | SeenTilde | SeenCode | SeenEscape))

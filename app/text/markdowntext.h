@@ -19,8 +19,8 @@ struct ObjectEmbed
 /// way back is clear only for text that has no backslash escapes of its own.
 QString escapeMarkdownInline(const QString &text);
 
-/// Keeps a plain line from being read as a rule, list item, quote, heading or numbered item: such a
-/// line gets one backslash at its marker, any other comes back unchanged.
+/// Disarms a line that would start a block (rule, list, quote, heading) with one backslash at its
+/// marker; any other comes back unchanged.
 QString escapeMarkdownLine(const QString &line);
 
 /// Embeds an object of the project: `![[target]]`.

@@ -60,7 +60,7 @@ public:
     virtual QString id() const = 0;
     /// The category of what the rule finds.
     virtual int kind() const = 0;
-    /// All findings in the text, in the order found; takes time linear in its length.
+    /// What the rule has against the text, from front to back; linear in the length.
     virtual QList<StyleIssue> check(QStringView text) const = 0;
 };
 

@@ -23,10 +23,10 @@ QString formatInstant(const core::Reckoning &reckoning, qint64 primaryInstant);
 /// The epoch of a reckoning whose own Year 1 begins with this year of the primary calendar.
 qint64 epochOfPrimaryYear(const core::Calendar &primary, qint64 year);
 
-/// The year of the primary calendar in which the reckoning's own Year 1 begins.
+/// In which primary year the reckoning starts to count.
 qint64 primaryYearOfEpoch(const core::Calendar &primary, const core::Reckoning &reckoning);
 
-/// A reckoning to start from: the primary calendar's months, weekdays and era name, from its epoch.
+/// The reckoning offered first: it names all as the primary calendar does and begins with it.
 core::Reckoning newReckoning(const core::Calendar &primary);
 
 } // namespace vl::app

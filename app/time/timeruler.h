@@ -57,7 +57,7 @@ const QList<TickStep> &tickSteps();
 TickStep chooseTickStep(const core::Calendar &calendar, double pixelsPerMinute,
                         const std::function<double(TickUnit)> &neededSpacing);
 
-/// The first tick at or after an instant; one that leaves 64 bits stops at their end. Where the
+/// Where ticks begin for a view that starts at the instant; clamped to 64 bits. Where the
 /// calendar's months or years have no length, it may lie before the instant.
 qint64 firstTick(const core::Calendar &calendar, TickStep step, qint64 instant);
 

@@ -30,7 +30,7 @@ public:
     const StringSet &tags() const { return m_tags; }
     void setTags(StringSet tags) { m_tags = std::move(tags); }
 
-    /// Whether the object is withheld from everything sent to AI services.
+    /// True keeps the object out of whatever goes to an AI service.
     bool isAiExcluded() const { return m_aiExcluded; }
     void setAiExcluded(bool excluded) { m_aiExcluded = excluded; }
 

@@ -54,7 +54,7 @@ struct Footnote
 {
     QString id; ///< unique within the document
     QString text;
-    bool endnote = false; ///< stands at the end of the work instead of the foot of the page
+    bool endnote = false; ///< printed after the text, not below its page
 
     bool operator==(const Footnote &) const = default;
 };

@@ -20,8 +20,8 @@ QString singleInstanceServerName(const QString &userName);
 /// The user's name as the environment has it, empty when it has none.
 QString environmentUserName();
 
-/// Hands a message to the process that listens on the name: true when one took it. Waits at most
-/// 300 ms for the connection and 1000 ms for the bytes to go out. A listener of another user counts
+/// Hands a message to the process that listens on the name: true when one took it. Gives up when
+/// connecting takes 300 ms or writing 1000 ms. A listener of another user counts
 /// as none, and so does everybody when the message holds a line feed, which ends a message.
 bool sendToRunningInstance(const QString &serverName, const QString &message);
 

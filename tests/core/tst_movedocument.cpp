@@ -23,7 +23,7 @@ private Q_SLOTS:
 
 void TestMoveDocument::move_data()
 {
-    QTest::addColumn<QString>("before"); // one title a line, indented under its parent
+    QTest::addColumn<QString>("before"); // the tree as treeText() prints it
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("newParent"); // empty for the top level
     QTest::addColumn<int>("position");
