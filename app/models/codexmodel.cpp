@@ -34,47 +34,16 @@ QLocale sortingLocale()
 
 } // namespace
 
-struct CodexModel::Node
-{
-    ContentId id;
-    bool isCategory = true;
-    bool passes = true; ///< the filter, by itself
-    int row = -1;       ///< among the shown rows of the parent, -1 while hidden
-    Node *parent = nullptr;
-    Nodes children; ///< all, in order: categories, then entities
-    Nodes shown;    ///< those that are rows
-    QString name;
-    QString searched;
-    std::optional<QCollatorSortKey> sortKey;
-};
-
 CodexModel::CodexModel(Workspace &workspace, QObject *parent)
-    : ObjectTreeModel(parent)
+    : FilteredRows(parent)
     , m_workspace(workspace)
     , m_collator(sortingLocale())
-    , m_root(std::make_unique<Node>())
 {
     m_collator.setNumericMode(true);
     m_collator.setCaseSensitivity(Qt::CaseInsensitive);
     connect(&workspace, &Workspace::projectReplaced, this, &CodexModel::reset);
     connect(&workspace, &Workspace::changed, this, &CodexModel::apply);
     reset();
-}
-
-CodexModel::~CodexModel()
-{
-    qDeleteAll(m_nodes);
-}
-
-ContentId CodexModel::idAt(const QModelIndex &index) const
-{
-    return nodeAt(index)->id;
-}
-
-QModelIndex CodexModel::indexOf(const ContentId &id, int column) const
-{
-    const Node *node = m_nodes.value(id);
-    return node ? indexOf(*node, column) : QModelIndex();
 }
 
 bool CodexModel::isCategory(const QModelIndex &index) const
@@ -87,9 +56,7 @@ bool CodexModel::isCategory(const QModelIndex &index) const
 void CodexModel::reset()
 {
     beginResetModel();
-    qDeleteAll(m_nodes);
-    m_nodes.clear();
-    m_root = std::make_unique<Node>();
+    clearNodes();
     m_entityCount = 0;
     const core::Project &project = m_workspace.project();
     const std::set<ContentId> &pinned = project.pinned();
@@ -101,7 +68,7 @@ void CodexModel::reset()
         parent->children.push_back(node);
     };
     // A place's parent is the nearest place before it that is one step less deep.
-    Nodes path{m_root.get()};
+    Nodes path{&root()};
     for (const core::Taxonomy::Place &place : project.taxonomy().inTreeOrder()) {
         path.resize(std::size_t(place.depth) + 1);
         Node *node = addNode(place.category->id, true);
@@ -110,8 +77,8 @@ void CodexModel::reset()
     }
     for (const Entity *entity : project.all<Entity>())
         join(addNode(entity->id(), false), &wantedParent(*entity));
-    std::sort(m_root->children.begin(), m_root->children.end(), standsBefore);
-    for (Node *node : std::as_const(m_nodes))
+    std::sort(root().children.begin(), root().children.end(), standsBefore);
+    for (Node *node : nodes())
         std::sort(node->children.begin(), node->children.end(), standsBefore);
     filterAll();
     endResetModel();
@@ -120,7 +87,10 @@ void CodexModel::reset()
 void CodexModel::apply(const ChangeSet &changes)
 {
     if (changes.objects().size() + changes.categories().size() > fewRows)
-        changeLayout([&] { follow(changes); });
+        changeLayout([&] {
+            follow(changes);
+            m_touchedCounts.clear(); // the whole layout is drawn anew
+        });
     else
         follow(changes);
     emitCounts();
@@ -139,33 +109,11 @@ void CodexModel::follow(const ChangeSet &changes)
             updateEntity(id);
     for (const ChangeSet::Changes *gone : {&changes.objects(), &changes.categories()}) {
         for (const auto &[id, change] : *gone) {
-            Node *node = change == ChangeSet::Change::Removed ? m_nodes.value(id) : nullptr;
+            Node *node = change == ChangeSet::Change::Removed ? find(id) : nullptr;
             if (node && !project.contains(id) && !project.taxonomy().contains(id))
                 removeNode(*node);
         }
     }
-}
-
-template<typename Work>
-void CodexModel::changeLayout(const Work &work)
-{
-    Q_EMIT layoutAboutToBeChanged();
-    const QModelIndexList before = persistentIndexList();
-    std::vector<ContentId> ids;
-    ids.reserve(std::size_t(before.size()));
-    for (const QModelIndex &index : before)
-        ids.push_back(idAt(index));
-    m_isQuiet = true;
-    work();
-    filterAll();
-    m_isQuiet = false;
-    m_touchedCounts.clear(); // the whole layout is drawn anew
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (qsizetype i = 0; i < before.size(); ++i)
-        after.append(indexOf(ids[std::size_t(i)], before[i].column()));
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged();
 }
 
 void CodexModel::refreshPins()
@@ -178,12 +126,10 @@ void CodexModel::refreshPins()
             Q_EMIT dataChanged(index, index, {IsPinnedRole, Qt::AccessibleTextRole});
 }
 
-CodexModel::Node *CodexModel::addNode(const ContentId &id, bool isCategory)
+CodexNode *CodexModel::addNode(const ContentId &id, bool isCategory)
 {
-    auto *node = new Node;
-    node->id = id;
+    Node *node = FilteredRows::addNode(id);
     node->isCategory = isCategory;
-    m_nodes.insert(id, node);
     m_entityCount += !isCategory;
     return node;
 }
@@ -192,22 +138,21 @@ void CodexModel::removeNode(Node &node)
 {
     // What lies below it and stays in the project comes to the top level, in reach.
     while (!node.children.empty())
-        place(*node.children.back(), *m_root);
+        place(*node.children.back(), root());
     if (node.row >= 0)
         hide(node);
     Node &parent = *node.parent;
     parent.children.erase(placeIn(parent.children, &node));
     m_entityCount -= !node.isCategory;
-    m_nodes.remove(node.id);
+    dropNode(node);
     touchCounts(&parent);
     hideEmptied(parent);
-    delete &node;
 }
 
 void CodexModel::updateCategory(const ContentId &id)
 {
     const Category &category = *m_workspace.project().taxonomy().find(id);
-    Node *node = m_nodes.value(id);
+    Node *node = find(id);
     const bool isNew = !node;
     if (isNew)
         node = addNode(id, true);
@@ -217,28 +162,28 @@ void CodexModel::updateCategory(const ContentId &id)
 
 void CodexModel::updateEntity(const ContentId &id)
 {
-    Node *node = m_nodes.value(id);
+    Node *node = find(id);
     if (!node)
         node = addNode(id, false);
     place(*node, wantedParent(*m_workspace.project().find<Entity>(id)));
 }
 
-CodexModel::Node &CodexModel::wantedParent(const Node &node) const
+CodexNode &CodexModel::wantedParent(const Node &node) const
 {
     const core::Project &project = m_workspace.project();
     if (const Category *category = node.isCategory ? project.taxonomy().find(node.id) : nullptr)
         return wantedParent(*category);
     const Entity *entity = node.isCategory ? nullptr : project.find<Entity>(node.id);
-    return entity ? wantedParent(*entity) : *m_root;
+    return entity ? wantedParent(*entity) : root();
 }
 
 void CodexModel::adoptLost(bool alsoEntities)
 {
     Nodes lost;
-    for (Node *node : m_root->children) {
+    for (Node *node : root().children) {
         if (!node->isCategory && !alsoEntities)
             break;
-        if (&wantedParent(*node) != m_root.get())
+        if (!isRoot(wantedParent(*node)))
             lost.push_back(node);
     }
     for (Node *node : lost)
@@ -251,13 +196,13 @@ void CodexModel::place(Node &node, Node &parent)
     const bool wasShown = node.row >= 0;
     if (from)
         from->children.erase(placeIn(from->children, &node));
-    if (m_isQuiet || !wasShown) {
+    if (isQuiet() || !wasShown) {
         if (wasShown) // the rows are in order only while it has its old name
             from->shown.erase(placeIn(from->shown, &node));
         node.row = -1;
         readTexts(node);
         node.parent = &parent;
-        if (!m_isQuiet && (node.passes || !node.shown.empty()))
+        if (!isQuiet() && (node.passes || !node.shown.empty()))
             show(node);
     } else {
         moveShown(node, parent);
@@ -276,7 +221,7 @@ void CodexModel::place(Node &node, Node &parent)
 void CodexModel::moveShown(Node &node, Node &parent)
 {
     Node &from = *node.parent;
-    if (&parent != m_root.get() && parent.row < 0)
+    if (!isRoot(parent) && parent.row < 0)
         show(parent);
     readTexts(node);
     if (!node.passes && node.shown.empty()) {
@@ -302,8 +247,8 @@ void CodexModel::moveShown(Node &node, Node &parent)
             --target;
         parent.shown.insert(parent.shown.begin() + target, &node);
         node.parent = &parent;
-        renumber(from, std::size_t(&from == &parent ? std::min(row, target) : row));
-        renumber(parent, std::size_t(&from == &parent ? std::min(row, target) : target));
+        renumber(from, &from == &parent ? std::min(row, target) : row);
+        renumber(parent, &from == &parent ? std::min(row, target) : target);
         endMoveRows();
     }
     Q_EMIT dataChanged(indexOf(node), indexOf(node, CountColumn));
@@ -312,13 +257,13 @@ void CodexModel::moveShown(Node &node, Node &parent)
 void CodexModel::show(Node &node)
 {
     Node &parent = *node.parent;
-    const bool isVisible = &parent == m_root.get() || parent.row >= 0;
+    const bool isVisible = isRoot(parent) || parent.row >= 0;
     const auto position = placeIn(parent.shown, &node);
     const int row = int(position - parent.shown.begin());
     if (isVisible)
         beginInsertRows(indexOf(parent), row, row);
     parent.shown.insert(position, &node);
-    renumber(parent, std::size_t(row));
+    renumber(parent, row);
     if (isVisible)
         endInsertRows();
     else
@@ -328,23 +273,23 @@ void CodexModel::show(Node &node)
 void CodexModel::hide(Node &node)
 {
     Node &parent = *node.parent;
-    if (!m_isQuiet)
+    if (!isQuiet())
         beginRemoveRows(indexOf(parent), node.row, node.row);
     const int row = std::exchange(node.row, -1);
-    if (m_isQuiet) {
+    if (isQuiet()) {
         parent.shown.erase(std::find(parent.shown.begin(), parent.shown.end(), &node));
     } else {
         parent.shown.erase(parent.shown.begin() + row);
-        renumber(parent, std::size_t(row));
+        renumber(parent, row);
         endRemoveRows();
     }
 }
 
 void CodexModel::hideEmptied(Node &category)
 {
-    if (m_isQuiet)
+    if (isQuiet())
         return;
-    for (Node *node = &category; node != m_root.get(); node = node->parent) {
+    for (Node *node = &category; !isRoot(*node); node = node->parent) {
         if (node->row < 0 || node->passes || !node->shown.empty())
             return;
         hide(*node);
@@ -353,7 +298,7 @@ void CodexModel::hideEmptied(Node &category)
 
 void CodexModel::touchCounts(const Node *node)
 {
-    for (; node && node != m_root.get(); node = node->parent)
+    for (; node && !isRoot(*node); node = node->parent)
         m_touchedCounts.insert(node->id);
 }
 
@@ -364,21 +309,21 @@ void CodexModel::emitCounts()
             Q_EMIT dataChanged(index, index);
 }
 
-CodexModel::Node &CodexModel::wantedParent(const Entity &entity) const
+CodexNode &CodexModel::wantedParent(const Entity &entity) const
 {
-    Node *category = m_nodes.value(entity.categoryId());
-    return category && category->isCategory ? *category : *m_root;
+    Node *category = find(entity.categoryId());
+    return category && category->isCategory ? *category : root();
 }
 
-CodexModel::Node &CodexModel::wantedParent(const Category &category) const
+CodexNode &CodexModel::wantedParent(const Category &category) const
 {
-    Node *parent = m_nodes.value(category.parentId);
+    Node *parent = find(category.parentId);
     if (!parent || !parent->isCategory)
-        return *m_root;
+        return root();
     // Only a damaged project holds a cycle of parents; it is opened where it would close here.
     for (const Node *above = parent; above; above = above->parent)
         if (above->id == category.id)
-            return *m_root;
+            return root();
     return *parent;
 }
 
@@ -407,8 +352,7 @@ void CodexModel::readTexts(Node &node) const
 
 bool CodexModel::passes(const Node &node) const
 {
-    return std::all_of(m_terms.begin(), m_terms.end(),
-                       [&](const QString &term) { return node.searched.contains(term); });
+    return holdsTerms(node.searched);
 }
 
 bool CodexModel::standsBefore(const Node *a, const Node *b)
@@ -419,63 +363,9 @@ bool CodexModel::standsBefore(const Node *a, const Node *b)
     return order != 0 ? order < 0 : a->id < b->id;
 }
 
-CodexModel::Nodes::iterator CodexModel::placeIn(Nodes &nodes, const Node *node)
+std::vector<CodexNode *>::iterator CodexModel::placeIn(Nodes &nodes, const Node *node)
 {
     return std::lower_bound(nodes.begin(), nodes.end(), node, standsBefore);
-}
-
-void CodexModel::renumber(Node &parent, std::size_t first) const
-{
-    for (std::size_t row = first; row < parent.shown.size(); ++row)
-        parent.shown[row]->row = int(row);
-}
-
-void CodexModel::setFilter(const QString &text)
-{
-    const QStringList terms = searchText(text).simplified().split(u' ', Qt::SkipEmptyParts);
-    if (terms == m_terms)
-        return;
-    changeLayout([&] {
-        m_terms = terms;
-        for (Node *node : std::as_const(m_nodes))
-            node->passes = passes(*node);
-    });
-}
-
-void CodexModel::filterAll()
-{
-    // Every category stands in the list before those below it.
-    Nodes categories{m_root.get()};
-    for (std::size_t i = 0; i < categories.size(); ++i)
-        for (Node *child : categories[i]->children) {
-            if (!child->isCategory)
-                break;
-            categories.push_back(child);
-        }
-    for (auto category = categories.rbegin(); category != categories.rend(); ++category) {
-        Node &node = **category;
-        node.shown.clear();
-        for (Node *child : node.children) {
-            child->row = -1;
-            if (child->passes || !child->shown.empty()) {
-                child->row = int(node.shown.size());
-                node.shown.push_back(child);
-            }
-        }
-    }
-}
-
-QModelIndex CodexModel::firstMatch() const
-{
-    Nodes stack{m_root.get()};
-    while (!stack.empty()) {
-        const Node *node = stack.back();
-        stack.pop_back();
-        if (node != m_root.get() && node->passes)
-            return indexOf(*node);
-        stack.insert(stack.end(), node->shown.rbegin(), node->shown.rend());
-    }
-    return {};
 }
 
 QList<ContentId> CodexModel::branches() const
@@ -507,43 +397,6 @@ int CodexModel::countIn(const Node &node) const
 }
 
 // --- rows
-
-CodexModel::Node *CodexModel::nodeAt(const QModelIndex &index) const
-{
-    return index.isValid() ? static_cast<Node *>(index.internalPointer()) : m_root.get();
-}
-
-QModelIndex CodexModel::indexOf(const Node &node, int column) const
-{
-    // Of the rows of a hidden branch none is there to be seen.
-    for (const Node *above = &node; above != m_root.get(); above = above->parent)
-        if (above->row < 0)
-            return {};
-    return &node == m_root.get() ? QModelIndex()
-                                 : createIndex(node.row, column, const_cast<Node *>(&node));
-}
-
-QModelIndex CodexModel::index(int row, int column, const QModelIndex &parent) const
-{
-    const Node *node = nodeAt(parent);
-    if (row < 0 || row >= int(node->shown.size()) || column < 0 || column >= ColumnCount
-        || parent.column() > 0)
-        return {};
-    return createIndex(row, column, node->shown[std::size_t(row)]);
-}
-
-QModelIndex CodexModel::parent(const QModelIndex &index) const
-{
-    const Node *above = index.isValid() ? nodeAt(index)->parent : nullptr;
-    return !above || above == m_root.get()
-               ? QModelIndex()
-               : createIndex(above->row, NameColumn, const_cast<Node *>(above));
-}
-
-int CodexModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.column() > 0 ? 0 : int(nodeAt(parent)->shown.size());
-}
 
 int CodexModel::columnCount(const QModelIndex & /*parent*/) const
 {
@@ -639,15 +492,6 @@ bool CodexModel::setData(const QModelIndex &index, const QVariant &value, int ro
     if (role != Qt::EditRole || !index.isValid() || index.column() != NameColumn)
         return false;
     return CodexOperations(m_workspace).rename(idAt(index), value.toString());
-}
-
-Qt::ItemFlags CodexModel::flags(const QModelIndex &index) const
-{
-    if (!index.isValid())
-        return Qt::ItemIsDropEnabled;
-    const Qt::ItemFlags common =
-        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
-    return index.column() == NameColumn ? common | Qt::ItemIsEditable : common;
 }
 
 // --- drag and drop

@@ -55,40 +55,13 @@ std::vector<qsizetype> wordsOf(const Places &places)
 
 } // namespace
 
-struct DocumentsModel::Node
-{
-    core::ContentId id;
-    Node *parent = nullptr;
-    std::vector<std::unique_ptr<Node>> children; ///< all, in order
-    std::vector<Node *> shown;                   ///< those that are rows
-    int row = -1;                                ///< among them, -1 while hidden
-    bool passes = true;                          ///< the filter, by itself
-    mutable QString searched;                    ///< null until a filter asks for it
-    qsizetype words = 0;
-    qsizetype treeWords = 0;
-};
-
 DocumentsModel::DocumentsModel(Workspace &workspace, QObject *parent)
-    : ObjectTreeModel(parent)
+    : FilteredRows(parent)
     , m_workspace(workspace)
-    , m_root(std::make_unique<Node>())
 {
     connect(&workspace, &Workspace::projectReplaced, this, &DocumentsModel::reset);
     connect(&workspace, &Workspace::changed, this, &DocumentsModel::apply);
     reset();
-}
-
-DocumentsModel::~DocumentsModel() = default;
-
-core::ContentId DocumentsModel::idAt(const QModelIndex &index) const
-{
-    return nodeAt(index)->id;
-}
-
-QModelIndex DocumentsModel::indexOf(const core::ContentId &id, int column) const
-{
-    const Node *node = m_nodes.value(id);
-    return node ? indexOf(*node, column) : QModelIndex();
 }
 
 // --- following the project
@@ -96,25 +69,21 @@ QModelIndex DocumentsModel::indexOf(const core::ContentId &id, int column) const
 void DocumentsModel::reset()
 {
     beginResetModel();
-    m_root = std::make_unique<Node>();
-    m_nodes.clear();
+    clearNodes();
     const auto places = m_workspace.project().documentTree().inOrder();
     const std::vector<qsizetype> words = wordsOf(places);
     auto count = words.begin();
-    m_nodes.reserve(qsizetype(places.size()));
     // A place's parent is the nearest place before it that is one step less deep.
-    std::vector<Node *> path{m_root.get()};
+    Nodes path{&root()};
     for (const core::DocumentTree::Place &place : places) {
         path.resize(size_t(place.depth) + 1);
-        auto node = std::make_unique<Node>();
-        node->id = place.document->id();
+        Node *node = addNode(place.document->id());
         node->parent = path.back();
         node->words = *count++;
-        m_nodes.insert(node->id, node.get());
-        path.push_back(node.get());
-        for (Node *above = node.get(); above; above = above->parent)
+        node->parent->children.push_back(node);
+        path.push_back(node);
+        for (Node *above = node; above; above = above->parent)
             above->treeWords += node->words;
-        path[path.size() - 2]->children.push_back(std::move(node));
     }
     filterAll();
     endResetModel();
@@ -133,7 +102,7 @@ void DocumentsModel::follow(const core::ChangeSet &changes)
     std::vector<core::Document *> present;
     for (const auto &[id, change] : changes.objects()) {
         if (change == core::ChangeSet::Change::Removed) {
-            if (Node *node = m_nodes.value(id))
+            if (Node *node = find(id))
                 removeNode(*node);
         } else if (auto *document = m_workspace.project().find<core::Document>(id)) {
             present.push_back(document);
@@ -143,10 +112,10 @@ void DocumentsModel::follow(const core::ChangeSet &changes)
     std::sort(present.begin(), present.end(),
               [this](const auto *a, const auto *b) { return standsBefore(*a, *b); });
     for (const core::Document *document : present)
-        if (!m_nodes.contains(document->id()))
+        if (!find(document->id()))
             insertNode(*document);
     for (const core::Document *document : present) {
-        Node &node = *m_nodes.value(document->id());
+        Node &node = *find(document->id());
         placeNode(node);
         refresh(node);
     }
@@ -156,7 +125,7 @@ bool DocumentsModel::changesRows(const core::ChangeSet &changes) const
 {
     return std::any_of(changes.objects().begin(), changes.objects().end(), [&](const auto &entry) {
         const auto &[id, change] = entry;
-        const Node *node = m_nodes.value(id);
+        const Node *node = find(id);
         if (change == core::ChangeSet::Change::Removed)
             return node != nullptr;
         const auto *document = m_workspace.project().find<core::Document>(id);
@@ -169,52 +138,31 @@ bool DocumentsModel::changesRows(const core::ChangeSet &changes) const
     });
 }
 
-template<typename Work>
-void DocumentsModel::changeLayout(const Work &work)
-{
-    Q_EMIT layoutAboutToBeChanged();
-    const QModelIndexList before = persistentIndexList();
-    std::vector<core::ContentId> ids;
-    ids.reserve(size_t(before.size()));
-    for (const QModelIndex &index : before)
-        ids.push_back(idAt(index));
-    m_isQuiet = true;
-    work();
-    filterAll();
-    m_isQuiet = false;
-    QModelIndexList after;
-    after.reserve(before.size());
-    for (qsizetype i = 0; i < before.size(); ++i)
-        after.append(indexOf(ids[size_t(i)], before[i].column()));
-    changePersistentIndexList(before, after);
-    Q_EMIT layoutChanged();
-}
-
 void DocumentsModel::removeNode(Node &node)
 {
     // Documents below it that stay in the project come to the top level, in reach.
     while (!node.children.empty()) {
         Node &child = *node.children.back();
         if (const core::Document *below = document(child)) {
-            const int row = wantedRow(*below, *m_root);
-            if (!m_isQuiet)
+            const int row = wantedRow(*below, root());
+            if (!isQuiet())
                 beginMoveRows(indexOf(node), child.row, child.row, {}, row);
-            std::unique_ptr<Node> taken = take(child);
-            changeWords(&node, -taken->treeWords);
-            changeWords(m_root.get(), taken->treeWords);
-            put(*m_root, row, std::move(taken));
-            if (!m_isQuiet)
+            take(child);
+            changeWords(&node, -child.treeWords);
+            changeWords(&root(), child.treeWords);
+            put(root(), row, child);
+            if (!isQuiet())
                 endMoveRows();
         } else {
             removeNode(child);
         }
     }
     changeWords(node.parent, -node.treeWords);
-    if (!m_isQuiet)
+    if (!isQuiet())
         beginRemoveRows(indexOf(*node.parent), node.row, node.row);
-    m_nodes.remove(node.id);
-    take(node).reset();
-    if (!m_isQuiet)
+    take(node);
+    dropNode(node);
+    if (!isQuiet())
         endRemoveRows();
 }
 
@@ -222,14 +170,11 @@ void DocumentsModel::insertNode(const core::Document &document)
 {
     Node *parent = wantedParent(document);
     const int row = wantedRow(document, *parent);
-    auto node = std::make_unique<Node>();
-    node->id = document.id();
-    Node *added = node.get();
-    if (!m_isQuiet)
+    if (!isQuiet())
         beginInsertRows(indexOf(*parent), row, row);
-    m_nodes.insert(document.id(), added);
-    put(*parent, row, std::move(node));
-    if (!m_isQuiet)
+    Node *added = addNode(document.id());
+    put(*parent, row, *added);
+    if (!isQuiet())
         endInsertRows();
     adoptLostChildren(*added);
 }
@@ -239,7 +184,7 @@ void DocumentsModel::adoptLostChildren(Node &node)
     const std::vector<core::Document *> below =
         m_workspace.project().documentTree().children(node.id);
     for (const core::Document *child : below)
-        if (Node *childNode = m_nodes.value(child->id()))
+        if (Node *childNode = find(child->id()))
             placeNode(*childNode);
 }
 
@@ -254,46 +199,37 @@ void DocumentsModel::placeNode(Node &node)
         return;
     // Rows are told as they stand before the move.
     const int destination = from == to && wanted > row ? wanted + 1 : wanted;
-    if (!m_isQuiet)
+    if (!isQuiet())
         beginMoveRows(indexOf(*from), row, row, indexOf(*to), destination);
-    std::unique_ptr<Node> taken = take(node);
+    take(node);
     if (from != to) {
         changeWords(from, -node.treeWords);
         changeWords(to, node.treeWords);
     }
-    put(*to, wanted, std::move(taken));
-    if (!m_isQuiet)
+    put(*to, wanted, node);
+    if (!isQuiet())
         endMoveRows();
 }
 
-std::unique_ptr<DocumentsModel::Node> DocumentsModel::take(Node &node)
+void DocumentsModel::take(Node &node)
 {
     Node &parent = *node.parent;
-    const auto place = parent.children.begin() + placeOf(node);
-    std::unique_ptr<Node> taken = std::move(*place);
-    parent.children.erase(place);
+    parent.children.erase(parent.children.begin() + placeOf(node));
     if (const int row = std::exchange(node.row, -1); row >= 0) {
         parent.shown.erase(parent.shown.begin() + row);
         renumber(parent, row);
     }
-    return taken;
 }
 
-void DocumentsModel::put(Node &parent, int row, std::unique_ptr<Node> node)
+void DocumentsModel::put(Node &parent, int row, Node &node)
 {
-    node->parent = &parent;
+    node.parent = &parent;
     // While rows are hidden a new layout follows, which finds them all again.
     if (parent.shown.size() == parent.children.size()) {
-        parent.shown.insert(parent.shown.begin() + row, node.get());
+        parent.shown.insert(parent.shown.begin() + row, &node);
         renumber(parent, row);
     }
-    parent.children.insert(parent.children.begin() + row, std::move(node));
-}
-
-void DocumentsModel::renumber(Node &parent, int firstRow)
-{
-    for (size_t row = size_t(firstRow); row < parent.shown.size(); ++row)
-        parent.shown[row]->row = int(row);
+    parent.children.insert(parent.children.begin() + row, &node);
 }
 
 void DocumentsModel::refresh(Node &node)
@@ -313,7 +249,7 @@ void DocumentsModel::changeWords(Node *node, qsizetype difference)
         return;
     for (Node *above = node; above; above = above->parent) {
         above->treeWords += difference;
-        if (above != m_root.get())
+        if (!isRoot(*above))
             emitRow(*above, WordsColumn, WordsColumn);
     }
 }
@@ -321,27 +257,27 @@ void DocumentsModel::changeWords(Node *node, qsizetype difference)
 void DocumentsModel::emitRow(const Node &node, int firstColumn, int lastColumn)
 {
     // The rows of a hidden branch are nowhere to be seen.
-    const QModelIndex first = m_isQuiet ? QModelIndex() : indexOf(node, firstColumn);
+    const QModelIndex first = isQuiet() ? QModelIndex() : indexOf(node, firstColumn);
     if (first.isValid())
         Q_EMIT dataChanged(first, first.siblingAtColumn(lastColumn));
 }
 
-DocumentsModel::Node *DocumentsModel::wantedParent(const core::Document &document) const
+DocumentNode *DocumentsModel::wantedParent(const core::Document &document) const
 {
-    Node *parent = m_nodes.value(document.parentId());
+    Node *parent = find(document.parentId());
     if (!parent)
-        return m_root.get();
+        return &root();
     // Only a damaged project holds a cycle of parents; it is opened where it would close here.
     for (const Node *above = parent; above; above = above->parent)
         if (above->id == document.id())
-            return m_root.get();
+            return &root();
     return parent;
 }
 
 int DocumentsModel::wantedRow(const core::Document &document, const Node &parent) const
 {
     int row = 0;
-    for (const auto &child : parent.children) {
+    for (const Node *child : parent.children) {
         const core::Document *sibling = this->document(*child);
         if (sibling && child->id != document.id() && standsBefore(*sibling, document))
             ++row;
@@ -352,8 +288,8 @@ int DocumentsModel::wantedRow(const core::Document &document, const Node &parent
 bool DocumentsModel::standsBefore(const core::Document &a, const core::Document &b) const
 {
     // Those whose parent is lost stand behind the others of the top level.
-    const bool aIsLost = !a.parentId().isNull() && !m_nodes.contains(a.parentId());
-    const bool bIsLost = !b.parentId().isNull() && !m_nodes.contains(b.parentId());
+    const bool aIsLost = !a.parentId().isNull() && !find(a.parentId());
+    const bool bIsLost = !b.parentId().isNull() && !find(b.parentId());
     if (aIsLost != bIsLost)
         return bIsLost;
     return a.sortIndex() != b.sortIndex() ? a.sortIndex() < b.sortIndex() : a.id() < b.id();
@@ -361,63 +297,20 @@ bool DocumentsModel::standsBefore(const core::Document &a, const core::Document 
 
 // --- the filter
 
-void DocumentsModel::setFilter(const QString &text)
-{
-    const QStringList terms = searchText(text).simplified().split(u' ', Qt::SkipEmptyParts);
-    if (terms == m_terms)
-        return;
-    changeLayout([&] { m_terms = terms; });
-}
-
 bool DocumentsModel::passes(const Node &node) const
 {
-    if (m_terms.isEmpty())
+    if (!isFiltered())
         return true;
     const core::Document *shown = document(node);
     if (shown && node.searched.isNull())
         node.searched = searchText(titleText(*shown));
-    return std::all_of(m_terms.begin(), m_terms.end(),
-                       [&](const QString &term) { return node.searched.contains(term); });
-}
-
-void DocumentsModel::filterAll()
-{
-    // Every document stands in the list before those below it.
-    std::vector<Node *> nodes{m_root.get()};
-    nodes.reserve(size_t(m_nodes.size()) + 1);
-    for (size_t i = 0; i < nodes.size(); ++i)
-        for (const auto &child : nodes[i]->children)
-            nodes.push_back(child.get());
-    for (auto each = nodes.rbegin(); each != nodes.rend(); ++each) {
-        Node &node = **each;
-        node.passes = passes(node);
-        node.shown.clear();
-        for (const auto &child : node.children) {
-            const bool isShown = child->passes || !child->shown.empty();
-            child->row = isShown ? int(node.shown.size()) : -1;
-            if (isShown)
-                node.shown.push_back(child.get());
-        }
-    }
-}
-
-QModelIndex DocumentsModel::firstMatch() const
-{
-    std::vector<const Node *> stack{m_root.get()};
-    while (!stack.empty()) {
-        const Node *node = stack.back();
-        stack.pop_back();
-        if (node != m_root.get() && node->passes)
-            return indexOf(*node);
-        stack.insert(stack.end(), node->shown.rbegin(), node->shown.rend());
-    }
-    return {};
+    return holdsTerms(node.searched);
 }
 
 QList<core::ContentId> DocumentsModel::branches() const
 {
     QList<core::ContentId> ids;
-    for (const Node *node : m_nodes)
+    for (const Node *node : nodes())
         if (!node->shown.empty())
             ids.append(node->id);
     return ids;
@@ -435,48 +328,11 @@ const core::Document *DocumentsModel::document(const Node &node) const
     return m_workspace.project().find<core::Document>(node.id);
 }
 
-DocumentsModel::Node *DocumentsModel::nodeAt(const QModelIndex &index) const
-{
-    return index.isValid() ? static_cast<Node *>(index.internalPointer()) : m_root.get();
-}
-
 int DocumentsModel::placeOf(const Node &node)
 {
     const auto &siblings = node.parent->children;
-    const auto found = std::find_if(siblings.begin(), siblings.end(),
-                                    [&](const auto &child) { return child.get() == &node; });
+    const auto found = std::find(siblings.begin(), siblings.end(), &node);
     return int(found - siblings.begin());
-}
-
-QModelIndex DocumentsModel::indexOf(const Node &node, int column) const
-{
-    for (const Node *above = &node; above != m_root.get(); above = above->parent)
-        if (above->row < 0)
-            return {};
-    return &node == m_root.get() ? QModelIndex()
-                                 : createIndex(node.row, column, const_cast<Node *>(&node));
-}
-
-QModelIndex DocumentsModel::index(int row, int column, const QModelIndex &parent) const
-{
-    const Node *node = nodeAt(parent);
-    if (row < 0 || row >= int(node->shown.size()) || column < 0 || column >= ColumnCount
-        || parent.column() > 0)
-        return {};
-    return createIndex(row, column, node->shown[size_t(row)]);
-}
-
-QModelIndex DocumentsModel::parent(const QModelIndex &index) const
-{
-    const Node *above = index.isValid() ? nodeAt(index)->parent : nullptr;
-    return !above || above == m_root.get()
-               ? QModelIndex()
-               : createIndex(above->row, TitleColumn, const_cast<Node *>(above));
-}
-
-int DocumentsModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.column() > 0 ? 0 : int(nodeAt(parent)->shown.size());
 }
 
 int DocumentsModel::columnCount(const QModelIndex & /*parent*/) const
@@ -548,15 +404,6 @@ bool DocumentsModel::setData(const QModelIndex &index, const QVariant &value, in
         return false;
     m_workspace.push<core::SetDocumentTitleCommand>(*edited, text);
     return true;
-}
-
-Qt::ItemFlags DocumentsModel::flags(const QModelIndex &index) const
-{
-    if (!index.isValid())
-        return Qt::ItemIsDropEnabled;
-    const Qt::ItemFlags common =
-        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
-    return index.column() == TitleColumn ? common | Qt::ItemIsEditable : common;
 }
 
 // --- drag and drop

@@ -1,13 +1,6 @@
 #pragma once
 
-#include "app/models/objecttreemodel.h"
-
-#include <QtCore/QHash>
-#include <QtCore/QList>
-#include <QtCore/QStringList>
-
-#include <memory>
-#include <vector>
+#include "app/models/filteredrows.h"
 
 namespace vl::core {
 class ChangeSet;
@@ -18,11 +11,19 @@ namespace vl::app {
 
 class Workspace;
 
+/// A document in the manuscript tree.
+struct DocumentNode : FilteredNode<DocumentNode>
+{
+    mutable QString searched; ///< null until a filter asks for it
+    qsizetype words = 0;
+    qsizetype treeWords = 0;
+};
+
 /// The manuscript tree of the open project, and what of it passes a filter. It follows the history
 /// row by row and never rebuilds itself for a change; only while it is filtered are rows that come,
 /// go or move told as one new layout, in which every row stays the row it was. Its setters push
 /// commands.
-class DocumentsModel final : public ObjectTreeModel
+class DocumentsModel final : public FilteredRows<DocumentNode>
 {
     Q_OBJECT
 
@@ -43,30 +44,17 @@ public:
     };
 
     explicit DocumentsModel(Workspace &workspace, QObject *parent = nullptr);
-    ~DocumentsModel() override;
 
-    core::ContentId idAt(const QModelIndex &index) const override;
-    QModelIndex indexOf(const core::ContentId &id, int column = TitleColumn) const override;
-
-    /// Titles are looked at.
-    void setFilter(const QString &text) override;
-    bool isFiltered() const override { return !m_terms.isEmpty(); }
-    QModelIndex firstMatch() const override;
     /// The documents with others below them.
     QList<core::ContentId> branches() const override;
 
-    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
-    QModelIndex parent(const QModelIndex &index) const override;
-    int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
     /// Renames; an empty name, or the present one, is refused.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
-    Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
     QStringList mimeTypes() const override;
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
     bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
@@ -75,17 +63,15 @@ public:
                       const QModelIndex &parent) override;
 
 private:
-    struct Node;
+    using Node = DocumentNode;
 
     void reset();
     void apply(const core::ChangeSet &changes);
     void follow(const core::ChangeSet &changes);
     /// Whether a change makes rows come, go or move, those that the filter hides among them.
     bool changesRows(const core::ChangeSet &changes) const;
-    template<typename Work>
-    void changeLayout(const Work &work);
-    bool passes(const Node &node) const;
-    void filterAll();
+    /// Titles are looked at.
+    bool passes(const Node &node) const override;
     void removeNode(Node &node);
     void insertNode(const core::Document &document);
     void placeNode(Node &node);
@@ -93,27 +79,20 @@ private:
     void refresh(Node &node);
     void changeWords(Node *node, qsizetype difference);
     /// Takes the node out of the children of its parent, and puts one among those of another.
-    static std::unique_ptr<Node> take(Node &node);
-    static void put(Node &parent, int row, std::unique_ptr<Node> node);
-    static void renumber(Node &parent, int firstRow);
+    static void take(Node &node);
+    static void put(Node &parent, int row, Node &node);
     void emitRow(const Node &node, int firstColumn, int lastColumn);
 
     Node *wantedParent(const core::Document &document) const;
     /// Where the document belongs among the children, itself not counted.
     int wantedRow(const core::Document &document, const Node &parent) const;
     bool standsBefore(const core::Document &a, const core::Document &b) const;
-    Node *nodeAt(const QModelIndex &index) const;
     /// Where it stands among all children of its parent, those that are hidden among them.
     static int placeOf(const Node &node);
-    QModelIndex indexOf(const Node &node, int column = TitleColumn) const;
     const core::Document *document(const Node &node) const;
     static QString titleText(const core::Document &document);
 
     Workspace &m_workspace;
-    std::unique_ptr<Node> m_root;
-    QHash<core::ContentId, Node *> m_nodes;
-    QStringList m_terms;
-    bool m_isQuiet = false; ///< while a new layout is made, which tells of all rows at once
 };
 
 } // namespace vl::app
