@@ -12,6 +12,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QThread>
+#include <QtCore/QThreadPool>
 
 #include <algorithm>
 #include <atomic>
@@ -23,8 +24,9 @@ namespace {
 
 /// From this many files on the work is spread over the cores.
 constexpr std::size_t parallelFrom = 64;
-/// More would only wait for the disk.
-constexpr int mostWorkers = 8;
+/// How many read from the disk at a time: files that are not in the machine's memory come together
+/// then, and not one after another.
+constexpr int diskWorkers = 8;
 /// Files that a worker takes at a time.
 constexpr std::size_t batchSize = 16;
 
@@ -96,10 +98,10 @@ void sortByPath(std::vector<SourceFile> &files)
               [](const SourceFile &a, const SourceFile &b) { return a.path < b.path; });
 }
 
-/// Calls `work(parser, index)` for 0, 1, … on all cores until it gives false: then for every index
-/// below, and for some above. Gives the first index for which it was false, or the count.
+/// Calls `work(parser, index)` for 0, 1, … on so many threads until it gives false: then for every
+/// index below, and for some above. Gives the first index for which it was false, or the count.
 template<typename Work>
-std::size_t forEachIndex(std::size_t count, const Work &work)
+std::size_t forEachIndex(std::size_t count, int workers, const Work &work)
 {
     std::atomic<std::size_t> next = 0;
     std::atomic<std::size_t> stop = count;
@@ -121,13 +123,13 @@ std::size_t forEachIndex(std::size_t count, const Work &work)
                 return;
         }
     };
-    const int workers =
-        count < parallelFrom ? 1 : std::min(QThread::idealThreadCount(), mostWorkers);
-    if (workers <= 1) {
+    if (count < parallelFrom || workers <= 1) {
         run(0);
     } else {
+        QThreadPool pool;
+        pool.setMaxThreadCount(workers);
         QList<int> numbers(workers);
-        QtConcurrent::blockingMap(numbers, run);
+        QtConcurrent::blockingMap(&pool, numbers, run);
     }
     return stop;
 }
@@ -249,10 +251,14 @@ Failure ProjectReader::duplicate(const core::ContentId &id, const SourceFile &fi
 Result<> ProjectReader::readObjects()
 {
     std::vector<ObjectSlot> slotList(m_source.objects.size());
-    const std::size_t count = forEachIndex(slotList.size(), [&](JsonParser &parser, std::size_t i) {
-        slotList[i] = readSlot(parser, m_source.objects[i]);
-        return slotList[i].object != nullptr;
-    });
+    const bool isInMemory = !slotList.empty() && m_source.objects.front().bytes;
+    const int workers = isInMemory ? QThread::idealThreadCount()
+                                   : std::max(QThread::idealThreadCount(), diskWorkers);
+    const std::size_t count =
+        forEachIndex(slotList.size(), workers, [&](JsonParser &parser, std::size_t i) {
+            slotList[i] = readSlot(parser, m_source.objects[i]);
+            return slotList[i].object != nullptr;
+        });
     for (std::size_t i = 0; i < count; ++i) {
         const core::ContentId id = slotList[i].object->id();
         if (!m_loaded.project->add(std::move(slotList[i].object)))
