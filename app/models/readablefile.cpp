@@ -146,6 +146,12 @@ bool isNothing(const QJsonValue &value)
            || (value.isObject() && value.toObject().isEmpty());
 }
 
+/// Blanks before a line; not more for what lies deeper than a file of the program ever does.
+QString indentation(int depth)
+{
+    return QString(2 * std::min(depth, 20), u' ');
+}
+
 /// Writes the members of a file one below the other.
 class Writer
 {
@@ -248,7 +254,7 @@ QString Writer::shortText(const QString &key, const QJsonValue &value) const
 
 void Writer::addLines(const QString &text, int depth)
 {
-    const QString indent(2 * depth, u' ');
+    const QString indent = indentation(depth);
     QStringView lines(text);
     if (lines.endsWith(u'\n'))
         lines.chop(1);
@@ -272,8 +278,7 @@ void Writer::addMember(const QString &key, const QJsonValue &value, int depth, b
 {
     if (isNothing(value))
         return;
-    const QString start =
-        QString(2 * depth, u' ') + (isOwnName ? key : labelOf(key)) + QLatin1Char(':');
+    const QString start = indentation(depth) + (isOwnName ? key : labelOf(key)) + QLatin1Char(':');
     if (const QString line = shortText(key, value); !line.isNull()) {
         m_text += start + u' ' + line + u'\n';
         return;
@@ -319,8 +324,7 @@ void Writer::addItem(const QJsonObject &item, int depth)
                  || it.key() != QLatin1String("id"))
             line.append(labelOf(it.key()) + QStringLiteral(": ") + text);
     }
-    m_text +=
-        QString(2 * depth, u' ') + QStringLiteral("• ") + line.join(QStringLiteral(", ")) + u'\n';
+    m_text += indentation(depth) + QStringLiteral("• ") + line.join(QStringLiteral(", ")) + u'\n';
     for (auto it = below.begin(); it != below.end(); ++it) {
         if (it->isString())
             addLines(it->toString(), depth + 1);

@@ -11,6 +11,10 @@ namespace vl::app {
 
 namespace {
 
+/// Objects this deep inside each other are brought together member by member. Those of a project
+/// are never that deep; a file that somebody made for it would cost without end.
+constexpr int deepestMembers = 32;
+
 /// One member of the three objects; undefined where it is missing.
 struct Member
 {
@@ -27,10 +31,8 @@ const QJsonValue *plainChoice(const Member &member)
     return member.local == member.base ? &member.remote : nullptr;
 }
 
-} // namespace
-
-JsonMerge JsonMerge::merge(const QJsonObject &base, const QJsonObject &local,
-                           const QJsonObject &remote)
+JsonMerge mergeAt(int depth, const QJsonObject &base, const QJsonObject &local,
+                  const QJsonObject &remote)
 {
     JsonMerge result;
     std::set<QString> keys;
@@ -45,9 +47,10 @@ JsonMerge JsonMerge::merge(const QJsonObject &base, const QJsonObject &local,
         QJsonValue chosen = values.local;
         if (const QJsonValue *plain = plainChoice(values)) {
             chosen = *plain;
-        } else if (values.base.isObject() && values.local.isObject() && values.remote.isObject()) {
-            const JsonMerge inner =
-                merge(values.base.toObject(), values.local.toObject(), values.remote.toObject());
+        } else if (depth < deepestMembers && values.base.isObject() && values.local.isObject()
+                   && values.remote.isObject()) {
+            const JsonMerge inner = mergeAt(depth + 1, values.base.toObject(),
+                                            values.local.toObject(), values.remote.toObject());
             chosen = inner.object;
             for (const QString &conflict : inner.conflicts)
                 result.conflicts.append(key + u'.' + conflict);
@@ -72,6 +75,14 @@ JsonMerge JsonMerge::merge(const QJsonObject &base, const QJsonObject &local,
         result.markedText.clear();
     }
     return result;
+}
+
+} // namespace
+
+JsonMerge JsonMerge::merge(const QJsonObject &base, const QJsonObject &local,
+                           const QJsonObject &remote)
+{
+    return mergeAt(0, base, local, remote);
 }
 
 std::optional<QByteArray> mergeMembers(const QString &path, const QByteArray &base,

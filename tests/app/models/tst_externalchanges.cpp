@@ -212,6 +212,14 @@ void TestExternalChanges::mergesMembers_data()
     row("lists are one thing", R"({"l":[1]})", R"({"l":[1,2]})", R"({"l":[3]})", R"({"l":[1,2]})",
         {QStringLiteral("l")});
     row("added alike", R"({})", R"({"a":[1]})", R"({"a":[1]})", R"({"a":[1]})", {});
+    // Deeper than the program writes, as only a made-up file is, what both changed is not taken
+    // apart.
+    const auto deep = [](const char *inner) {
+        return QByteArray("{\"k\":").repeated(40) + inner + QByteArray(40, '}');
+    };
+    QTest::newRow("deep inside objects")
+        << deep(R"({"a":1,"b":1})") << deep(R"({"a":2,"b":1})") << deep(R"({"a":1,"b":2})")
+        << deep(R"({"a":2,"b":1})") << QStringList{QStringLiteral("k.").repeated(32) + u'k'};
 }
 
 void TestExternalChanges::mergesMembers()

@@ -403,6 +403,12 @@ void TestRepair::readableFiles_data()
                "{\"footnotes\": [{\"id\": \"1\", \"text\": \"She waits.\", \"endnote\": true},"
                " {\"id\": \"2\", \"endnote\": false, \"text\": \"Or\\nnot.\"}]}")
         << "Footnotes:\n  • She waits., Endnote: yes, Mark: 1\n  • Mark: 2\n    Or\n    not.\n";
+    QString steps;
+    for (int depth = 0; depth < 30; ++depth)
+        steps += QString(2 * std::min(depth, 20), u' ') + QStringLiteral("K:\n");
+    QTest::newRow("no wider than a window, however deep")
+        << QByteArray("{\"k\":").repeated(30) + "{\"a\": 1}" + QByteArray(30, '}')
+        << steps + QString(40, u' ') + QStringLiteral("A: 1\n");
 }
 
 void TestRepair::readableFiles()
