@@ -83,6 +83,18 @@ QString replacementOf(const QString &text, const SearchHit &hit, const SearchOpt
     return replaced.sliced(hit.position, replaced.size() - tail - hit.position);
 }
 
+qsizetype placeAfterReplacing(qsizetype place, const QString &text,
+                              const std::vector<SearchHit> &hits, const SearchOptions &options,
+                              const QString &replacement, bool keepsCase)
+{
+    const auto next = std::lower_bound(hits.begin(), hits.end(), place, isBefore);
+    if (next == hits.begin())
+        return place;
+    const std::vector<SearchHit> before(hits.begin(), next);
+    const qsizetype from = std::max(place, before.back().position + before.back().length);
+    return from + replacedHits(text, before, options, replacement, keepsCase).size() - text.size();
+}
+
 void moveHits(std::vector<SearchHit> &hits, qsizetype position, qsizetype removed, qsizetype added)
 {
     const auto first = std::lower_bound(

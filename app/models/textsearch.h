@@ -47,6 +47,11 @@ QString replacedHits(const QString &text, const std::vector<SearchHit> &hits,
 QString replacementOf(const QString &text, const SearchHit &hit, const SearchOptions &options,
                       const QString &replacement, bool keepsCase);
 
+/// Where a place of the text lies when the hits are replaced; one within a hit goes to its end.
+qsizetype placeAfterReplacing(qsizetype place, const QString &text,
+                              const std::vector<SearchHit> &hits, const SearchOptions &options,
+                              const QString &replacement, bool keepsCase);
+
 /// The hits as they stand after an edit of the text; those that it touches are gone.
 void moveHits(std::vector<SearchHit> &hits, qsizetype position, qsizetype removed, qsizetype added);
 

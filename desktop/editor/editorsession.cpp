@@ -173,7 +173,8 @@ void EditorSession::handIn()
         m_deskPause.start();
 }
 
-void EditorSession::replaceText(const QString &text)
+void EditorSession::replaceText(const QString &text,
+                                const std::function<qsizetype(qsizetype)> &placeAfter)
 {
     handIn();
     core::Document *written = document();
@@ -183,7 +184,10 @@ void EditorSession::replaceText(const QString &text)
     if (body == written->body())
         return;
     m_text->notePlace();
+    const qsizetype caret = placeAfter(m_live->place.caret);
+    const app::WritingPlace place{caret, caret, placeAfter(m_live->place.top)};
     m_context.workspace.push<core::SetDocumentBodyCommand>(*written, body);
+    m_live->place = place;
     m_text->goToPlace();
 }
 

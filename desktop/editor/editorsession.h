@@ -7,6 +7,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
+#include <functional>
+
 namespace vl::core {
 class ChangeSet;
 class Document;
@@ -36,8 +38,9 @@ public:
     void reveal(const core::ContentId &id, qsizetype position, qsizetype length);
     /// Makes a step of what was typed.
     void handIn();
-    /// Replaces the text of the open document by an edited one, as a step of its own.
-    void replaceText(const QString &text);
+    /// Replaces the text of the open document by an edited one, as a step of its own; `placeAfter`
+    /// tells where a place of the present text lies in it.
+    void replaceText(const QString &text, const std::function<qsizetype(qsizetype)> &placeAfter);
     /// Words typed in this project today.
     qsizetype wordsToday();
 

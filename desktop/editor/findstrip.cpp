@@ -141,6 +141,10 @@ QWidget *FindStrip::makeReplaceRow()
     row->addLayout(buttons);
     for (QLayout *part : {field, buttons})
         part->setSpacing(grid(1));
+    // What is typed and pressed each time comes before what is seldom switched.
+    const QList<QWidget *> order{m_pattern, m_replacement, one, m_replaceAll, m_keepsCase};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
     m_replaceRow->hide();
     return m_replaceRow;
 }
@@ -348,8 +352,15 @@ void FindStrip::replaceAll()
     const auto count = qlonglong(m_hits.size());
     if (count == 0)
         return;
-    m_session->replaceText(app::replacedHits(m_session->live()->text(), m_hits, terms().options,
-                                             m_replacement->text(), m_keepsCase->isChecked()));
+    const QString text = m_session->live()->text();
+    const app::SearchOptions options = terms().options;
+    const QString replacement = m_replacement->text();
+    const bool keepsCase = m_keepsCase->isChecked();
+    const auto placeAfter = [&, hits = m_hits](qsizetype place) {
+        return app::placeAfterReplacing(place, text, hits, options, replacement, keepsCase);
+    };
+    m_session->replaceText(app::replacedHits(text, m_hits, options, replacement, keepsCase),
+                           placeAfter);
     m_again.stop();
     m_hits.clear();
     m_text->setHits({});

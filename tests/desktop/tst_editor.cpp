@@ -419,6 +419,9 @@ void TestEditor::findsAndReplaces()
     desk.text->moveCursor(QTextCursor::Start);
     desk.window.actions()["edit.replace"]->trigger();
     QVERIFY(desk.strip->isVisible());
+    QVERIFY(desk.field(QStringLiteral("Find"))->hasFocus());
+    QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Tab);
+    QVERIFY(desk.field(QStringLiteral("Replace with"))->hasFocus());
     QTest::keyClicks(desk.field(QStringLiteral("Find")), QStringLiteral("tide"));
     QTRY_COMPARE(desk.count(), QStringLiteral("1 of 4"));
     QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Return);
@@ -438,6 +441,8 @@ void TestEditor::findsAndReplaces()
             button->click();
     QCOMPARE(document.body(), QStringLiteral("ebb and ebb.\n\nNo ebbs, ebb."));
     QCOMPARE(desk.workspace.history().undoCount(), steps + 1);
+    QVERIFY(!desk.text->textCursor().hasSelection());
+    QCOMPARE(desk.text->caret(), qsizetype(11)); // behind what was the hit
     desk.undo();
     QCOMPARE(desk.text->text(), QStringLiteral("ebb and tide.\n\nNo tides, TIDE."));
     QTest::keyClick(desk.field(QStringLiteral("Find")), Qt::Key_Escape);

@@ -284,6 +284,12 @@ void TestWriting::replacing()
     QCOMPARE(replacementOf(text, hits.back(), terms.options, QStringLiteral("x"), true),
              QStringLiteral("X"));
     QCOMPARE(replacedHits(text, {{3, 2}}, terms.options, QStringLiteral("x"), false), text);
+    // "ab cb b-a\nB-A": before all, in the first hit, at its end, between the two, at the very end.
+    for (const auto &[before, after] :
+         {std::pair(2, 2), std::pair(7, 9), std::pair(8, 9), std::pair(9, 10), std::pair(11, 13)})
+        QCOMPARE(placeAfterReplacing(before, text, hits, terms.options, QStringLiteral("\\2-\\1"),
+                                     false),
+                 qsizetype(after));
 }
 
 void TestWriting::hitsMove()
