@@ -116,8 +116,8 @@ void Layouts::save(const QString &name)
 void Layouts::apply(const QString &name)
 {
     if (!m_panels.restoreLayout(m_settings.bytes(stateKey(name))))
-        m_notices.show(
-            tr("The layout “%1” cannot be read; the first layout is shown instead.").arg(name));
+        m_notices.show(tr("The perspective “%1” cannot be read; the first layout is shown instead.")
+                           .arg(name));
 }
 
 void Layouts::remove(const QString &name)
@@ -128,14 +128,14 @@ void Layouts::remove(const QString &name)
     all.removeAll(name);
     m_settings.set(namesKey, all.join(u'\n'));
     Q_EMIT changed();
-    m_notices.show(tr("Deleted the layout “%1”.").arg(name), tr("Undo"),
+    m_notices.show(tr("Deleted the perspective “%1”.").arg(name), tr("Undo"),
                    [this, name, state] { keep(name, state); });
 }
 
 void Layouts::askAndSave()
 {
     const QString name =
-        m_prompts.askText(tr("Save Current Layout"), tr("Name of the layout:"), QString())
+        m_prompts.askText(tr("Save Current Layout"), tr("Name of the perspective:"), QString())
             .value_or(QString())
             .simplified();
     if (name.isEmpty())
@@ -147,20 +147,21 @@ void Layouts::askAndSave()
     if (isShipped) {
         m_prompts.showError(
             tr("Save Current Layout"),
-            tr("“%1” is a layout that comes with Ivorel. Choose another name.").arg(name));
+            tr("“%1” is a perspective that comes with Ivorel. Choose another name.").arg(name));
         return;
     }
     if (names().contains(name)
-        && !m_prompts.confirm(tr("There is a layout “%1” already.").arg(name),
+        && !m_prompts.confirm(tr("There is a perspective “%1” already.").arg(name),
                               tr("The present arrangement takes its place."), tr("&Replace")))
         return;
     save(name);
-    m_notices.show(tr("Saved the layout “%1”.").arg(name));
+    m_notices.show(tr("Saved the perspective “%1”.").arg(name));
 }
 
 void Layouts::askAndRemove()
 {
-    const QString name = m_prompts.chooseOne(tr("Delete Layout"), tr("Layout to delete:"), names());
+    const QString name =
+        m_prompts.chooseOne(tr("Delete Perspective"), tr("Perspective to delete:"), names());
     if (!name.isEmpty())
         remove(name);
 }

@@ -61,7 +61,7 @@ void WindowMenus::buildView()
     m_parts.appearance.addThemes(view->addMenu(tr("&Theme")));
     addLanguages(view->addMenu(tr("Interface &Language")));
     m_parts.actions.fill(view, Menu::Layouts);
-    QMenu *layouts = new QMenu(tr("Appl&y Layout"), view);
+    QMenu *layouts = new QMenu(tr("Appl&y Perspective"), view);
     view->insertMenu(m_parts.actions["view.deleteLayout"], layouts);
     m_parts.layouts.showIn(layouts);
     view->addSeparator();

@@ -268,7 +268,7 @@ void addPrompts(QList<Surface> &list, const QString &text)
                         text);
     });
     ask("chooseOne", [text](DialogPrompts &prompts) {
-        prompts.chooseOne(QStringLiteral("Delete Layout"), text, {text, QStringLiteral("Write")});
+        prompts.chooseOne(QStringLiteral("Delete Perspective"), text, {text, QStringLiteral("Write")});
     });
     ask("choose", [text](DialogPrompts &prompts) {
         prompts.choose(QStringLiteral("Open Project"), text,
