@@ -76,6 +76,12 @@ void FieldEditor::setControl(QWidget *control, QWidget *focused)
     m_label->setVisible(m_field.editing != FieldEditing::Check);
 }
 
+void FieldEditor::takeFocusBy(bool hasEntries, QWidget *list, QWidget *begin)
+{
+    // The focus handed to what is hidden goes nowhere, and Tab with it.
+    setFocusProxy(hasEntries ? list : begin);
+}
+
 bool FieldEditor::isMixed() const
 {
     return m_context.model.isMixed(m_field.key);

@@ -61,6 +61,8 @@ protected:
 
     /// Puts the control under the label and follows its keys and its focus.
     void setControl(QWidget *control, QWidget *focused = nullptr);
+    /// The list takes the focus while it has entries and shows, else the button that begins it.
+    void takeFocusBy(bool hasEntries, QWidget *list, QWidget *begin);
     QVBoxLayout *column() const { return m_column; }
     /// To be called for every edit by the user.
     void touch();

@@ -41,7 +41,7 @@ FieldListEditor::FieldListEditor(const app::InspectorField &field,
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
     bar->addStretch(1);
-    addButton(bar, QStringLiteral("add"), tr("Add a field"), &FieldListEditor::add);
+    m_add = addButton(bar, QStringLiteral("add"), tr("Add a field"), &FieldListEditor::add);
     m_change =
         addButton(bar, QStringLiteral("rename"), tr("Change the field"), &FieldListEditor::change);
     m_up = addButton(bar, QStringLiteral("up"), tr("Move the field up"), &FieldListEditor::moveUp);
@@ -98,6 +98,7 @@ void FieldListEditor::update()
     m_up->setEnabled(row > 0);
     m_down->setEnabled(row >= 0 && row < m_list->count() - 1);
     m_list->setVisible(m_list->count() > 0);
+    takeFocusBy(m_list->count() > 0, m_list, m_add);
     const int rowHeight = m_list->count() > 0 ? m_list->sizeHintForRow(0) : 0;
     m_list->setFixedHeight(rowHeight * qMin(m_list->count(), mostRows) + 2 * m_list->frameWidth());
 }

@@ -34,6 +34,7 @@ private:
 
     QListWidget *m_list;
     QLabel *m_hint;
+    QToolButton *m_add = nullptr;
     QToolButton *m_change = nullptr;
     QToolButton *m_up = nullptr;
     QToolButton *m_down = nullptr;

@@ -51,6 +51,7 @@ PicturesEditor::PicturesEditor(const app::InspectorField &field, const FieldEdit
     : FieldEditor(field, context, parent)
     , m_strip(new QListWidget(this))
     , m_hint(quietLabel({}, this))
+    , m_add(new QToolButton(this))
     , m_cover(new QToolButton(this))
     , m_remove(new QToolButton(this))
 {
@@ -67,7 +68,6 @@ PicturesEditor::PicturesEditor(const app::InspectorField &field, const FieldEdit
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
     bar->addWidget(m_hint, 1);
-    auto *add = new QToolButton(this);
     const auto prepare = [&](QToolButton *button, const char *iconName, const QString &text,
                              void (PicturesEditor::*slot)()) {
         button->setIcon(icon(QLatin1String(iconName)));
@@ -77,7 +77,7 @@ PicturesEditor::PicturesEditor(const app::InspectorField &field, const FieldEdit
         connect(button, &QToolButton::clicked, this, slot);
         bar->addWidget(button, 0, Qt::AlignTop);
     };
-    prepare(add, "add", tr("Add a picture of the project"), &PicturesEditor::add);
+    prepare(m_add, "add", tr("Add a picture of the project"), &PicturesEditor::add);
     prepare(m_cover, "star", tr("Make it the cover"), &PicturesEditor::makeCover);
     prepare(m_remove, "remove", tr("Take the picture away; it stays in the project"),
             &PicturesEditor::removePicture);
@@ -143,6 +143,7 @@ void PicturesEditor::update()
 {
     const int row = m_strip->currentRow();
     m_strip->setVisible(m_strip->count() > 0);
+    takeFocusBy(m_strip->count() > 0, m_strip, m_add);
     m_cover->setEnabled(row > 0);
     m_remove->setEnabled(row >= 0);
     m_hint->setText(m_strip->count() == 0 ? tr("No picture yet.")

@@ -34,6 +34,7 @@ private:
 
     QListWidget *m_strip;
     QLabel *m_hint;
+    QToolButton *m_add;
     QToolButton *m_cover;
     QToolButton *m_remove;
     QHash<QString, QIcon> m_thumbnails; ///< by the path of the file

@@ -149,14 +149,14 @@ TimedValuesEditor::TimedValuesEditor(const app::InspectorField &field,
     connect(removeKey, &QAction::triggered, this, &TimedValuesEditor::removeSelected);
     m_table->addAction(removeKey);
 
-    auto *add = rowButton(QStringLiteral("add"), tr("Add a value from a date on"), this);
+    m_add = rowButton(QStringLiteral("add"), tr("Add a value from a date on"), this);
     m_remove = rowButton(QStringLiteral("remove"), tr("Remove the selected values"), this);
-    connect(add, &QToolButton::clicked, this, &TimedValuesEditor::addRow);
+    connect(m_add, &QToolButton::clicked, this, &TimedValuesEditor::addRow);
     connect(m_remove, &QToolButton::clicked, this, &TimedValuesEditor::removeSelected);
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
     bar->addWidget(m_hint, 1);
-    bar->addWidget(add, 0, Qt::AlignTop);
+    bar->addWidget(m_add, 0, Qt::AlignTop);
     bar->addWidget(m_remove, 0, Qt::AlignTop);
     setControl(m_table);
     column()->insertLayout(2, bar);
@@ -200,6 +200,7 @@ void TimedValuesEditor::update()
     const int rows = m_rows->rowCount();
     m_remove->setEnabled(!m_table->selectionModel()->selectedRows().isEmpty());
     m_table->setVisible(rows > 0);
+    takeFocusBy(rows > 0, m_table, m_add);
     QString problem;
     for (int row = 0; row < rows && problem.isEmpty(); ++row)
         problem = m_rows->index(row, 0).data(TimedValuesModel::ProblemRole).toString();

@@ -31,6 +31,7 @@ private:
 
     app::TimedValuesModel *m_rows;
     QTreeView *m_table;
+    QToolButton *m_add;
     QToolButton *m_remove;
     QLabel *m_hint;
 };

@@ -1,4 +1,5 @@
 #include "app/models/codexoperations.h"
+#include "app/models/inspectormodel.h"
 #include "app/models/objecttreemodel.h"
 #include "core/commands/codexcommands.h"
 #include "core/commands/documentcommands.h"
@@ -42,6 +43,8 @@ struct Window : test::DeskWindow
             core::FieldDefinition field;
             field.label = core::fieldTypeTexts.text(type);
             field.type = type;
+            if (type == FieldType::Choice)
+                field.options = {QStringLiteral("red")};
             codex.addField(people, field);
         }
         tree->expandAll();
@@ -79,6 +82,8 @@ private Q_SLOTS:
     void draggingOpensBranchesAndShutsNone();
     void tagsCanBeEmptiedInTheirDialog();
     void everyControlOfEveryFormHasAName();
+    void everyControlIsSetByKeys_data();
+    void everyControlIsSetByKeys();
     void typingIsHandedIn();
     void undoGoesThroughTheForm();
     void theWheelChangesNothing();
@@ -234,6 +239,80 @@ void TestCodexPanel::everyControlOfEveryFormHasAName()
         }
         QVERIFY(seen > 8);
     }
+}
+
+void TestCodexPanel::everyControlIsSetByKeys_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("last"); // the key after the text
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *kind, const char *key, const char *typed, Qt::Key last,
+                        const QVariant &value) {
+        QTest::addRow("%s, %s", kind, key)
+            << QString(QLatin1String(kind)) << QString(QLatin1String(key))
+            << QString(QLatin1String(typed)) << int(last) << value;
+    };
+    const auto text = [](const char *value) { return QVariant(QString(QLatin1String(value))); };
+    const auto tokens = [](const char *value) {
+        return QVariant(QStringList{QLatin1String(value)});
+    };
+    row("document", "title", "x", Qt::Key_Return, text("x"));
+    row("document", "kind", "", Qt::Key_Down, text("1"));
+    row("document", "synopsis", "short", Qt::Key_Tab, text("short"));
+    row("document", "status", "Draft", Qt::Key_Return, text("Draft"));
+    row("document", "pointOfView", "Ann", Qt::Key_Return, text("Ann"));
+    row("document", "tension", "", Qt::Key_Right, 1);
+    row("document", "sceneInstant", "3 March 1270", Qt::Key_Return, text("3 March, Year 1270"));
+    row("document", "target", "500", Qt::Key_Return, 500);
+    row("document", "threads", "The lamp", Qt::Key_Return, tokens("The lamp"));
+    row("document", "tags", "wet", Qt::Key_Return, tokens("wet"));
+    row("document", "visibleTo", "Players", Qt::Key_Return, tokens("Players"));
+    row("document", "aiExcluded", "", Qt::Key_Space, true);
+    row("entity", "name", "Zoe", Qt::Key_Return, text("Zoe"));
+    row("entity", "category", "", Qt::Key_Up, text(""));
+    row("entity", "aliases", "Annie", Qt::Key_Return, tokens("Annie"));
+    row("entity", "field:text", "tall", Qt::Key_Tab, text("tall"));
+    row("entity", "field:number", "7", Qt::Key_Return, text("7"));
+    row("entity", "field:boolean", "", Qt::Key_Down, text("yes"));
+    row("entity", "field:date", "3 March 1270", Qt::Key_Return, text("3 March 1270"));
+    row("entity", "field:reference", "Bob", Qt::Key_Return, text("Bob"));
+    row("entity", "field:choice", "", Qt::Key_Down, text("red"));
+    row("entity", "field:url", "https://a.example", Qt::Key_Return, text("https://a.example"));
+    row("entity", "birth", "3 March 1270", Qt::Key_Return, text("3 March, Year 1270"));
+    row("entity", "death", "4 March 1270", Qt::Key_Return, text("4 March, Year 1270"));
+    row("category", "name", "Folk", Qt::Key_Return, text("Folk"));
+}
+
+/// One step of the history each, and the next Tab leads out of the control.
+void TestCodexPanel::everyControlIsSetByKeys()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, key);
+    QFETCH(QString, typed);
+    QFETCH(int, last);
+    QFETCH(QVariant, value);
+    Window desk;
+    desk.workspace.project().setAudiences({QStringLiteral("Players")});
+    desk.workspace.project().setPlotThreads({{QStringLiteral("The lamp"), {}, {}, {}}});
+    const ContentId document = desk.openDocument({}).id();
+    desk.workspace.select(kind == u"document" ? document
+                          : kind == u"entity" ? desk.ann
+                                              : desk.people);
+    auto *control = desk.control<QWidget>(key.toLatin1().constData());
+    QVERIFY(control);
+    control->setFocus(Qt::TabFocusReason);
+    QVERIFY(control->hasFocus());
+    const auto steps = desk.workspace.history().undoCount();
+    if (!typed.isEmpty())
+        QTest::keyClicks(control, typed);
+    QTest::keyClick(control, Qt::Key(last));
+    if (control->hasFocus())
+        QTest::keyClick(control, Qt::Key_Tab);
+    QVERIFY(!control->hasFocus());
+    QCOMPARE(desk.window.findChild<app::InspectorModel *>()->value(key), value);
+    QCOMPARE(desk.workspace.history().undoCount(), steps + 1);
 }
 
 void TestCodexPanel::typingIsHandedIn()
