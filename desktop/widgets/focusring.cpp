@@ -45,8 +45,22 @@ void FocusRing::follow(QWidget *focused)
     }
     if (!m_frame)
         m_frame = new QFocusFrame;
+    lay();
+    // What is out of sight is scrolled to once it has the focus.
+    if (m_frame->isHidden())
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_focused && m_frame && m_frame->widget() == m_focused)
+                    lay();
+            },
+            Qt::QueuedConnection);
+}
+
+void FocusRing::lay()
+{
     m_frame->setWidget(nullptr);
-    m_frame->setWidget(focused);
+    m_frame->setWidget(m_focused);
 }
 
 bool FocusRing::eventFilter(QObject *watched, QEvent *event)

@@ -24,6 +24,7 @@ public:
 
 private:
     void follow(QWidget *focused);
+    void lay();
 
     QPointer<QWidget> m_focused;
 
