@@ -2,11 +2,13 @@
 
 #include "app/models/backupsmodel.h"
 #include "app/models/codexmerge.h"
+#include "app/models/codexoperations.h"
 #include "app/models/documentoperations.h"
 #include "app/models/recentlydeleted.h"
 #include "app/models/recovery.h"
 #include "app/models/workspace.h"
 #include "app/storage/journal.h"
+#include "core/content/media.h"
 #include "desktop/dialogs/backupsdialog.h"
 #include "desktop/dialogs/codexdialogs.h"
 #include "desktop/dialogs/damagedprojectdialog.h"
@@ -115,6 +117,18 @@ void addWindows(QList<Surface> &list, const QString &text)
                      desk.openSample(QStringLiteral("Mara Tolvey"));
                      return &desk.window;
                  })});
+    const std::pair<const char *, core::ContentId Desk::Filled::*> parts[]{
+        {"document", &Desk::Filled::document},
+        {"category", &Desk::Filled::category},
+        {"entity", &Desk::Filled::entity}};
+    for (const auto &[name, part] : parts)
+        list.append({QStringLiteral("window with every text of a ") + QLatin1String(name),
+                     {},
+                     made([text, part = part](Desk &desk) {
+                         const Desk::Filled filled = desk.fillWith(text);
+                         desk.window.workspace().select(filled.*part);
+                         return &desk.window;
+                     })});
     for (size_t page = 0; page < desktop::preferencesCatalogue().size(); ++page)
         list.append({QLatin1String("preferences, ")
                          + QLatin1String(desktop::preferencesCatalogue()[page].title),
@@ -268,7 +282,8 @@ void addPrompts(QList<Surface> &list, const QString &text)
                         text);
     });
     ask("chooseOne", [text](DialogPrompts &prompts) {
-        prompts.chooseOne(QStringLiteral("Delete Perspective"), text, {text, QStringLiteral("Write")});
+        prompts.chooseOne(QStringLiteral("Delete Perspective"), text,
+                          {text, QStringLiteral("Write")});
     });
     ask("choose", [text](DialogPrompts &prompts) {
         prompts.choose(QStringLiteral("Open Project"), text,
@@ -330,6 +345,50 @@ void Desk::openSample(const QString &title)
     for (const auto *entity : workspace.project().all<core::Entity>())
         if (entity->name() == title)
             workspace.select(entity->id());
+}
+
+Desk::Filled Desk::fillWith(const QString &text)
+{
+    app::Workspace &workspace = window.workspace();
+    core::Project &project = workspace.project();
+    app::CodexOperations codex(workspace);
+    Filled filled{app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {}),
+                  codex.addCategory({}, text),
+                  {}};
+    filled.entity = codex.addEntity(filled.category, text);
+    for (const core::FieldType type :
+         {core::FieldType::Text, core::FieldType::Number, core::FieldType::Boolean,
+          core::FieldType::Date, core::FieldType::Reference, core::FieldType::Choice,
+          core::FieldType::Url})
+        codex.addField(filled.category, {{}, text, type, true, {text}, text});
+    const core::ContentId picture = core::ContentId::create();
+    auto media = std::make_unique<core::Media>(picture, QStringLiteral("image"), text);
+    media->setCaption(text);
+    project.add(std::move(media));
+
+    auto &entity = *project.find<core::Entity>(filled.entity);
+    for (const core::FieldDefinition &field : project.taxonomy().find(filled.category)->fields)
+        entity.setValue(field.key, text);
+    entity.setValue(QStringLiteral("former"), text);
+    entity.setAliases({text});
+    entity.setGallery({picture});
+    entity.setTimedValues(
+        {{project.taxonomy().find(filled.category)->fields.first().key, text, 0}});
+    project.setPlotThreads({{text, text, filled.entity, {}}});
+    project.setAudiences({text});
+    auto &document = *project.find<core::Document>(filled.document);
+    document.setTitle(text);
+    document.setBody(text);
+    document.setSynopsis(text);
+    document.setStatus(text);
+    document.setPointOfView(text);
+    document.setPlotThreadIds({text});
+    for (core::ContentObject *object : {static_cast<core::ContentObject *>(&entity),
+                                        static_cast<core::ContentObject *>(&document)}) {
+        object->setTags({text});
+        object->setVisibleTo({text});
+    }
+    return filled;
 }
 
 QList<Surface> surfaces(const QString &text)

@@ -20,6 +20,15 @@ struct Desk
 
     /// Opens a copy of the sample project, with this document selected.
     void openSample(const QString &title);
+    struct Filled
+    {
+        core::ContentId document;
+        core::ContentId category;
+        core::ContentId entity;
+    };
+    /// Puts a document and a category with an entity into the project; wherever a user may write,
+    /// this text stands.
+    Filled fillWith(const QString &text);
 };
 
 using Look = std::function<void(QWidget *)>;

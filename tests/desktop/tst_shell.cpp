@@ -167,7 +167,7 @@ void TestShell::layoutsAreKeptUnderTheirNames()
     Desk desk;
     desk.open();
     const QString name = QStringLiteral("Drafts / 100 % & more");
-    const QString menu = QStringLiteral("Appl&y Layout");
+    const QString menu = QStringLiteral("Appl&y Perspective");
     QVERIFY(!desk.action("view.deleteLayout")->isEnabled());
     QAction *documents = desk.entry(QStringLiteral("&View"), QStringLiteral("Documents"));
     documents->trigger();
@@ -225,7 +225,7 @@ void TestShell::shippedLayouts()
     desk.window->show();
     QVERIFY(QTest::qWaitForWindowExposed(desk.window.get()));
     desk.entry(QStringLiteral("&View"), QStringLiteral("Editor"))->trigger(); // closed before
-    desk.entry(QStringLiteral("Appl&y Layout"), name)->trigger();
+    desk.entry(QStringLiteral("Appl&y Perspective"), name)->trigger();
     QCoreApplication::processEvents();
     QStringList shown;
     int used = 0;
