@@ -169,7 +169,9 @@ void MainWindow::restoreWindow()
 void MainWindow::updateTitle()
 {
     const app::OpenProject &current = m_workspace.current();
-    setWindowTitle(tr("%1[*] – Ivorel").arg(current.name()));
+    QString name = current.name();
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")); // not the place of the mark
+    setWindowTitle(tr("%1[*] – Ivorel").arg(name));
     setWindowFilePath(QString());
     setWindowModified(current.isDirty());
 }
