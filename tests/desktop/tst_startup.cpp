@@ -45,6 +45,7 @@ private Q_SLOTS:
 
     void opensWhatWasAskedFor_data();
     void opensWhatWasAskedFor();
+    void capture_data();
     void capture();
     void settingsComeBack_data();
     void settingsComeBack();
@@ -308,13 +309,24 @@ void TestStartUp::opensWhatWasAskedFor()
     QCOMPARE(start.prompts.errors.size(), errors);
 }
 
+void TestStartUp::capture_data()
+{
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<int>("errors");
+    QTest::newRow("a project") << "My Novel.vellum" << 0;
+    QTest::newRow("one that is not there") << "None.vellum" << 1;
+}
+
 void TestStartUp::capture()
 {
+    QFETCH(QString, project);
+    QFETCH(int, errors);
     Start start;
+    start.prompts.leavesErrors = true;
     const QString picture = start.dir.filePath(QStringLiteral("shot.png"));
     app::Settings settings(start.settingsFile);
     StartUp startUp(Launch::from({QStringLiteral("ivorel"), QStringLiteral("--capture"), picture,
-                                  start.project}),
+                                  start.dir.filePath(project)}),
                     settings, &start.prompts);
     const QString name = freshName();
     const SingleInstanceServer running(name);
@@ -323,6 +335,7 @@ void TestStartUp::capture()
     QCOMPARE(QCoreApplication::exec(), 0);
     const QImage image(picture);
     QCOMPARE(image.size(), startUp.window().size());
+    QCOMPARE(start.prompts.errors.size(), errors);
 }
 
 void TestStartUp::settingsComeBack_data()

@@ -4,6 +4,8 @@
 #include "app/models/repairflow.h"
 #include "app/storage/lock.h"
 
+#include <QtCore/QEventLoop>
+
 namespace vl::test {
 
 /// Answers as the test set it up, and remembers what was asked.
@@ -16,6 +18,7 @@ public:
     QString path;   ///< what every choice of a place gives
     QString text;   ///< what is typed; null leaves what is suggested
     bool isTextCalledOff = false;
+    bool leavesErrors = false; ///< they stand there until the program ends
     QStringList questions;
     QStringList errors;
     QStringList notices;
@@ -68,7 +71,12 @@ public:
     {
         notices.append(message);
     }
-    void showError(const QString &, const QString &message) override { errors.append(message); }
+    void showError(const QString &, const QString &message) override
+    {
+        errors.append(message);
+        if (leavesErrors)
+            QEventLoop().exec();
+    }
 };
 
 } // namespace vl::test
