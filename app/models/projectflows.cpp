@@ -6,11 +6,24 @@
 #include "app/models/repairflow.h"
 #include "app/models/workspace.h"
 #include "app/storage/lock.h"
+#include "app/storage/projectpaths.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
 namespace vl::app {
+
+namespace {
+
+/// A folder that holds other things gets one for the project among them.
+QString roomFor(const QString &folder, const QString &name)
+{
+    const QDir dir(folder);
+    const bool isEmpty = dir.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return isEmpty || dir.exists(recordsPath()) ? folder : dir.filePath(name);
+}
+
+} // namespace
 
 ProjectFlows::ProjectFlows(Workspace &workspace, Prompts &prompts, Settings &settings)
     : m_workspace(workspace)
@@ -226,9 +239,11 @@ bool ProjectFlows::saveAs()
 
 bool ProjectFlows::saveAsFolder()
 {
-    const QString folder = m_prompts.chooseFolderToSave(m_workspace.current().name());
-    if (folder.isEmpty())
+    const QString name = m_workspace.current().name();
+    const QString chosen = m_prompts.chooseFolderToSave(name);
+    if (chosen.isEmpty())
         return false;
+    const QString folder = roomFor(chosen, name);
     std::unique_ptr<ProjectLock> lock;
     // A folder to be saved to is empty: it can be locked only afterwards, unless it is locked now.
     if (QFileInfo::exists(ProjectLock::filePath(folder)) && !lockToSave(folder, lock))

@@ -103,21 +103,27 @@ bool DialogPrompts::confirm(const QString &question, const QString &detail, cons
     return box.ask() == go;
 }
 
+QDir DialogPrompts::place() const
+{
+    const QDir place(m_place ? m_place() : QString());
+    return !place.isRelative() && place.exists() ? place : QDir::home();
+}
+
 QString DialogPrompts::chooseProjectToOpen()
 {
-    return QFileDialog::getOpenFileName(m_window, tr("Open Project"), QDir::homePath(),
+    return QFileDialog::getOpenFileName(m_window, tr("Open Project"), place().path(),
                                         tr("Ivorel projects (*.vellum)"));
 }
 
 QString DialogPrompts::chooseProjectFolderToOpen()
 {
-    return QFileDialog::getExistingDirectory(m_window, tr("Open Project Folder"), QDir::homePath());
+    return QFileDialog::getExistingDirectory(m_window, tr("Open Project Folder"), place().path());
 }
 
 QString DialogPrompts::chooseBundleToSave(const QString &suggestion)
 {
     QString path = QFileDialog::getSaveFileName(m_window, tr("Save Project As"),
-                                                QDir::home().filePath(suggestion + bundleSuffix),
+                                                place().filePath(suggestion + bundleSuffix),
                                                 tr("Ivorel projects (*.vellum)"));
     if (!path.isEmpty() && !path.endsWith(bundleSuffix, Qt::CaseInsensitive)) {
         path += bundleSuffix;
@@ -133,7 +139,7 @@ QString DialogPrompts::chooseBundleToSave(const QString &suggestion)
 QString DialogPrompts::chooseFolderToSave(const QString & /*suggestion*/)
 {
     return QFileDialog::getExistingDirectory(m_window, tr("Save Project as Folder"),
-                                             QDir::homePath());
+                                             place().path());
 }
 
 std::optional<QString> DialogPrompts::askText(const QString &title, const QString &label,

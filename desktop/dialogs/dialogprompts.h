@@ -3,6 +3,9 @@
 #include "app/models/prompts.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+
+#include <functional>
 
 class QWidget;
 
@@ -14,8 +17,11 @@ class DialogPrompts final : public app::Prompts
     Q_DECLARE_TR_FUNCTIONS(vl::desktop::DialogPrompts)
 
 public:
-    explicit DialogPrompts(QWidget *window)
+    /// Projects are looked for first in the folder that `place` gives; without one, or when it is
+    /// not there, in the user's own.
+    explicit DialogPrompts(QWidget *window, std::function<QString()> place = {})
         : m_window(window)
+        , m_place(std::move(place))
     {
     }
 
@@ -37,7 +43,10 @@ public:
                      app::HolderState state) override;
 
 private:
+    QDir place() const;
+
     QWidget *m_window;
+    std::function<QString()> m_place;
 };
 
 } // namespace vl::desktop

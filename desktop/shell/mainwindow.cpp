@@ -14,6 +14,7 @@
 #include "desktop/shell/windowmenus.h"
 #include "desktop/widgets/elidedlabel.h"
 
+#include <QtCore/QDir>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -40,7 +41,7 @@ QString stepText(const QString &verb, const QString &step)
 
 MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
     : m_settings(settings)
-    , m_dialogs(this)
+    , m_dialogs(this, [this] { return usualPlace(); })
     , m_prompts(prompts ? *prompts : m_dialogs)
     , m_flows(m_workspace, m_prompts, settings)
     , m_actions(settings)
@@ -115,8 +116,8 @@ void MainWindow::bindActions()
     m_actions.bind("file.open", this, [this] { m_flows.chooseAndOpen(); });
     m_actions.bind("file.openFolder", this, [this] { m_flows.chooseAndOpenFolder(); });
     m_actions.bind("file.save", this, [this] { m_tellsFailure = m_flows.saveInBackground(); });
-    m_actions.bind("file.saveAs", this, [this] { m_flows.saveAs(); });
-    m_actions.bind("file.saveAsFolder", this, [this] { m_flows.saveAsFolder(); });
+    m_actions.bind("file.saveAs", this, [this] { tellPlace(m_flows.saveAs()); });
+    m_actions.bind("file.saveAsFolder", this, [this] { tellPlace(m_flows.saveAsFolder()); });
     m_actions.bind("file.quit", this, &QWidget::close);
     m_actions.bind("edit.undo", &m_workspace, &app::Workspace::undo);
     m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
@@ -134,6 +135,21 @@ void MainWindow::tellSaved()
     m_saveFault->hide();
     m_tellsFailure = false;
     m_notices->show(tr("Saved “%1”.").arg(m_workspace.current().name()));
+}
+
+void MainWindow::tellPlace(bool isSaved)
+{
+    if (isSaved)
+        m_notices->show(
+            tr("Saved as %1.").arg(QDir::toNativeSeparators(m_workspace.current().path())));
+}
+
+/// Where the user looks for a project first: beside this one, or beside the last.
+QString MainWindow::usualPlace() const
+{
+    const QString path = m_workspace.current().path();
+    const QString known = path.isEmpty() ? m_settings.recentProjects().value(0) : path;
+    return known.isEmpty() ? QString() : QFileInfo(known).path();
 }
 
 void MainWindow::tellSaveFailed(const QString &message)

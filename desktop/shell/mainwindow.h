@@ -50,6 +50,8 @@ private:
     void updateTitle();
     void updateSteps();
     void tellSaved();
+    void tellPlace(bool isSaved);
+    QString usualPlace() const;
     void tellSaveFailed(const QString &message);
 
     app::Settings &m_settings;

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void savesAndOpensAgain();
     void asksBeforeWorkGoes_data();
     void asksBeforeWorkGoes();
+    void aFolderWithOtherThingsGetsOneMore();
     void failuresKeepTheProject();
     void savesInTheBackground();
     void outsideChangesAreNotOverwrittenUnasked();
@@ -124,6 +125,27 @@ void TestProjectFlows::asksBeforeWorkGoes()
     QCOMPARE(place.workspace.project().size(), goes ? 0 : 1);
     QCOMPARE(QFile::exists(place.dir.filePath(QStringLiteral("place.vellum"))),
              answer == Prompts::Unsaved::Save && goes);
+}
+
+void TestProjectFlows::aFolderWithOtherThingsGetsOneMore()
+{
+    Place place;
+    place.prompts.path = place.dir.filePath(QStringLiteral("folder"));
+    QVERIFY(place.flows.saveAsFolder()); // there was none
+    QCOMPARE(place.workspace.current().path(), place.prompts.path);
+    const QString books = place.dir.filePath(QStringLiteral("books"));
+    QVERIFY(QDir().mkpath(books + QStringLiteral("/another")));
+    place.prompts.path = books;
+    QVERIFY(place.flows.saveAsFolder());
+    QCOMPARE(place.workspace.current().path(), books + QStringLiteral("/folder"));
+    // But not in the middle of another project; its own folder is saved to again.
+    for (const QString &taken : {place.dir.filePath(QStringLiteral("folder")), books}) {
+        place.prompts.path = taken;
+        place.prompts.errors.clear();
+        QCOMPARE(place.flows.saveAsFolder(), taken == books);
+        QCOMPARE(place.prompts.errors.size(), taken == books ? 0 : 1);
+        QCOMPARE(place.workspace.current().path(), books + QStringLiteral("/folder"));
+    }
 }
 
 void TestProjectFlows::failuresKeepTheProject()
