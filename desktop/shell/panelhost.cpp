@@ -2,6 +2,7 @@
 
 #include "app/base/settingskeys.h"
 #include "app/models/workspace.h"
+#include "desktop/actions/actionregistry.h"
 #include "desktop/shell/dockstyle.h"
 #include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
@@ -103,6 +104,12 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     m_manager->setStyleSheet({}); // ours comes when all is in its place: see dress()
 
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
+    // The keys of the window work in one that was drawn out of it too.
+    connect(m_manager, &ads::CDockManager::floatingWidgetCreated, this,
+            [&actions = context.actions](ads::CFloatingDockContainer *floating) {
+                for (QAction *action : actions.all())
+                    floating->addAction(action);
+            });
 
     // The middle first: the sides are split off from it.
     for (const DockSide side : {DockSide::Center, DockSide::Left, DockSide::LeftBelow,
@@ -332,6 +339,7 @@ void PanelHost::showPanel(const QString &objectName)
     if (ads::CDockWidget *dock = m_manager->findDockWidget(objectName)) {
         dock->toggleView(true);
         dock->setAsCurrentTab();
+        dock->window()->activateWindow();
         focusInto(dock);
     }
 }
@@ -366,6 +374,7 @@ void PanelHost::moveFocus(int step)
     const auto count = qsizetype(open.size());
     const qsizetype next =
         current < 0 ? (step > 0 ? 0 : count - 1) : (current + step + count) % count;
+    open[size_t(next)]->window()->activateWindow(); // it may float
     focusInto(open[size_t(next)]);
 }
 

@@ -1,5 +1,8 @@
 #include "app/base/settingskeys.h"
+#include "app/models/documentoperations.h"
+#include "app/models/workspace.h"
 #include "desktop/panels/catalogue.h"
+#include "desktop/panels/inspectorpanel.h"
 #include "desktop/preferences/preferencesdialog.h"
 #include "desktop/shell/appearance.h"
 #include "desktop/shell/layouts.h"
@@ -78,6 +81,7 @@ private Q_SLOTS:
     void theFirstLayoutGivesTheTextItsRoom_data();
     void theFirstLayoutGivesTheTextItsRoom();
     void theKeyboardReachesEveryPanel();
+    void theKeysWorkInAPanelThatFloats();
     void windowsAreBroughtBack_data();
     void windowsAreBroughtBack();
     void ownKeysStandOverBuiltInOnes_data();
@@ -352,6 +356,33 @@ void TestShell::theKeyboardReachesEveryPanel()
             open.insert(QLatin1String(row.objectName));
     QCOMPARE(visited("view.nextPanel"), open);
     QCOMPARE(visited("view.previousPanel"), open);
+}
+
+void TestShell::theKeysWorkInAPanelThatFloats()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(desk.window.get()));
+    app::Workspace &workspace = desk.window->workspace();
+    workspace.select(app::DocumentOperations(workspace).add(core::DocumentKind::Prose, {}));
+    auto *panel = desk.window->findChild<desktop::InspectorPanel *>();
+    auto *dock = desk.window->findChild<QWidget *>(QStringLiteral("inspector"));
+    QVERIFY(panel && dock && QMetaObject::invokeMethod(dock, "setFloating"));
+    QVERIFY(panel->window() != desk.window.get());
+    panel->window()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel->window()));
+    QApplication::setActiveWindow(panel->window());
+    panel->setFocus();
+    const auto isIn = [&] { return panel->isAncestorOf(QApplication::focusWidget()); };
+    QTRY_VERIFY(isIn());
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("One"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    const auto steps = workspace.history().undoCount();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(workspace.history().undoCount(), steps - 1);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    QTRY_VERIFY(desk.window->isActiveWindow() && !isIn());
 }
 
 void TestShell::windowsAreBroughtBack_data()
