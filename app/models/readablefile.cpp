@@ -1,6 +1,7 @@
 #include "app/models/readablefile.h"
 
 #include "app/models/objecttexts.h"
+#include "app/models/readablewords.h"
 #include "app/time/calendartext.h"
 #include "core/project.h"
 
@@ -20,75 +21,6 @@ namespace {
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(vl::app::ReadableFile)
-};
-
-struct Label
-{
-    const char *key;
-    const char *context;
-    const char *text;
-};
-
-const char forms[] = "vl::app::InspectorForms"; // where the inspector has the word, it is the same
-const char own[] = "vl::app::ReadableFile";
-
-constexpr Label labels[] = {
-    {"aiExcluded", forms,
-     QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Withhold from AI services")},
-    {"aliases", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Aliases")},
-    {"anchor", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place in the text")},
-    {"assetPath", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Media file")},
-    {"author", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Author")},
-    {"birthInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Born or begun")},
-    {"caption", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Caption")},
-    {"categoryId", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Category")},
-    {"citationKey", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Citation key")},
-    {"createdAt", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Made")},
-    {"deathInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Died or ended")},
-    {"description", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Description")},
-    {"done", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Done")},
-    {"dueDate", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Due")},
-    {"endMinute", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "End")},
-    {"endnote", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Endnote")},
-    {"fields", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Fields")},
-    {"footnotes", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Footnotes")},
-    {"gallery", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Pictures")},
-    {"grammarNotes", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Grammar notes")},
-    {"id", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Mark")},
-    {"imageAssetPath", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Media file")},
-    {"instant", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Date")},
-    {"kind", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Kind")},
-    {"layer", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Layer")},
-    {"locationId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place")},
-    {"name", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Name")},
-    {"note", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Note")},
-    {"notes", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Notes")},
-    {"parentId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Under")},
-    {"participants", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Who takes part")},
-    {"plotThreadIds", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Plot threads")},
-    {"plotThreads", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Plot threads")},
-    {"pointOfView", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Point of view")},
-    {"priority", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Priority")},
-    {"resolved", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Resolved")},
-    {"revisionBaseline", own,
-     QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Text before the revision")},
-    {"sceneInstant", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Scene date")},
-    {"sortIndex", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Place in the order")},
-    {"sourceIds", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Sources")},
-    {"startMinute", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Beginning")},
-    {"status", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Status")},
-    {"synopsis", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Synopsis")},
-    {"tags", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Tags")},
-    {"targetId", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "About")},
-    {"tensionLevel", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Tension")},
-    {"timedValues", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "State over time")},
-    {"title", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Title")},
-    {"updatedAt", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Changed")},
-    {"values", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Details")},
-    {"variants", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Other wordings")},
-    {"versions", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Earlier versions")},
-    {"visibleTo", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Audiences")},
-    {"wordCountTarget", forms, QT_TRANSLATE_NOOP("vl::app::InspectorForms", "Word-count target")},
 };
 
 /// The members that a thing is known by, the first of them that is there.
@@ -116,12 +48,12 @@ QString spelledOut(const QString &key)
     return words;
 }
 
-QString labelOf(const QString &key)
+QString labelOf(const QString &key, const QJsonValue &value)
 {
-    for (const Label &label : labels)
-        if (key == QLatin1String(label.key))
-            return QCoreApplication::translate(label.context, label.text);
-    return spelledOut(key);
+    // The numbers of a chart are no fields.
+    const bool isSeries = key == QLatin1String("values") && value.isArray();
+    const QString label = readableLabel(isSeries ? QStringLiteral("stats") : key);
+    return label.isNull() ? spelledOut(key) : label;
 }
 
 /// Whether the members have names that the user gave them.
@@ -136,6 +68,26 @@ bool isInstant(const QString &key)
     static const char *const keys[] = {"sceneInstant", "birthInstant", "deathInstant",
                                        "instant",      "startMinute",  "endMinute"};
     return isOneOf(key, keys);
+}
+
+/// Whether the file counts from 0 what people count from 1.
+bool isCounted(const QString &key)
+{
+    static const char *const keys[] = {"sortIndex", "row", "column", "index"};
+    return isOneOf(key, keys);
+}
+
+/// "B2" for the second cell of the second row; empty for what is no cell.
+QString cellName(const QJsonObject &item)
+{
+    const QJsonValue row = item.value(QLatin1String("row"));
+    int column = item.value(QLatin1String("column")).toInt(-1);
+    if (!row.isDouble() || column < 0)
+        return {};
+    QString letters;
+    for (; column >= 0; column = column / 26 - 1)
+        letters.prepend(QChar(u'A' + column % 26));
+    return letters + QString::number(qint64(row.toDouble()) + 1);
 }
 
 bool isNothing(const QJsonValue &value)
@@ -220,8 +172,7 @@ QString Writer::shortText(const QString &key, const QJsonValue &value) const
         const QVariant number = value.toVariant();
         if (isInstant(key) && m_project)
             return formatInstant(m_project->calendar(), number.toLongLong());
-        return key == QLatin1String("sortIndex") ? QString::number(number.toLongLong() + 1)
-                                                 : number.toString();
+        return isCounted(key) ? QString::number(number.toLongLong() + 1) : number.toString();
     }
     if (value.isArray()) {
         QStringList texts;
@@ -243,13 +194,7 @@ QString Writer::shortText(const QString &key, const QJsonValue &value) const
             return QLocale().toString(time.date(), QLocale::ShortFormat) + u' '
                    + time.toString(QStringLiteral("HH:mm:ss"));
     }
-    if (key == QLatin1String("kind")) {
-        const char *const kinds[] = {"Prose", "Screenplay", "Note"};
-        for (const char *kind : kinds)
-            if (text.compare(QLatin1String(kind), Qt::CaseInsensitive) == 0)
-                return QCoreApplication::translate(forms, kind);
-    }
-    return text;
+    return readableChoice(key, text);
 }
 
 void Writer::addLines(const QString &text, int depth)
@@ -278,8 +223,9 @@ void Writer::addMember(const QString &key, const QJsonValue &value, int depth, b
 {
     if (isNothing(value))
         return;
-    const QString start = indentation(depth) + (isOwnName ? key : labelOf(key)) + QLatin1Char(':');
-    if (const QString line = shortText(key, value); !line.isNull()) {
+    const QString start =
+        indentation(depth) + (isOwnName ? key : labelOf(key, value)) + QLatin1Char(':');
+    if (const QString line = shortText(isOwnName ? QString() : key, value); !line.isNull()) {
         m_text += start + u' ' + line + u'\n';
         return;
     }
@@ -305,6 +251,9 @@ void Writer::addItem(const QJsonObject &item, int depth)
 {
     QString head;
     QStringList line;
+    const QString cell = cellName(item);
+    if (!cell.isEmpty())
+        line.append(cell);
     for (const QLatin1String key : headKeys) {
         const QString text = shortText(key, item.value(key));
         if (text.isEmpty())
@@ -315,14 +264,17 @@ void Writer::addItem(const QJsonObject &item, int depth)
     }
     QJsonObject below;
     for (auto it = item.begin(); it != item.end(); ++it) {
-        if (it.key() == head || isNothing(it.value()))
+        const bool isInCell =
+            !cell.isEmpty()
+            && (it.key() == QLatin1String("row") || it.key() == QLatin1String("column"));
+        if (it.key() == head || isInCell || isNothing(it.value()))
             continue;
         const QString text = it->isObject() ? QString() : shortText(it.key(), it.value());
         if (text.isNull() || it.key() == QLatin1String("body"))
             below.insert(it.key(), it.value());
         else if (core::ContentId::fromString(it->toString()).isNull()
                  || it.key() != QLatin1String("id"))
-            line.append(labelOf(it.key()) + QStringLiteral(": ") + text);
+            line.append(labelOf(it.key(), *it) + QStringLiteral(": ") + text);
     }
     m_text += indentation(depth) + QStringLiteral("• ") + line.join(QStringLiteral(", ")) + u'\n';
     for (auto it = below.begin(); it != below.end(); ++it) {

@@ -2,6 +2,7 @@
 #include "app/models/backupkeeper.h"
 #include "app/models/projectflows.h"
 #include "app/models/readablefile.h"
+#include "app/models/readablewords.h"
 #include "app/models/workspace.h"
 #include "app/storage/archivesalvage.h"
 #include "app/storage/bundlestore.h"
@@ -73,6 +74,8 @@ private Q_SLOTS:
     void flow();
     void readableFiles_data();
     void readableFiles();
+    void everyMemberHasWords_data();
+    void everyMemberHasWords();
     void readableVersions();
 
 private:
@@ -377,8 +380,8 @@ void TestRepair::readableFiles_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
     QTest::newRow("no JSON") << QByteArray("half {") << "half {";
-    QTest::newRow("fields") << QByteArray("{\"a\": \"x\", \"b\": 9007199254740993, \"c\": true}")
-                            << "A: x\nB: 9007199254740993\nC: yes\n";
+    QTest::newRow("fields") << QByteArray("{\"d\": \"x\", \"e\": 9007199254740993, \"f\": true}")
+                            << "D: x\nE: 9007199254740993\nF: yes\n";
     QTest::newRow("the words of the inspector, the title first, the text last")
         << QByteArray(
                "{\"body\": \"It rains.\", \"pointOfView\": \"Mara\", \"id\": \"x\","
@@ -407,8 +410,58 @@ void TestRepair::readableFiles_data()
     for (int depth = 0; depth < 30; ++depth)
         steps += QString(2 * std::min(depth, 20), u' ') + QStringLiteral("K:\n");
     QTest::newRow("no wider than a window, however deep")
-        << QByteArray("{\"k\":").repeated(30) + "{\"a\": 1}" + QByteArray(30, '}')
-        << steps + QString(40, u' ') + QStringLiteral("A: 1\n");
+        << QByteArray("{\"k\":").repeated(30) + "{\"d\": 1}" + QByteArray(30, '}')
+        << steps + QString(40, u' ') + QStringLiteral("D: 1\n");
+    QTest::newRow("cells") << QByteArray(
+        "{\"cells\": [{\"column\": 27, \"row\": 1, \"text\": \"x\"}],"
+        " \"rowHeights\": [{\"index\": 3, \"size\": 40}]}")
+                           << "Cells:\n  • AB2, x\nRow heights:\n  • Number: 4, Size: 40\n";
+    QTest::newRow("a chart") << QByteArray("{\"kind\": \"bar\", \"series\": [{\"name\": \"Rain\","
+                                           " \"values\": [1, 2.5]}]}")
+                             << "Kind: Bars\nSeries:\n  • Rain, Values: 1, 2.5\n";
+    QTest::newRow("choices") << QByteArray("{\"dateQualifier\": \"circa\", \"constraints\":"
+                                           " [{\"kind\": \"after\", \"otherId\": \"\"}]}")
+                             << "Order among the events:\n  • Kind: After\nCertainty of the date: "
+                                "About\n";
+    QTest::newRow("a field that the user named as a member")
+        << QByteArray("{\"values\": {\"kind\": \"note\"}}") << "Details:\n  kind: note\n";
+}
+
+void TestRepair::everyMemberHasWords_data()
+{
+    QTest::addColumn<QString>("path");
+    const QDir data(QStringLiteral(IVOREL_TEST_DATA));
+    for (const char *folder : {"", "kinds", "taxonomy"}) {
+        const QDir files(data.filePath(QLatin1String(folder)));
+        for (const QString &name : files.entryList({QStringLiteral("*.json")}, QDir::Files))
+            QTest::newRow(qPrintable(name)) << files.filePath(name);
+    }
+}
+
+void TestRepair::everyMemberHasWords()
+{
+    QFETCH(QString, path);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QStringList missing;
+    const std::function<void(const QJsonValue &)> walk = [&](const QJsonValue &value) {
+        for (const QJsonValue item : value.toArray())
+            walk(item);
+        const QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            static const QStringList places{QStringLiteral("x"),  QStringLiteral("y"),
+                                            QStringLiteral("x1"), QStringLiteral("x2"),
+                                            QStringLiteral("y1"), QStringLiteral("y2")};
+            if (readableLabel(it.key()).isNull() && !places.contains(it.key()))
+                missing.append(it.key());
+            static const QStringList named{QStringLiteral("values"), QStringLiteral("fields"),
+                                           QStringLiteral("fieldValues")};
+            if (!named.contains(it.key()) || it->isArray())
+                walk(*it);
+        }
+    };
+    walk(QJsonDocument::fromJson(file.readAll()).object());
+    QCOMPARE(missing, QStringList());
 }
 
 void TestRepair::readableFiles()
