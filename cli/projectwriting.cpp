@@ -65,8 +65,8 @@ app::Result<> writeBundle(const core::Project &project, const app::ProjectFiles 
 {
     app::ProjectFiles files = modelFiles(project);
     files.insert(files.end(), carried.begin(), carried.end());
-    app::Result<app::BundleSource> source =
-        app::BundleSource::ofProject(std::move(files), carryFrom, readPaths);
+    app::Result<app::BundleSource> source = app::BundleSource::ofProject(
+        std::move(files), carryFrom, readPaths, app::Repositories::LeaveOut);
     if (!source)
         return source.asFailure();
     source->leaveOut(path);

@@ -99,7 +99,8 @@ Result<BundleSource> BundleSource::ofFiles(const QString &folder, std::vector<QB
 }
 
 Result<BundleSource> BundleSource::ofProject(ProjectFiles files, const QString &folder,
-                                             const QStringList &readPaths)
+                                             const QStringList &readPaths,
+                                             Repositories repositories)
 {
     BundleSource source;
     source.m_folder = folder;
@@ -114,7 +115,7 @@ Result<BundleSource> BundleSource::ofProject(ProjectFiles files, const QString &
         return failure(withPath(
             Bundle::tr("The folder is not an Ivorel project (no project.json): %1"), folder));
     if (!folder.isEmpty()) {
-        Result<std::vector<QByteArray>> paths = listProjectFolder(folder);
+        Result<std::vector<QByteArray>> paths = listProjectFolder(folder, repositories);
         if (!paths)
             return paths.asFailure();
         std::set<QByteArray> read;

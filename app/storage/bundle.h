@@ -4,6 +4,7 @@
 #include "app/base/result.h"
 #include "app/storage/archive.h"
 #include "app/storage/projectfiles.h"
+#include "app/storage/projectfolder.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
@@ -53,7 +54,8 @@ public:
     /// are gone, and `readPaths`, the paths that the project was read from. An empty folder name
     /// carries nothing along.
     static Result<BundleSource> ofProject(ProjectFiles files, const QString &folder,
-                                          const QStringList &readPaths);
+                                          const QStringList &readPaths,
+                                          Repositories repositories = Repositories::Keep);
 
     /// Hands the archive to the sink, piece by piece; `path` is that of the bundle, for messages.
     Result<> packInto(const ArchiveWriter::Sink &sink, const QString &path) const;

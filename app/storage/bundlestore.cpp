@@ -368,7 +368,7 @@ Result<OpenedBundle> saveBundleAs(const BundleSave &save, const QString &carryFr
                                   const StorageLocations &locations)
 {
     const Result<BundleSource> source =
-        BundleSource::ofProject(save.files, carryFrom, save.readPaths);
+        BundleSource::ofProject(save.files, carryFrom, save.readPaths, Repositories::LeaveOut);
     if (!source)
         return source.asFailure();
     if (FileIdentity::of(save.bundlePath).size > 0) {

@@ -83,7 +83,19 @@ bool isReadPath(QByteArrayView path)
     return path == "project.json" || !objectName(path).isEmpty();
 }
 
-Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
+bool isRepositoryPath(QByteArrayView path)
+{
+    for (qsizetype from = 0; from < path.size();) {
+        const qsizetype slash = path.indexOf('/', from);
+        const QByteArrayView part = path.sliced(from, (slash < 0 ? path.size() : slash) - from);
+        if (part == ".git" || part == ".hg" || part == ".svn")
+            return true;
+        from += part.size() + 1;
+    }
+    return false;
+}
+
+Result<std::vector<QByteArray>> listProjectFolder(const QString &folder, Repositories repositories)
 {
     if (!QDir(folder).exists())
         return failure(ProjectFolder::tr("The project folder does not exist: %1")
@@ -100,6 +112,10 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder)
         const fs::file_type type = typeOf(*it, error);
         if (error)
             break;
+        if (repositories == Repositories::LeaveOut && isRepositoryPath(path)) {
+            it.disable_recursion_pending();
+            continue;
+        }
         if (type == fs::file_type::directory)
             continue;
         const qsizetype slash = path.lastIndexOf('/');
@@ -145,7 +161,7 @@ QString pathInFolder(const QString &folder, QByteArrayView path)
 
 Result<> copyCarriedFiles(const QString &from, const QString &to)
 {
-    const Result<std::vector<QByteArray>> paths = listProjectFolder(from);
+    const Result<std::vector<QByteArray>> paths = listProjectFolder(from, Repositories::LeaveOut);
     if (!paths)
         return paths.asFailure();
     const QString unwritten = ProjectFolder::tr("Could not write a project file: %1");

@@ -18,11 +18,23 @@ bool isOwnPath(QByteArrayView path);
 /// directly in "objects/" or "taxonomy/" that is not hidden.
 bool isReadPath(QByteArrayView path);
 
+/// Whether the path belongs to a version control system's own store: a part of it is named ".git",
+/// ".hg" or ".svn". That store is about the folder it stands in, and no part of the project.
+bool isRepositoryPath(QByteArrayView path);
+
+/// What becomes of such stores.
+enum class Repositories
+{
+    Keep,
+    LeaveOut, ///< where a project is copied to another place
+};
+
 /// The paths of all files under the folder, hidden ones too, relative to it, in ascending order of
 /// their bytes. Fails for what cannot be packed: links, devices, unreadable folders and names that
 /// no other system could unpack. What unfinished writes left behind is passed over, and
 /// so is the lock.
-Result<std::vector<QByteArray>> listProjectFolder(const QString &folder);
+Result<std::vector<QByteArray>> listProjectFolder(const QString &folder,
+                                                  Repositories repositories = Repositories::Keep);
 
 /// Removes what unfinished writes of the program's own files left in a project folder. Others, such
 /// as an asset just being imported, stay.
@@ -37,8 +49,8 @@ Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path
 /// The full path of a file in a folder, from its path relative to it.
 QString pathInFolder(const QString &folder, QByteArrayView path);
 
-/// Copies every file that is not made from the model ("assets/" and whatever is unknown) from one
-/// project folder into another, which may hold some of them already.
+/// Copies every file that is not made from the model ("assets/" and whatever is unknown, but no
+/// repository) from one project folder into another, which may hold some of them already.
 Result<> copyCarriedFiles(const QString &from, const QString &to);
 
 } // namespace vl::app

@@ -114,6 +114,8 @@ Result<> ProjectRepair::readFolder()
     ProjectFiles read;
     for (const QString &path : everythingUnder(m_path)) {
         const QByteArray name = path.toUtf8();
+        if (isRepositoryPath(name))
+            continue; // it stays with the folder that it is about
         if (!isSafeEntryName(name)) {
             m_leftOut.push_back({path, unreadable(m_path, path)});
         } else if (isReadPath(name)) {

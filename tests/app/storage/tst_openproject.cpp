@@ -1,5 +1,6 @@
 #include "app/storage/bundle.h"
 #include "app/storage/openproject.h"
+#include "app/storage/repair.h"
 #include "core/commands/documentcommands.h"
 #include "core/content/document.h"
 #include "tests/support/folders.h"
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesElsewhereWhenItsPlaceIsGone_data();
     void savesElsewhereWhenItsPlaceIsGone();
+    void leavesTheRepositoryBehind_data();
+    void leavesTheRepositoryBehind();
     void ownSavesAreNoOutsideChanges_data();
     void ownSavesAreNoOutsideChanges();
     void queuedSaveWritesOverOthersWhenAllowed();
@@ -96,6 +99,51 @@ void TestOpenProject::savesElsewhereWhenItsPlaceIsGone()
     QVERIFY(again);
     QCOMPARE((*again)->project().size(), 1);
     QCOMPARE(QFile::exists((*again)->folder() + QStringLiteral("/assets/map.png")), keepsAssets);
+}
+
+void TestOpenProject::leavesTheRepositoryBehind_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("isRepair");
+    for (const char *target : {"copy", "copy.vellum"}) {
+        QTest::addRow("saved as %s", target) << target << false;
+        QTest::addRow("repaired into %s", target) << target << true;
+    }
+}
+
+void TestOpenProject::leavesTheRepositoryBehind()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, isRepair);
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("book"));
+    putFiles(folder, {{QStringLiteral("project.json"), "{\n}\n"},
+                      {QStringLiteral(".gitattributes"), "*.json merge=ivorel\n"},
+                      {QStringLiteral("notes/.git"), "gitdir: elsewhere\n"},
+                      {QStringLiteral(".git/objects/a0/b1"), "history"}});
+    // A running program's socket is no file either.
+    QVERIFY(QFile::link(QStringLiteral("nowhere"), folder + QStringLiteral("/.git/daemon.ipc")));
+    const QString path = dir.filePath(target);
+    if (isRepair) {
+        const auto repair = ProjectRepair::examine(folder, StorageLocations::standard());
+        QVERIFY(repair);
+        QVERIFY(repair->leftOut().empty());
+        QVERIFY(repair->writeCopy(path));
+    } else {
+        const auto open = OpenProject::open(folder);
+        QVERIFY(open);
+        const Result<> saved = target.endsWith(QLatin1String(".vellum"))
+                                   ? (*open)->saveAsBundle(path)
+                                   : (*open)->saveAsFolder(path);
+        QVERIFY2(saved, qPrintable(saved ? QString() : saved.message()));
+    }
+    const auto again = OpenProject::open(path);
+    QVERIFY(again);
+    const QStringList files = filesUnder((*again)->folder()).keys();
+    QVERIFY2(files.contains(QStringLiteral(".gitattributes")), qPrintable(files.join(u' ')));
+    QVERIFY2(files.filter(QStringLiteral(".git/")).isEmpty(), qPrintable(files.join(u' ')));
+    QVERIFY(!files.contains(QStringLiteral("notes/.git")));
+    QVERIFY(QFile::exists(folder + QStringLiteral("/.git/objects/a0/b1")));
 }
 
 void TestOpenProject::ownSavesAreNoOutsideChanges_data()
