@@ -1,5 +1,6 @@
 #include "desktop/shell/mainwindow.h"
 
+#include "app/base/diskroom.h"
 #include "app/base/settingskeys.h"
 #include "app/models/objecttexts.h"
 #include "desktop/dialogs/projecttools.h"
@@ -115,7 +116,9 @@ void MainWindow::bindActions()
 {
     m_actions.bind("file.open", this, [this] { m_flows.chooseAndOpen(); });
     m_actions.bind("file.openFolder", this, [this] { m_flows.chooseAndOpenFolder(); });
-    m_actions.bind("file.save", this, [this] { m_tellsFailure = m_flows.saveInBackground(); });
+    m_actions.bind("file.save", this, [this] {
+        m_isAskedFor = m_flows.saveInBackground() && m_workspace.current().isSaving();
+    });
     m_actions.bind("file.saveAs", this, [this] { tellPlace(m_flows.saveAs()); });
     m_actions.bind("file.saveAsFolder", this, [this] { tellPlace(m_flows.saveAsFolder()); });
     m_actions.bind("file.quit", this, &QWidget::close);
@@ -133,8 +136,12 @@ void MainWindow::bindActions()
 void MainWindow::tellSaved()
 {
     m_saveFault->hide();
-    m_tellsFailure = false;
-    m_notices->show(tr("Saved “%1”.").arg(m_workspace.current().name()));
+    const QString text = tr("Saved “%1”.").arg(m_workspace.current().name());
+    // A save that came by itself does not take an "Undo" away.
+    if (std::exchange(m_isAskedFor, false))
+        m_notices->show(text);
+    else
+        m_notices->remark(text);
 }
 
 void MainWindow::tellPlace(bool isSaved)
@@ -152,13 +159,16 @@ QString MainWindow::usualPlace() const
     return known.isEmpty() ? QString() : QFileInfo(known).path();
 }
 
-void MainWindow::tellSaveFailed(const QString &message)
+void MainWindow::tellSaveFailed(const QString &reason)
 {
+    const QString message = app::isDiskFull(m_workspace.current().path())
+                                ? tr("The disk is full. %1").arg(reason)
+                                : reason;
     m_saveFault->setText(tr("⚠ Not saved: %1").arg(message));
     m_saveFault->setToolTip(app::plainToolTip(message));
     m_saveFault->show();
     // Who asked for a save is told at once, not only in passing.
-    if (std::exchange(m_tellsFailure, false))
+    if (std::exchange(m_isAskedFor, false))
         m_prompts.showError(tr("Save Project"), message);
 }
 

@@ -52,7 +52,7 @@ private:
     void tellSaved();
     void tellPlace(bool isSaved);
     QString usualPlace() const;
-    void tellSaveFailed(const QString &message);
+    void tellSaveFailed(const QString &reason);
 
     app::Settings &m_settings;
     DialogPrompts m_dialogs;
@@ -68,7 +68,7 @@ private:
     std::unique_ptr<SafeKeeping> m_safeKeeping;
     std::unique_ptr<ProjectCare> m_care;
     ElidedLabel *m_saveFault = nullptr; ///< why the last save failed, until one succeeds
-    bool m_tellsFailure = false;        ///< the save that runs was asked for by the user
+    bool m_isAskedFor = false;          ///< the save that runs was asked for by the user
 };
 
 } // namespace vl::desktop

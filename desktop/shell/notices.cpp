@@ -80,6 +80,21 @@ void Notices::show(const QString &text, const QString &actionText,
     QAccessible::updateAccessibility(&alert);
 }
 
+void Notices::remark(const QString &text)
+{
+    if (!m_action)
+        show(text);
+}
+
+void Notices::showNext(const QString &text, const QString &actionText,
+                       const std::function<void()> &action)
+{
+    if (m_offeredAt < 0)
+        show(text, actionText, action);
+    else
+        m_next = [this, text, actionText, action] { show(text, actionText, action); };
+}
+
 void Notices::offerUndo(const QString &text)
 {
     show(text, tr("Undo"), [this] { m_workspace.undo(); });
@@ -92,6 +107,8 @@ void Notices::clear()
     m_offeredAt = -1;
     m_action = {};
     m_row->hide();
+    if (const auto next = std::exchange(m_next, {}))
+        next();
 }
 
 void Notices::stand(const QString &text, const QString &details)

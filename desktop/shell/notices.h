@@ -30,6 +30,11 @@ public:
     /// to offer, which takes the text away and then runs.
     void show(const QString &text, const QString &actionText = {},
               const std::function<void()> &action = {});
+    /// Shows a text for a while, unless something is offered, which matters more.
+    void remark(const QString &text);
+    /// Shows a text like show(), once what was done last is not offered to be taken back any more.
+    void showNext(const QString &text, const QString &actionText,
+                  const std::function<void()> &action);
     /// Tells what was done last and offers to take it back, until something else is done.
     void offerUndo(const QString &text);
     /// Takes the passing text away.
@@ -53,6 +58,7 @@ private:
     ElidedLabel *m_standing;
     QToolButton *m_button;
     std::function<void()> m_action;
+    std::function<void()> m_next; ///< shows what waits for the end of an offer; null for nothing
     QTimer m_timer;
     qsizetype m_offeredAt = -1; ///< how many steps there were when the last could be taken back
 };

@@ -5,6 +5,7 @@
 #include "core/content/document.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
+#include "desktop/shell/notices.h"
 #include "desktop/shell/safekeeping.h"
 #include "tests/support/folders.h"
 
@@ -13,6 +14,8 @@
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
 
 using namespace vl;
@@ -92,6 +95,7 @@ class TestSafeKeeping : public QObject
 private Q_SLOTS:
     void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesBehindADialog();
+    void savesBesideAnOfferToUndo();
     void theCaretStaysInAMerge();
     void waitsForTheUsersHands_data();
     void waitsForTheUsersHands();
@@ -121,6 +125,36 @@ void TestSafeKeeping::savesBehindADialog()
     QVERIFY(isSavedBehind);
     QCOMPARE(answer.value_or(QString()), QStringLiteral("A name"));
     QVERIFY(!desk.current().isDirty());
+}
+
+void TestSafeKeeping::savesBesideAnOfferToUndo()
+{
+    Desk desk;
+    app::DocumentOperations(desk.window.workspace()).remove({desk.ids.last()});
+    desk.window.notices().offerUndo(QStringLiteral("Deleted 1 document."));
+    QToolButton *undo = nullptr;
+    for (auto *button : desk.window.statusBar()->findChildren<QToolButton *>())
+        if (button->text() == QLatin1String("Undo"))
+            undo = button;
+    QVERIFY(undo);
+    QSignalSpy saved(&desk.autosave, &app::AutosaveController::saved);
+    desk.autosave.saveNow();
+    QVERIFY(saved.wait(10000));
+    QVERIFY(undo->isVisible());
+    bool isShown = false;
+    desk.window.notices().showNext(QStringLiteral("No backup was made."), QStringLiteral("Show"),
+                                   [&isShown] { isShown = true; });
+    undo->click();
+    QVERIFY(desk.document(desk.ids.last()));
+    QVERIFY(undo->isVisible()); // and offers what waited
+    undo->click();
+    QVERIFY(isShown);
+    // Who saves is told so.
+    desk.window.notices().offerUndo(QStringLiteral("Done."));
+    QSignalSpy wanted(&desk.window.workspace(), &app::Workspace::saved);
+    desk.window.actions()["file.save"]->trigger();
+    QVERIFY(wanted.wait(10000));
+    QVERIFY(!undo->isVisible());
 }
 
 void TestSafeKeeping::theCaretStaysInAMerge()
