@@ -100,6 +100,16 @@ std::set<QString> shownMedia(const core::Project &project, core::ChangeSet *obje
     return paths;
 }
 
+/// Whether the file is there in both with the same contents, or in neither.
+bool isSameMedia(const MediaStamps &one, const MediaStamps &other, const QString &path)
+{
+    const auto here = one.constFind(path);
+    const auto there = other.constFind(path);
+    const bool isHere = here != one.constEnd();
+    const bool isThere = there != other.constEnd();
+    return isHere == isThere && (!isHere || here->sample == there->sample);
+}
+
 } // namespace
 
 OutsideMonitor::OutsideMonitor(Workspace &workspace, StorageLocations locations, QObject *parent)
@@ -149,6 +159,12 @@ void OutsideMonitor::follow()
     m_handsTimer.stop();
     m_isPutOff = false;
     m_state = {};
+    m_shownMedia.reset();
+    m_seenMedia.reset();
+    if (!m_changedMedia.isEmpty()) {
+        m_changedMedia.clear();
+        Q_EMIT mediaChanged(0);
+    }
     renewOffer();
 }
 
@@ -410,19 +426,26 @@ void OutsideMonitor::carryOut()
 
 void OutsideMonitor::tellMedia(const OutsideState &state)
 {
-    if (m_workspace.current().isBundle())
-        return; // they come with the rest of the bundle
+    if (m_workspace.current().isBundle() || !state.mediaStamps)
+        return; // they come with the rest of the bundle, or could not be looked at
     // What the open project itself shows and was not there before is its own import.
     const std::set<QString> shown = shownMedia(m_workspace.project());
     QStringList changed;
     for (const QString &path : state.media)
         if (!shown.contains(path) || !state.addedMedia.contains(path))
             changed.append(path);
-    if (changed.isEmpty())
-        return;
+    const QStringList before = m_changedMedia;
     m_changedMedia += changed;
     m_changedMedia.removeDuplicates();
-    Q_EMIT mediaChanged(int(m_changedMedia.size()));
+    // What is again as it was shown last is no news any more.
+    m_changedMedia.removeIf([&](const QString &path) {
+        return m_shownMedia && isSameMedia(*m_shownMedia, *state.mediaStamps, path);
+    });
+    m_seenMedia = state.mediaStamps;
+    if (m_changedMedia.isEmpty())
+        m_shownMedia = m_seenMedia;
+    if (m_changedMedia != before || (!changed.isEmpty() && !m_changedMedia.isEmpty()))
+        Q_EMIT mediaChanged(int(m_changedMedia.size()));
 }
 
 void OutsideMonitor::reloadMedia()
@@ -431,6 +454,8 @@ void OutsideMonitor::reloadMedia()
     core::ChangeSet changes;
     shownMedia(m_workspace.project(), &changes, &media);
     m_changedMedia.clear();
+    m_shownMedia = m_seenMedia;
+    Q_EMIT mediaChanged(0);
     if (!changes.isEmpty())
         Q_EMIT m_workspace.changed(changes);
 }

@@ -47,6 +47,8 @@ public:
     {
         return m_looking.isRunning() || m_deciding.isRunning() || m_handsTimer.isActive();
     }
+    /// Whether media files are others than those that are shown.
+    bool hasChangedMedia() const { return !m_changedMedia.isEmpty(); }
     /// Whether loading what is on disk would take more than half of the project away.
     bool removesMuch() const;
 
@@ -71,7 +73,7 @@ public Q_SLOTS:
     void apply(const std::vector<vl::app::ReconcileEntry> &entries);
     /// Keeps what is open; what others left goes to a backup.
     void keepMine() { decide(Decision::Keep); }
-    /// Has the panels show the media anew.
+    /// Has the panels show the media anew; those that changed are news no more.
     void reloadMedia();
 
 Q_SIGNALS:
@@ -85,7 +87,8 @@ Q_SIGNALS:
     void done(const QString &message);
     /// A decision could not be carried out, and nothing was changed.
     void failed(const QString &message);
-    /// So many media files were added, replaced or removed.
+    /// So many media files were added, replaced or removed since they were shown; none when they
+    /// are as they were again, or were shown anew.
     void mediaChanged(int files);
 
 private:
@@ -136,7 +139,9 @@ private:
     Decision m_decision = Decision::Load;
     std::vector<ReconcileEntry> m_decided;
     bool m_wasDirty = false;
-    QStringList m_changedMedia; ///< since they were last shown anew
+    QStringList m_changedMedia;                      ///< since they were last shown anew
+    std::shared_ptr<const MediaStamps> m_shownMedia; ///< of the media as they were shown; or null
+    std::shared_ptr<const MediaStamps> m_seenMedia;  ///< of the media at the last look; or null
 };
 
 } // namespace vl::app

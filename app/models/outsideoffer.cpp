@@ -25,8 +25,7 @@ OutsideOffer OutsideOffer::of(const OutsideState &state, const std::vector<Recon
     OutsideOffer offer;
     if (state.hasVanished()) {
         offer.kind = Kind::Vanished;
-        offer.text = tr("The project's files are gone from the disk: %1")
-                         .arg(QDir::toNativeSeparators(path));
+        offer.text = goneText(path);
         offer.advice = tr("Nothing is removed here. If the disk or the sync folder comes back, all "
                           "goes on as before; otherwise save to write everything there again.");
         return offer;
@@ -67,6 +66,11 @@ OutsideOffer OutsideOffer::of(const OutsideState &state, const std::vector<Recon
                           "don't surprise you.)");
     }
     return offer;
+}
+
+QString OutsideOffer::goneText(const QString &path)
+{
+    return tr("The project's files are gone from the disk: %1").arg(QDir::toNativeSeparators(path));
 }
 
 QString OutsideOffer::loadedText()

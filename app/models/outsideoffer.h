@@ -40,6 +40,8 @@ public:
     static OutsideOffer of(const OutsideState &state, const std::vector<ReconcileEntry> &entries,
                            bool isDirty, const QString &path);
 
+    /// For a project of which nothing is left at its path.
+    static QString goneText(const QString &path);
     static QString loadedText();
     static QString keptText();
     static QString nothingText();

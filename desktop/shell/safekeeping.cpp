@@ -48,6 +48,11 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
     });
     connect(&m_outside, &app::OutsideMonitor::mediaChanged, this, &SafeKeeping::askAboutMedia);
     context.actions.bind("file.checkExternal", this, &SafeKeeping::check);
+    // The notice says that saving shows the media that are there now.
+    connect(context.actions["file.save"], &QAction::triggered, this, [this] {
+        if (m_outside.hasChangedMedia())
+            reloadMedia();
+    });
     // Who comes back to the window from another program may have changed something there.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             [this](Qt::ApplicationState state) {
@@ -65,7 +70,6 @@ void SafeKeeping::followProject()
     connect(m_autosave.get(), &app::AutosaveController::aboutToSave, &m_context.workspace,
             &app::Workspace::flush);
     m_autosave->start();
-    m_context.notices.withdraw(mediaNotice);
 }
 
 void SafeKeeping::check()
@@ -129,11 +133,17 @@ void SafeKeeping::askAbout(const app::OutsideOffer &offer)
 
 void SafeKeeping::askAboutMedia(int files)
 {
-    m_context.notices.ask(mediaNotice, app::OutsideOffer::mediaText(files),
-                          {{tr("&Reload Media"), [this] {
-                                m_outside.reloadMedia();
-                                m_context.notices.show(app::OutsideOffer::mediaReloadedText());
-                            }}});
+    if (files == 0)
+        m_context.notices.withdraw(mediaNotice);
+    else
+        m_context.notices.ask(mediaNotice, app::OutsideOffer::mediaText(files),
+                              {{tr("&Reload Media"), [this] { reloadMedia(); }}});
+}
+
+void SafeKeeping::reloadMedia()
+{
+    m_outside.reloadMedia();
+    m_context.notices.show(app::OutsideOffer::mediaReloadedText());
 }
 
 void SafeKeeping::load()

@@ -37,6 +37,7 @@ private:
     void showOffer();
     void askAbout(const app::OutsideOffer &offer);
     void askAboutMedia(int files);
+    void reloadMedia();
     void load();
     void merge();
     void review();

@@ -429,6 +429,14 @@ void TestOutside::media()
     QCOMPARE(changed.size(), 1);
     QVERIFY(changed.first().first().value<core::ChangeSet>().objects().contains(id));
     QVERIFY(!desk.project().isDirty());
+    QVERIFY(!desk.monitor->hasChangedMedia());
+
+    // What comes back as it was shown last is no news either.
+    QVERIFY(QFile::remove(assets + QStringLiteral("map.png")));
+    QTRY_COMPARE(desk.media->last().first().toInt(), 1);
+    test::putFile(assets + QStringLiteral("map.png"), "other");
+    QTRY_COMPARE(desk.media->last().first().toInt(), 0);
+    QVERIFY(!desk.monitor->hasChangedMedia());
 }
 
 QTEST_GUILESS_MAIN(TestOutside)
