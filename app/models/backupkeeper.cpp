@@ -7,6 +7,7 @@
 #include "core/content/document.h"
 
 #include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QThread>
 
 namespace vl::app {
 
@@ -15,6 +16,7 @@ namespace {
 constexpr qint64 dayMilliseconds = 24 * 60 * 60 * 1000;
 /// How often a folder is read again when a save came between.
 constexpr int tries = 3;
+constexpr unsigned long pauseMilliseconds = 200; ///< after a reading that failed
 
 /// Makes a backup; of a folder that was being saved meanwhile another one, since the first may hold
 /// some of its files as they were before and some as they were after.
@@ -22,16 +24,18 @@ Result<std::optional<BackupInfo>> addUndisturbed(const AutoBackups &backups,
                                                  const BackupContent &content, BackupReason reason,
                                                  const std::atomic<int> &saves)
 {
-    Result<std::optional<BackupInfo>> first = std::optional<BackupInfo>();
+    Result<std::optional<BackupInfo>> result = std::optional<BackupInfo>();
     for (int i = 0; i < tries; ++i) {
         const int before = saves;
         Result<std::optional<BackupInfo>> made = backups.add(content, reason);
-        if (i == 0 || !made || *made)
-            first = std::move(made);
-        if (!first || before == saves)
+        if (i == 0 || !result || !made || *made)
+            result = std::move(made);
+        if (result && before == saves)
             break;
+        if (!result && i + 1 < tries)
+            QThread::msleep(pauseMilliseconds); // a save that runs may have taken a file away
     }
-    return first;
+    return result;
 }
 
 } // namespace

@@ -14,7 +14,7 @@ class Workspace;
 enum class DocumentStanding
 {
     Same,
-    Changed, ///< it is there with another text, title or synopsis
+    Changed, ///< it is there with another text, or anything else that is told of it
     Missing, ///< it is not there any more
 };
 
@@ -26,8 +26,8 @@ struct BackupDocument
     QString title;
     qint64 words = 0;
     DocumentStanding standing = DocumentStanding::Same;
-    QString before; ///< its text in the open project; empty when it is missing
-    QString after;  ///< its text in the backup
+    QString before; ///< what differs, as it is in the open project; empty when it is missing
+    QString after;  ///< what differs, as it is in the backup
 };
 
 /// Brings single documents of a backup back into the open project.

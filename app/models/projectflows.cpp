@@ -2,6 +2,7 @@
 
 #include "app/base/settings.h"
 #include "app/models/newproject.h"
+#include "app/models/outsideoffer.h"
 #include "app/models/prompts.h"
 #include "app/models/repairflow.h"
 #include "app/models/workspace.h"
@@ -14,6 +15,8 @@
 namespace vl::app {
 
 namespace {
+
+constexpr int mostNamed = 8; ///< files in a message
 
 /// A folder that holds other things gets one for the project among them.
 QString roomFor(const QString &folder, const QString &name)
@@ -170,6 +173,15 @@ QString ProjectFlows::copyElsewhere(const QString &path)
         report(tr("Open Project"), copied.message());
         return {};
     }
+    QStringList leftOut;
+    for (const LeftOutFile &file : source->leftOut())
+        leftOut.append(file.path);
+    if (!leftOut.isEmpty())
+        m_prompts.showInformation(
+            tr("Open Project"),
+            tr("The copy leaves out %n file(s) that cannot be read:", nullptr, int(leftOut.size()))
+                + u'\n' + QStringList(leftOut.mid(0, mostNamed)).join(u'\n')
+                + (leftOut.size() > mostNamed ? QStringLiteral("\n…") : QString()));
     return target;
 }
 
@@ -212,6 +224,16 @@ std::optional<OutsideChanges> ProjectFlows::askOutsideChanges()
     m_workspace.flush();
     if (!m_workspace.current().meetsOutsideChanges())
         return OutsideChanges::Refuse;
+    const QString path = m_workspace.current().path();
+    if (!QFileInfo::exists(path)) {
+        const bool writesAnew = m_prompts.confirm(
+            OutsideOffer::goneText(path),
+            tr("Saving writes everything there again that is open here; pictures and other media "
+               "that were only there are not brought back. If the disk or the sync folder may "
+               "come back, wait for it, or save under another name."),
+            tr("Save There Again"));
+        return writesAnew ? std::optional(OutsideChanges::Overwrite) : std::nullopt;
+    }
     const bool keepsOwn =
         m_prompts.confirm(tr("The project changed outside Ivorel since you opened it."),
                           tr("Saving puts your version in place of what was changed there. To keep "

@@ -62,7 +62,7 @@ bool RepairFlow::openBackup(const QString &path, const QString &backupPath)
     const QString target = m_prompts.chooseBundleToSave(tr("%1 (backup)").arg(nameOf(path)));
     if (target.isEmpty())
         return false;
-    if (const Result<> copied = copyBackup(backupPath, target); !copied)
+    if (const Result<> copied = copyBackup(backupPath, target, m_locations); !copied)
         return report(copied.message());
     return m_open(target);
 }

@@ -2,6 +2,7 @@
 
 #include "app/base/files.h"
 #include "app/base/sha256.h"
+#include "app/storage/lock.h"
 #include "app/storage/projectfolder.h"
 #include "app/storage/projectkey.h"
 #include "app/storage/projectpaths.h"
@@ -465,7 +466,8 @@ Result<std::unique_ptr<core::Project>> loadBackup(const QString &path)
     return loadProject(path, projectFilesIn(bundle->archive));
 }
 
-Result<> copyBackup(const QString &backupPath, const QString &bundlePath)
+Result<> copyBackup(const QString &backupPath, const QString &bundlePath,
+                    const StorageLocations &locations)
 {
     const Result<ReadBundle> bundle = readBundle(backupPath);
     if (!bundle)
@@ -474,6 +476,21 @@ Result<> copyBackup(const QString &backupPath, const QString &bundlePath)
         loadProject(backupPath, projectFilesIn(bundle->archive));
     if (!project)
         return project.asFailure();
+    // Released again with the end of this call.
+    const LockAttempt attempt = ProjectLock::take(bundlePath, LockHolder::current());
+    if (attempt.holder && attempt.holderState != HolderState::Unknown)
+        return failure(withPath(AutoBackupText::tr("A project that is open cannot be replaced: %1"),
+                                bundlePath));
+    if (FileIdentity::of(bundlePath).size > 0) {
+        const Result<QByteArray> bytes =
+            readRegularFile(bundlePath, AutoBackupText::tr("Cannot read file: %1"), maxBundleBytes);
+        if (!bytes)
+            return bytes.asFailure();
+        const Result<QString> kept =
+            locations.backups().addBytes(bundleBaseName(bundlePath), *bytes);
+        if (!kept)
+            return kept.asFailure();
+    }
     return writeBundle(bundlePath, bundle->archive.bytes());
 }
 

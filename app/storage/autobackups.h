@@ -104,7 +104,9 @@ private:
 /// Reads the project in a backup.
 Result<std::unique_ptr<core::Project>> loadBackup(const QString &path);
 
-/// Copies a backup to where a project is to stand; it must load.
-Result<> copyBackup(const QString &backupPath, const QString &bundlePath);
+/// Copies a backup to where a project is to stand; it must load. What stands there is put away as
+/// a replaced version first; a project that is open anywhere is not replaced.
+Result<> copyBackup(const QString &backupPath, const QString &bundlePath,
+                    const StorageLocations &locations);
 
 } // namespace vl::app

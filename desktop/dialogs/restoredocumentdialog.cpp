@@ -21,7 +21,8 @@ constexpr int placeRole = Qt::UserRole;
 
 } // namespace
 
-RestoreDocumentDialog::RestoreDocumentDialog(QList<app::BackupDocument> documents, QWidget *parent)
+RestoreDocumentDialog::RestoreDocumentDialog(QList<app::BackupDocument> documents,
+                                             const core::ContentId &wanted, QWidget *parent)
     : QDialog(parent)
     , m_documents(std::move(documents))
     , m_tree(new QTreeWidget(this))
@@ -58,11 +59,11 @@ RestoreDocumentDialog::RestoreDocumentDialog(QList<app::BackupDocument> document
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &RestoreDocumentDialog::showChosen);
-    fill();
+    fill(wanted);
     sizeDialog(this, 220, 130);
 }
 
-void RestoreDocumentDialog::fill()
+void RestoreDocumentDialog::fill(const core::ContentId &wanted)
 {
     QList<QTreeWidgetItem *> open; // the way down to the last one
     QTreeWidgetItem *first = nullptr;
@@ -87,7 +88,7 @@ void RestoreDocumentDialog::fill()
             break;
         }
         item->setData(0, placeRole, i);
-        if (!first && document.standing != app::DocumentStanding::Same)
+        if ((!first || document.id == wanted) && document.standing != app::DocumentStanding::Same)
             first = item;
         open.append(item);
     }

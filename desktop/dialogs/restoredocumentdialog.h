@@ -17,13 +17,15 @@ class RestoreDocumentDialog final : public QDialog
     Q_OBJECT
 
 public:
-    RestoreDocumentDialog(QList<app::BackupDocument> documents, QWidget *parent);
+    /// The wanted document is at hand first when restoring it would change something.
+    RestoreDocumentDialog(QList<app::BackupDocument> documents, const core::ContentId &wanted,
+                          QWidget *parent);
 
     /// The chosen document; null when none is.
     core::ContentId chosen() const;
 
 private:
-    void fill();
+    void fill(const core::ContentId &wanted);
     void showChosen();
 
     QList<app::BackupDocument> m_documents;

@@ -72,8 +72,8 @@ void ProjectCare::listen()
                 if (reason == app::BackupReason::ByHand)
                     m_context.prompts.showError(tr("Back Up Project"), message);
                 else
-                    m_context.notices.show(tr("No backup was made: %1").arg(message),
-                                           tr("Show Backups"), [this] { showBackups(); });
+                    m_context.notices.showNext(tr("No backup was made: %1").arg(message),
+                                               tr("Show Backups"), [this] { showBackups(); });
             });
 }
 
@@ -121,7 +121,9 @@ void ProjectCare::openCopy(const QString &backupPath)
         tr("%1 (backup)").arg(m_context.workspace.current().name()));
     if (target.isEmpty())
         return;
-    if (const app::Result<> copied = app::copyBackup(backupPath, target); !copied)
+    const app::Result<> copied =
+        app::copyBackup(backupPath, target, app::StorageLocations::of(m_context.settings));
+    if (!copied)
         m_context.prompts.showError(tr("Open a Copy"), copied.message());
     else
         m_flows.openHere(target);
@@ -137,6 +139,7 @@ void ProjectCare::restoreDocument(const QString &backupPath)
     m_context.workspace.flush();
     app::BackupOperations operations(m_context.workspace);
     RestoreDocumentDialog dialog(operations.documents(**backup),
+                                 m_context.workspace.selection().value(0),
                                  m_list ? static_cast<QWidget *>(m_list) : m_window);
     if (dialog.exec() != QDialog::Accepted || !operations.restore(**backup, dialog.chosen()))
         return;

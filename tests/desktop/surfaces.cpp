@@ -165,7 +165,7 @@ void addProjectDialogs(QList<Surface> &list, const QString &text)
         app::BackupDocument document;
         document.title = text;
         document.after = QStringLiteral("The lamps of Vessarine were lit from the water upward.");
-        return new desktop::RestoreDocumentDialog({document}, &desk.window);
+        return new desktop::RestoreDocumentDialog({document}, {}, &desk.window);
     });
     add("BackupsDialog", [](Desk &desk) {
         app::StorageLocations locations;

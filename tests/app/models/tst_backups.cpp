@@ -4,6 +4,7 @@
 #include "app/models/textdifference.h"
 #include "app/models/workspace.h"
 #include "app/storage/autobackups.h"
+#include "app/storage/lock.h"
 #include "core/commands/documentcommands.h"
 #include "core/commands/objectcommands.h"
 #include "tests/support/folders.h"
@@ -264,7 +265,14 @@ void TestBackups::folderWithoutWhatIsHidden()
     QVERIFY(QFile::link(at(QStringLiteral("nowhere")), folder + QStringLiteral("/link")));
     const BackupInfo backup = made(folder); // it has no records either
     const QString copy = at(QStringLiteral("copy.vellum"));
-    QVERIFY(copyBackup(backup.path, copy));
+    putFile(copy, "what stood there");
+    {
+        const LockAttempt open = ProjectLock::take(copy, LockHolder::current());
+        QVERIFY(!copyBackup(backup.path, copy, m_locations));
+        QCOMPARE(fileBytes(copy), QByteArray("what stood there"));
+    }
+    QVERIFY(copyBackup(backup.path, copy, m_locations));
+    QVERIFY(filesUnder(m_locations.backupFolder()).values().contains("what stood there"));
     QVERIFY(extractBundle(copy, at(QStringLiteral("unpacked"))));
     QCOMPARE(QStringList(filesUnder(at(QStringLiteral("unpacked"))).keys()),
              (QStringList{QStringLiteral("assets/map.png"), QStringLiteral("notes.txt"),
@@ -686,6 +694,8 @@ void TestBackups::restoresADocument_data()
     QTest::addColumn<QString>("fate"); // of the document since the backup
     QTest::addColumn<DocumentStanding>("standing");
     QTest::newRow("edited") << "edited" << DocumentStanding::Changed;
+    QTest::newRow("another status") << "status" << DocumentStanding::Changed;
+    QTest::newRow("moved") << "moved" << DocumentStanding::Same;
     QTest::newRow("deleted") << "deleted" << DocumentStanding::Missing;
     QTest::newRow("deleted with its parent") << "all deleted" << DocumentStanding::Missing;
     QTest::newRow("untouched") << "" << DocumentStanding::Same;
@@ -716,6 +726,10 @@ void TestBackups::restoresADocument()
     auto *scene = project.find<core::Document>(numberedId(2));
     if (fate == QLatin1String("edited"))
         workspace.push<core::SetDocumentBodyCommand>(*scene, QStringLiteral("spoilt"));
+    if (fate == QLatin1String("status"))
+        workspace.push<core::SetDocumentStatusCommand>(*scene, QStringLiteral("Final"));
+    if (fate == QLatin1String("moved"))
+        workspace.push<core::MoveDocumentCommand>(project, scene->id(), core::ContentId(), 0);
     if (fate.contains(QLatin1String("deleted")))
         workspace.push<core::RemoveObjectCommand>(project, numberedId(2));
     if (fate == QLatin1String("all deleted"))
@@ -726,13 +740,17 @@ void TestBackups::restoresADocument()
     QCOMPARE(documents.size(), 2);
     QCOMPARE(documents.at(1).standing, standing);
     QCOMPARE(documents.at(1).depth, 1);
+    QCOMPARE(documents.at(1).before.contains(QLatin1String("Final")),
+             fate == QLatin1String("status"));
     const qsizetype steps = workspace.history().undoCount();
     QVERIFY(operations.restore(backup, numberedId(2)));
     QCOMPARE(workspace.history().undoCount(), steps + 1);
     const auto *restored = project.find<core::Document>(numberedId(2));
     QVERIFY(restored);
     QCOMPARE(restored->body(), QStringLiteral("as it was"));
-    QCOMPARE(restored->parentId().isNull(), fate == QLatin1String("all deleted"));
+    QCOMPARE(restored->parentId().isNull(),
+             fate == QLatin1String("all deleted") || fate == QLatin1String("moved"));
+    QCOMPARE(restored->status(), QString());
     while (workspace.history().canUndo())
         workspace.undo();
     QCOMPARE(project.find<core::Document>(numberedId(2))->body(), QStringLiteral("as it was"));
