@@ -30,7 +30,7 @@ constexpr double titleScale = 1.8;
 
 } // namespace
 
-AboutDialog::AboutDialog(QWidget *parent)
+AboutDialog::AboutDialog(const app::StorageLocations &locations, QWidget *parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("about"));
@@ -39,7 +39,7 @@ AboutDialog::AboutDialog(QWidget *parent)
     layout->setContentsMargins(grid(6), grid(6), grid(6), grid(6));
     layout->setSpacing(grid(4));
     layout->addWidget(makeHead());
-    layout->addWidget(makeFolders());
+    layout->addWidget(makeFolders(locations));
     layout->addWidget(makeLicences(), 1);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     layout->addWidget(buttons);
@@ -75,7 +75,7 @@ QWidget *AboutDialog::makeHead()
     return head;
 }
 
-QWidget *AboutDialog::makeFolders()
+QWidget *AboutDialog::makeFolders(const app::StorageLocations &locations)
 {
     auto *folders = new QWidget(this);
     auto *form = new QGridLayout(folders);
@@ -83,7 +83,8 @@ QWidget *AboutDialog::makeFolders()
     form->setHorizontalSpacing(grid(2));
     form->setVerticalSpacing(grid(2));
     const std::pair<QString, QString> rows[] = {
-        {tr("Backups"), app::StorageLocations::standard().backupFolder()},
+        {tr("Backups"), locations.autoBackups()},
+        {tr("Replaced versions"), locations.backupFolder()}, // put away before others took over
         {tr("Settings"), QFileInfo(QSettings().fileName()).absolutePath()}};
     int row = 0;
     for (const auto &[name, path] : rows) {

@@ -2,6 +2,10 @@
 
 #include <QtWidgets/QDialog>
 
+namespace vl::app {
+struct StorageLocations;
+}
+
 namespace vl::desktop {
 
 /// Tells the version, whose work the program stands on, and where it keeps its files.
@@ -10,11 +14,11 @@ class AboutDialog final : public QDialog
     Q_OBJECT
 
 public:
-    explicit AboutDialog(QWidget *parent);
+    AboutDialog(const app::StorageLocations &locations, QWidget *parent);
 
 private:
     QWidget *makeHead();
-    QWidget *makeFolders();
+    QWidget *makeFolders(const app::StorageLocations &locations);
     QWidget *makeLicences();
 };
 

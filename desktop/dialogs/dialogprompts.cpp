@@ -99,7 +99,9 @@ app::Prompts::Unsaved DialogPrompts::askUnsaved(const QString &projectName)
 bool DialogPrompts::confirm(const QString &question, const QString &detail, const QString &action)
 {
     Box box(QMessageBox::Question, QCoreApplication::applicationName(), question, detail, m_window);
-    const auto *go = box.addButton(action, QMessageBox::DestructiveRole);
+    // The way out has no letter of its own, so that any will do.
+    const auto *go =
+        box.addButton(action.contains(u'&') ? action : u'&' + action, QMessageBox::DestructiveRole);
     return box.ask() == go;
 }
 

@@ -21,6 +21,8 @@ namespace {
 
 constexpr int widthSteps = 90;
 constexpr int heightSteps = 90;
+constexpr int mostWidthSteps = 220;
+constexpr int frameSteps = 20; ///< what stands beside a name: the margins and a scroll bar
 
 } // namespace
 
@@ -70,7 +72,9 @@ PickDialog::PickDialog(const QString &title, const QString &label, const QString
     layout->addWidget(m_list, 1);
     layout->addSpacing(grid(2));
     layout->addWidget(buttons);
-    sizeDialog(this, widthSteps, heightSteps);
+    // Long names are read, not scrolled, where the screen is wide enough.
+    const int stepsForNames = m_list->sizeHintForColumn(0) / grid(1) + frameSteps;
+    sizeDialog(this, qBound(widthSteps, stepsForNames, mostWidthSteps), heightSteps);
     m_list->setCurrentIndex(m_filtered->index(0, 0));
     m_go->setEnabled(chosen() >= 0);
 }

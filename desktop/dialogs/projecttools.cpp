@@ -3,6 +3,7 @@
 #include "app/base/settingskeys.h"
 #include "app/models/newproject.h"
 #include "app/models/projectflows.h"
+#include "app/storage/workingcopy.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/about.h"
 #include "desktop/dialogs/findinproject.h"
@@ -85,7 +86,7 @@ void ProjectTools::begin(WelcomeDialog::Choice choice)
 
 void ProjectTools::showAbout()
 {
-    auto *dialog = new AboutDialog(m_window);
+    auto *dialog = new AboutDialog(app::StorageLocations::of(m_context.settings), m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
