@@ -38,6 +38,8 @@ Console::~Console()
 
 void Console::writeBytes(QByteArrayView bytes)
 {
+    if (bytes.isEmpty())
+        return; // there may be no address then
     const auto size = std::size_t(bytes.size());
     if (std::fwrite(bytes.data(), 1, size, stdout) != size)
         m_isOutputGood = false;

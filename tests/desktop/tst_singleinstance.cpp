@@ -85,7 +85,8 @@ int runChild(const QStringList &arguments)
                          [say](const QString &message) { say(qPrintable(message)); });
     say(server && server->isListening() ? "listens" : "sent");
     QSocketNotifier end(STDIN_FILENO, QSocketNotifier::Read); // ends with its parent's patience
-    QObject::connect(&end, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
+    QObject::connect(&end, &QSocketNotifier::activated, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
     return server ? QCoreApplication::exec() : 0;
 }
 
