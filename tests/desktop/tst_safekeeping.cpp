@@ -93,7 +93,6 @@ class TestSafeKeeping : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesBehindADialog();
     void savesBesideAnOfferToUndo();
     void theCaretStaysInAMerge();

@@ -452,7 +452,6 @@ void TestStartUp::language()
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
     const QTemporaryDir sockets;
     qputenv("TMPDIR", QFile::encodeName(sockets.path()));
     QGuiApplication::setQuitOnLastWindowClosed(false);

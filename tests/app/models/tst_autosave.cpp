@@ -13,7 +13,6 @@ class TestAutosave : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesWhatIsUnsaved_data();
     void savesWhatIsUnsaved();
     void leavesAlone_data();

@@ -269,7 +269,6 @@ QByteArray saveInHeldFolder(bool asBundle)
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
 #ifdef IVOREL_FAULT_SHIM
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--fail")

@@ -325,7 +325,6 @@ void TestBackups::madeWhenOpenedSavedAndClosed_data()
 void TestBackups::madeWhenOpenedSavedAndClosed()
 {
     QFETCH(bool, asBundle);
-    QStandardPaths::setTestModeEnabled(true);
     const QString path =
         asBundle ? at(QStringLiteral("novel.vellum")) : at(QStringLiteral("novel"));
     const auto reasons = [&] {
@@ -799,7 +798,6 @@ void TestBackups::differences()
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
 #ifdef IVOREL_FAULT_SHIM
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == QLatin1String("--fail")) {

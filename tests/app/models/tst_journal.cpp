@@ -71,7 +71,6 @@ private:
 
 void TestJournal::init()
 {
-    QStandardPaths::setTestModeEnabled(true);
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/jóurnal of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());

@@ -45,7 +45,6 @@ private:
 
 void TestLock::init()
 {
-    QStandardPaths::setTestModeEnabled(true);
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/löck of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());

@@ -166,7 +166,6 @@ void TestNewProject::aProjectIsMadeAndOpened_data()
 void TestNewProject::aProjectIsMadeAndOpened()
 {
     QFETCH(bool, isFolder);
-    QStandardPaths::setTestModeEnabled(true);
     QTemporaryDir dir;
     app::Settings settings(dir.filePath(QStringLiteral("settings.ini")));
     test::FakePrompts prompts;

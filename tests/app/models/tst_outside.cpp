@@ -15,7 +15,6 @@ class TestOutside : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void ownSavesAreNoNews_data();
     void ownSavesAreNoNews();
     void noticesAndLoads_data();

@@ -16,7 +16,6 @@ class TestOutsideFiles : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void waitsForWholeFiles();
     void clientsTemporaryNames();
     void secondVersionsOfAFile();

@@ -44,7 +44,6 @@ private:
 
 void TestRecentlyDeleted::init()
 {
-    QStandardPaths::setTestModeEnabled(true);
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/délèted of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());

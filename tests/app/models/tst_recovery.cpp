@@ -103,7 +103,6 @@ private:
 
 void TestRecovery::init()
 {
-    QStandardPaths::setTestModeEnabled(true);
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/recóvery of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());

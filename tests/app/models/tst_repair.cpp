@@ -87,7 +87,6 @@ private:
 
 void TestRepair::init()
 {
-    QStandardPaths::setTestModeEnabled(true);
     m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath()
                                                + QStringLiteral("/répair of a test-XXXXXX"));
     QVERIFY(m_folder->isValid());

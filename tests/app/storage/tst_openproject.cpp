@@ -8,7 +8,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThreadPool>
 #include <QtTest/QtTest>
@@ -34,7 +33,6 @@ class TestOpenProject : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
     void savesElsewhereWhenItsPlaceIsGone_data();
     void savesElsewhereWhenItsPlaceIsGone();
     void leavesTheRepositoryBehind_data();
