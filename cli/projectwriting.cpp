@@ -53,7 +53,7 @@ app::Result<> writeCarried(const app::ProjectFiles &files, const QString &folder
         if (!app::makeFolder(path.left(path.lastIndexOf(u'/'))))
             return app::failure(
                 app::withPath(Texts::tr("Could not create the folder for: %1"), path));
-        if (const app::Result<> added = batch.add(path, file.bytes); !added)
+        if (app::Result<> added = batch.add(path, file.bytes); !added)
             return added;
     }
     return batch.commit();
@@ -79,8 +79,8 @@ QString makeStagingFolder(const QString &target)
     if (!app::makeFolder(QFileInfo(target).absolutePath()))
         return {};
     for (int attempt = 0; attempt < 16; ++attempt) {
-        const QString path = target + QStringLiteral(".unfinished-")
-                             + QString::number(QRandomGenerator::global()->generate(), 16);
+        QString path = target + QStringLiteral(".unfinished-")
+                       + QString::number(QRandomGenerator::global()->generate(), 16);
         if (QDir().mkdir(path))
             return path;
     }
@@ -172,7 +172,7 @@ app::Result<> convertProject(const ProjectSource &source, const QString &path)
         && QFileInfo(path).canonicalFilePath() == QFileInfo(source.path()).canonicalFilePath();
     const bool isFree = isFreeForProject(path);
     if (!isFree && !isOwnPlace)
-        if (const app::Result<> checked = checkReplaceable(source.project(), path); !checked)
+        if (app::Result<> checked = checkReplaceable(source.project(), path); !checked)
             return checked;
     app::ProjectFiles carried;
     if (source.archive())

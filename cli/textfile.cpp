@@ -24,7 +24,7 @@ app::Result<QByteArray> readInput(const QString &path)
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly))
         return app::failure(Texts::tr("Cannot read from standard input."));
-    const QByteArray bytes = input.readAll();
+    QByteArray bytes = input.readAll();
     if (input.error() != QFileDevice::NoError)
         return app::failure(Texts::tr("Cannot read from standard input."));
     return bytes;

@@ -115,9 +115,9 @@ Result<> writeFile(const QString &path, QByteArrayView bytes, const WriteMessage
                    Durability durability)
 {
     AtomicFile file(path, messages);
-    if (const Result<> opened = file.open(); !opened)
+    if (Result<> opened = file.open(); !opened)
         return opened;
-    if (const Result<> written = file.write(bytes); !written)
+    if (Result<> written = file.write(bytes); !written)
         return written;
     return file.commit(durability);
 }

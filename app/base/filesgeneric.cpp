@@ -122,7 +122,7 @@ Result<> AtomicFile::moveIntoPlace()
 
 Result<> AtomicFile::commit(Durability)
 {
-    if (const Result<> written = finishWriting(true); !written)
+    if (Result<> written = finishWriting(true); !written)
         return written;
     return moveIntoPlace();
 }
@@ -137,11 +137,11 @@ FileBatch::~FileBatch() = default;
 Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
 {
     auto file = std::make_unique<AtomicFile>(path, m_messages);
-    if (const Result<> opened = file->open(); !opened)
+    if (Result<> opened = file->open(); !opened)
         return opened;
-    if (const Result<> written = file->write(bytes); !written)
+    if (Result<> written = file->write(bytes); !written)
         return written;
-    if (const Result<> finished = file->finishWriting(true); !finished)
+    if (Result<> finished = file->finishWriting(true); !finished)
         return finished;
     m_files.push_back(std::move(file));
     return {};
@@ -150,7 +150,7 @@ Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
 Result<> FileBatch::commit()
 {
     for (const auto &file : m_files) {
-        if (const Result<> moved = file->moveIntoPlace(); !moved)
+        if (Result<> moved = file->moveIntoPlace(); !moved)
             return moved;
     }
     return {};

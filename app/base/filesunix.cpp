@@ -24,7 +24,7 @@ namespace vl::app {
 namespace {
 
 /// Small pieces are gathered to this many bytes before they go to the system.
-constexpr qsizetype gatherSize = 256 * 1024;
+constexpr qsizetype gatherSize = qsizetype(256) * 1024;
 /// Up to here each file of a batch is synced by itself; beyond, one sync of the file system is
 /// cheaper.
 constexpr int singleSyncs = 8;
@@ -383,10 +383,10 @@ Result<> AtomicFile::commit(Durability durability)
 {
     const bool isFinished = m_handle->file < 0 && !m_handle->temporary.isEmpty();
     if (!isFinished) {
-        if (const Result<> written = finishWriting(durability == Durability::Synced); !written)
+        if (Result<> written = finishWriting(durability == Durability::Synced); !written)
             return written;
     }
-    if (const Result<> moved = moveIntoPlace(); !moved)
+    if (Result<> moved = moveIntoPlace(); !moved)
         return moved;
     if (durability == Durability::Synced && !syncFolderAt(folderOf(m_handle->target)))
         return writeFailure();
@@ -412,9 +412,9 @@ FileBatch::~FileBatch()
 Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
 {
     auto file = std::make_unique<AtomicFile>(path, m_messages);
-    if (const Result<> opened = file->open(); !opened)
+    if (Result<> opened = file->open(); !opened)
         return opened;
-    if (const Result<> written = file->write(bytes); !written)
+    if (Result<> written = file->write(bytes); !written)
         return written;
     bool syncNow = m_durability == Durability::Synced;
 #ifdef Q_OS_LINUX
@@ -426,7 +426,7 @@ Result<> FileBatch::addChanged(const QString &path, QByteArrayView bytes)
         syncNow = m_fileSystem < 0 || file->m_handle->target != QFile::encodeName(path);
     }
 #endif
-    if (const Result<> finished = file->finishWriting(syncNow); !finished)
+    if (Result<> finished = file->finishWriting(syncNow); !finished)
         return finished;
     m_files.push_back(std::move(file));
     return {};
@@ -443,11 +443,11 @@ Result<> FileBatch::syncAll()
 
 Result<> FileBatch::commit()
 {
-    if (const Result<> synced = syncAll(); !synced)
+    if (Result<> synced = syncAll(); !synced)
         return synced;
     std::set<QByteArray> folders;
     for (const auto &file : m_files) {
-        if (const Result<> moved = file->moveIntoPlace(); !moved)
+        if (Result<> moved = file->moveIntoPlace(); !moved)
             return moved;
         if (m_durability == Durability::Synced)
             folders.insert(folderOf(file->m_handle->target));

@@ -27,7 +27,7 @@ class BackupKeeper final : public QObject
 
 public:
     /// How long it waits before it tries again what failed, in milliseconds.
-    static constexpr qint64 patience = 10 * 60 * 1000;
+    static constexpr qint64 patience = qint64(10) * 60 * 1000;
 
     BackupKeeper(Workspace &workspace, StorageLocations locations, QObject *parent = nullptr);
     /// Makes the backup at closing and waits for it.

@@ -69,7 +69,7 @@ Value fromRaw(const QVariant &value)
 /// what is new comes to the end, and what only this object has stays.
 QStringList edited(QStringList own, const QVariant &value, const QVariant &before)
 {
-    const QStringList now = value.toStringList();
+    QStringList now = value.toStringList();
     const QStringList shared = before.toStringList();
     if (own == shared)
         return now;

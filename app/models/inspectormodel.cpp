@@ -25,8 +25,8 @@ using core::Entity;
 
 namespace {
 
-const QString nameKey = QStringLiteral("name");
-const QString parentKey = QStringLiteral("parent");
+const QLatin1String nameKey("name");
+const QLatin1String parentKey("parent");
 
 bool isNumber(const QString &text)
 {
@@ -297,7 +297,7 @@ void InspectorModel::describe(State &state, const InspectorField &field) const
 std::optional<QVariant> InspectorModel::parsed(const InspectorField &field, const QVariant &typed,
                                                QString &problem) const
 {
-    const QString text = typed.toString().trimmed();
+    QString text = typed.toString().trimmed();
     switch (field.editing) {
     case FieldEditing::Line:
         if ((field.key == nameKey || field.key == u"title") && field.isRequired && text.isEmpty()) {

@@ -16,7 +16,7 @@ namespace vl::app {
 namespace {
 
 /// So many bytes, and so many objects, are chosen at a time; then the interface has its turn.
-constexpr qsizetype turnBytes = 256 * 1024;
+constexpr qsizetype turnBytes = qsizetype(256) * 1024;
 constexpr std::size_t turnObjects = 256;
 
 std::optional<QByteArray> readBase(const QString &folder, const QString &path)
@@ -241,7 +241,8 @@ void JournalKeeper::addPending(std::vector<UnwrittenFile> &files, const PendingT
         typed.insert(document->id());
     }
     // What was typed and taken back again leaves the document as it is.
-    for (const core::ContentId &id : m_pending - typed) {
+    const auto untyped = m_pending - typed;
+    for (const core::ContentId &id : untyped) {
         if (const core::ContentObject *object = m_workspace.project().find(id))
             files.emplace_back(id, object);
     }

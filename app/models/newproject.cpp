@@ -53,7 +53,7 @@ Result<QString> ProjectMaker::pathFor(const NewProject &wanted)
     const QFileInfo place(wanted.place);
     if (place.exists() && !place.isDir())
         return failure(tr("This is no folder: %1").arg(QDir::toNativeSeparators(wanted.place)));
-    const QString path =
+    QString path =
         QDir(place.absoluteFilePath()).filePath(wanted.isFolder ? name : name + bundleSuffix);
     if (isTaken(path))
         return failure(
@@ -106,7 +106,7 @@ QString ProjectMaker::samplePath()
     for (const QLatin1String place :
          {QLatin1String("../share/ivorel/examples/sample"), QLatin1String("examples/sample"),
           QLatin1String("../../../examples/sample")}) {
-        const QString path = QDir::cleanPath(program.filePath(place));
+        QString path = QDir::cleanPath(program.filePath(place));
         if (QFileInfo::exists(path + QStringLiteral("/project.json")))
             return path;
     }

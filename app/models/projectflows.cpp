@@ -163,7 +163,7 @@ std::optional<ProjectFlows::Access> ProjectFlows::askAccess(const QString &path)
 
 QString ProjectFlows::copyElsewhere(const QString &path)
 {
-    const QString target =
+    QString target =
         m_prompts.chooseBundleToSave(tr("%1 (copy)").arg(QFileInfo(path).completeBaseName()));
     if (target.isEmpty())
         return {};

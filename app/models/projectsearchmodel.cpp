@@ -415,7 +415,7 @@ int ProjectSearchModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : int(m_rows.size());
 }
 
-QVariant ProjectSearchModel::headerData(const Group &group, int role) const
+QVariant ProjectSearchModel::groupData(const Group &group, int role) const
 {
     const auto replaceable = std::count_if(group.hits.begin(), group.hits.end(),
                                            [](const Hit &hit) { return hit.isReplaceable; });
@@ -491,7 +491,7 @@ QVariant ProjectSearchModel::data(const QModelIndex &index, int role) const
         return {};
     const Row &row = m_rows[size_t(index.row())];
     const Group &group = m_groups[size_t(row.group)];
-    return row.hit < 0 ? headerData(group, role) : hitData(group.hits[size_t(row.hit)], role);
+    return row.hit < 0 ? groupData(group, role) : hitData(group.hits[size_t(row.hit)], role);
 }
 
 bool ProjectSearchModel::setData(const QModelIndex &index, const QVariant &value, int role)

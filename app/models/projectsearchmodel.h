@@ -153,7 +153,7 @@ private:
     QString replacementOf(const Hit &hit) const;
     static HitKey keyOf(const Group &group, const Hit &hit);
     std::map<int, QString> newTexts(const Group &group, Replaced &result) const;
-    QVariant headerData(const Group &group, int role) const;
+    QVariant groupData(const Group &group, int role) const;
     QVariant hitData(const Hit &hit, int role) const;
 
     Workspace &m_workspace;

@@ -9,7 +9,7 @@ namespace {
 // Steps that the matcher may take from one place of a text: far more than any expression needs
 // that was meant to be matched, and reached within a moment by one that doubles its work with each
 // letter.
-const QString limits = QStringLiteral("(*LIMIT_MATCH=100000)(*LIMIT_DEPTH=5000)");
+const QLatin1String limits("(*LIMIT_MATCH=100000)(*LIMIT_DEPTH=5000)");
 
 QString escaped(const QString &pattern)
 {

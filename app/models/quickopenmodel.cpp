@@ -360,7 +360,7 @@ QString QuickOpenModel::detailOf(const Row &row) const
     default:
         break;
     }
-    const QString path = pathLine(m_index.pathOf(row.id));
+    QString path = pathLine(m_index.pathOf(row.id));
     const auto *entity = m_workspace.project().find<Entity>(row.id);
     if (row.alias < 0 || !entity || row.alias >= entity->aliases().size())
         return path;

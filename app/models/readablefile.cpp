@@ -183,7 +183,7 @@ QString Writer::shortText(const QString &key, const QJsonValue &value) const
         }
         return texts.join(QStringLiteral(", "));
     }
-    const QString text = value.toString();
+    QString text = value.toString();
     if (!value.isString() || text.contains(u'\n'))
         return {};
     if (const auto id = core::ContentId::fromString(text); text.size() == 36 && !id.isNull())
@@ -327,7 +327,7 @@ QString readableName(const QString &path, const QByteArray &bytes)
 {
     const QJsonObject json = QJsonDocument::fromJson(bytes).object();
     for (const QLatin1String key : {QLatin1String("title"), QLatin1String("name")}) {
-        const QString text = json.value(key).toString();
+        QString text = json.value(key).toString();
         if (!text.isEmpty())
             return text;
     }

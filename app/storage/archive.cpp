@@ -204,7 +204,7 @@ Result<> ArchiveWriter::add(QByteArrayView name, QByteArrayView bytes)
 
     m_offset += header.size() + bytes.size();
     ++m_count;
-    if (const Result<> written = m_sink(header); !written)
+    if (Result<> written = m_sink(header); !written)
         return written;
     return m_sink(bytes);
 }

@@ -58,9 +58,9 @@ Result<QString> importAsset(const QString &sourcePath, const QString &projectFol
     if (!makeFolder(folder + assetsFolder()))
         return failure(
             withPath(Assets::tr("Cannot create project folder: %1"), folder + assetsFolder()));
-    const QString path =
-        newAssetPath(QFileInfo(sourcePath).fileName(),
-                     [&folder](const QString &taken) { return isThere(folder + taken); });
+    QString path = newAssetPath(QFileInfo(sourcePath).fileName(), [&folder](const QString &taken) {
+        return isThere(folder + taken);
+    });
     const Result<> written =
         writeFile(folder + path, *bytes,
                   {Assets::tr("Cannot write file: %1"), Assets::tr("Failed to write file: %1")});

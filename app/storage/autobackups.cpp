@@ -24,7 +24,7 @@ namespace vl::app {
 namespace {
 
 const QLatin1String extension(".vlbackup");
-const QString timeFormat = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+constexpr QStringView timeFormat(u"yyyyMMdd'T'HHmmsszzz'Z'");
 constexpr int timeSize = 19;
 constexpr int numberSize = 6;
 constexpr int lastNumber = 999999;

@@ -14,7 +14,7 @@ namespace vl::app {
 namespace {
 
 const QLatin1String extension(".vlbackup");
-const QString timeFormat = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+constexpr QStringView timeFormat(u"yyyyMMdd'T'HHmmsszzz'Z'");
 constexpr int timeSize = 19;
 constexpr int counterSize = 4;
 constexpr int stampSize = timeSize + 1 + counterSize;
@@ -121,7 +121,7 @@ QString Backups::newName(const QString &baseName) const
 template<typename Content>
 Result<QString> Backups::add(const QString &baseName, const Content &content) const
 {
-    const QString path = newName(baseName) + extension;
+    QString path = newName(baseName) + extension;
     if (!makePrivateFolder(m_folder))
         return failure(withPath(BackupFolder::tr("Could not create the folder for: %1"), path));
     BundleWriter writer(path);
@@ -151,7 +151,7 @@ Result<QString> Backups::addBytes(const QString &baseName, QByteArrayView bytes)
 
 Result<QString> Backups::moveAside(const QString &baseName, const QString &folder) const
 {
-    const QString path = newName(baseName);
+    QString path = newName(baseName);
     if (!makePrivateFolder(m_folder) || !renamePath(folder, path))
         return failure(
             withPath(BackupFolder::tr("Could not clear the stale working copy: %1"), folder));

@@ -188,7 +188,7 @@ Result<> BundleSource::packInto(const ArchiveWriter::Sink &sink, const QString &
             return bytes.asFailure();
         if (!writer.fits(item.path, bytes->size()))
             return tooLarge();
-        if (const Result<> added = writer.add(item.path, *bytes); !added)
+        if (Result<> added = writer.add(item.path, *bytes); !added)
             return added;
     }
     return writer.finish();
@@ -209,14 +209,14 @@ Result<> BundleWriter::begin()
 
 Result<> BundleWriter::write(const BundleSource &source)
 {
-    if (const Result<> begun = begin(); !begun)
+    if (Result<> begun = begin(); !begun)
         return begun;
     Sha256 sum;
     const auto sink = [&](QByteArrayView bytes) {
         sum.add(bytes);
         return m_file.write(bytes);
     };
-    if (const Result<> packed = source.packInto(sink, m_path); !packed)
+    if (Result<> packed = source.packInto(sink, m_path); !packed)
         return packed;
     m_sha256 = sum.finish();
     return m_file.commit();
@@ -224,9 +224,9 @@ Result<> BundleWriter::write(const BundleSource &source)
 
 Result<> BundleWriter::write(QByteArrayView bytes)
 {
-    if (const Result<> begun = begin(); !begun)
+    if (Result<> begun = begin(); !begun)
         return begun;
-    if (const Result<> written = m_file.write(bytes); !written)
+    if (Result<> written = m_file.write(bytes); !written)
         return written;
     m_sha256 = Sha256::of(bytes);
     return m_file.commit();

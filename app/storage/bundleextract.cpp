@@ -120,7 +120,7 @@ Result<> Extraction::run()
     if (!makeTarget())
         return failure(withPath(tr("Could not create the folder: %1"), m_folder));
     for (const Archive::Entry &entry : m_archive.entries()) {
-        if (const Result<> written = writeEntry(entry); !written)
+        if (Result<> written = writeEntry(entry); !written)
             return written;
     }
     m_isDone = true;

@@ -102,7 +102,7 @@ public:
         save.files = m_files.compose();
         for (const ProjectFile &file : *m_files.base)
             save.readPaths.append(file.path);
-        const Result<> done = write(outside);
+        Result<> done = write(outside);
         written = std::make_shared<const ProjectFiles>(std::move(save.files));
         // Thousands of small texts are let go here rather than on the interface thread.
         save.readPaths.clear();

@@ -151,7 +151,7 @@ Result<> Opening::replace(WorkingCopyState state)
     if (!m_copy.removeMarker())
         return m_copy.prepareFailure();
     if (state == WorkingCopyState::Modified) {
-        if (const Result<> cleared = m_copy.clear(); !cleared)
+        if (Result<> cleared = m_copy.clear(); !cleared)
             return cleared;
     } else {
         const Result<QString> moved = backups.moveAside(m_copy.baseName(), m_copy.folder());
@@ -196,9 +196,9 @@ class Saving
     Q_DECLARE_TR_FUNCTIONS(vl::app::Saving)
 
 public:
-    Saving(const BundleSave &save, const StorageLocations &locations)
+    Saving(const BundleSave &save, StorageLocations locations)
         : m_save(save)
-        , m_locations(locations)
+        , m_locations(std::move(locations))
         , m_copy(WorkingCopy::at(save.bundlePath, save.workingFolder))
     {
         m_report.known = save.known;
@@ -281,7 +281,7 @@ Result<> Saving::write(Standing standing, const FileIdentity &seen)
         const Result<ReadBundle> bundle = readBundle(m_save.bundlePath);
         if (!bundle)
             return bundle.asFailure();
-        if (const Result<> filled = m_copy.fill(bundle->archive); !filled)
+        if (Result<> filled = m_copy.fill(bundle->archive); !filled)
             return filled;
     }
     const bool hasCopy = QFileInfo(folder).isDir();
@@ -290,7 +290,7 @@ Result<> Saving::write(Standing standing, const FileIdentity &seen)
     if (!source)
         return source.asFailure();
 
-    if (const Result<> written = putInPlace(*source, seen); !written)
+    if (Result<> written = putInPlace(*source, seen); !written)
         return written;
 
     // From here on the words are safe. A copy that cannot be brought up to date stays without a
@@ -313,22 +313,22 @@ Result<> Saving::putInPlace(const BundleSource &source, const FileIdentity &seen
     const QString message =
         QCoreApplication::translate("vl::app::Bundle", "Could not write the project file: %1");
     AtomicFile file(path, {message, message});
-    if (const Result<> opened = file.open(); !opened)
+    if (Result<> opened = file.open(); !opened)
         return opened;
     Sha256 sum;
     const auto sink = [&](QByteArrayView bytes) {
         sum.add(bytes);
         return file.write(bytes);
     };
-    if (const Result<> packed = source.packInto(sink, path); !packed)
+    if (Result<> packed = source.packInto(sink, path); !packed)
         return packed;
-    if (const Result<> synced = file.sync(); !synced) // the slow part, before the last look
+    if (Result<> synced = file.sync(); !synced) // the slow part, before the last look
         return synced;
     if (FileIdentity::of(path) != seen) {
         m_report.outcome = SaveOutcome::ChangedOutside;
         return failure(QString());
     }
-    const Result<> committed = file.commit();
+    Result<> committed = file.commit();
     if (file.isInPlace())
         m_report.known = {sum.finish(), FileIdentity::of(path)};
     return committed;
@@ -339,7 +339,7 @@ Result<> Saving::updateCopy(const BundleSource &source) const
     if (!m_copy.removeMarker())
         return m_copy.prepareFailure();
     removeUnfinishedOwnFiles(m_copy.folder());
-    if (const Result<> updated = m_copy.update(source); !updated)
+    if (Result<> updated = m_copy.update(source); !updated)
         return updated;
     return m_copy.writeMarker(m_report.known.sha256);
 }

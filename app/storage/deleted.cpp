@@ -68,14 +68,17 @@ std::vector<DeletedStep> DeletedStore::list() const
         step.file = m_folder + u'/' + name;
         step.time = m_files.timeIn(name);
         step.label = json.value(QLatin1String("label")).toString();
-        for (const QJsonValue file : json.value(QLatin1String("files")).toArray())
+        const QJsonArray files = json.value(QLatin1String("files")).toArray();
+        for (const QJsonValue &file : files)
             step.files.push_back({file[QLatin1String("path")].toString(),
                                   file[QLatin1String("text")].toString().toUtf8()});
-        for (const QJsonValue move : json.value(QLatin1String("moves")).toArray())
+        const QJsonArray moves = json.value(QLatin1String("moves")).toArray();
+        for (const QJsonValue &move : moves)
             step.moves.push_back({move[QLatin1String("path")].toString(),
                                   move[QLatin1String("from")].toString(),
                                   move[QLatin1String("to")].toString()});
-        for (const QJsonValue pin : json.value(QLatin1String("pins")).toArray())
+        const QJsonArray pins = json.value(QLatin1String("pins")).toArray();
+        for (const QJsonValue &pin : pins)
             step.pins.append(pin.toString());
         if (!step.files.empty())
             steps.push_back(std::move(step));

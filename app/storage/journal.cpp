@@ -18,15 +18,15 @@ namespace vl::app {
 
 namespace {
 
-const QByteArray magic = QByteArrayLiteral("IVOREL JOURNAL 1\n");
+constexpr QByteArrayView magic("IVOREL JOURNAL 1\n");
 constexpr qsizetype pieceHead = 8;            // length and checksum
 constexpr qint64 slack = qint64(8) << 20;     // a journal grows by so much before it is tidied
 constexpr int mostPieces = 2000;              // and by so many pieces
 constexpr qint64 mostWork = qint64(8) << 30;  // bytes that reading one may copy
 constexpr qint64 mostBytes = qint64(1) << 30; // that a journal may have
-constexpr std::size_t mostVersions = 2 * mostPieces; // of one file
-constexpr qint64 mostBases = qint64(64) << 20;       // bytes of what stood there, kept whole
-constexpr qint64 headBytes = 64 * 1024;              // that a head may have
+constexpr std::size_t mostVersions = std::size_t(2) * mostPieces; // of one file
+constexpr qint64 mostBases = qint64(64) << 20;  // bytes of what stood there, kept whole
+constexpr qint64 headBytes = qint64(64) * 1024; // that a head may have
 
 /// What a record does to a file.
 enum class Operation : char
@@ -338,7 +338,7 @@ bool JournalWriter::begin()
         return compact();
     if (m_file.isOpen() && m_file.size() > 0)
         return true;
-    return makeFolder() && append(m_file, magic + headPiece(m_header));
+    return makeFolder() && append(m_file, magic.toByteArray() + headPiece(m_header));
 }
 
 bool JournalWriter::makeFolder()
@@ -463,8 +463,9 @@ bool JournalWriter::compact()
     JournalHeader header = m_header;
     header.earlierPieces = m_allPieces;
     AppendFile file(nextJournalPath(m_path));
-    const bool isWritten =
-        makeFolder() && append(file, magic + headPiece(header) + piece.finish()) && sync(file);
+    const bool isWritten = makeFolder()
+                           && append(file, magic.toByteArray() + headPiece(header) + piece.finish())
+                           && sync(file);
     if (!isWritten || !file.renameTo(m_path)) {
         m_error = isWritten ? file.error() : m_error;
         file.remove();

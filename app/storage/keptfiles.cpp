@@ -10,7 +10,7 @@ namespace vl::app {
 
 namespace {
 
-const QString timeFormat = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+constexpr QStringView timeFormat(u"yyyyMMdd'T'HHmmsszzz'Z'");
 constexpr int timeSize = 19;
 constexpr int mostDays = 60; // that are remembered
 constexpr qint64 mostDayBytes = 4096;

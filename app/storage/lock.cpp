@@ -62,7 +62,7 @@ QString startOf(qint64 process)
 QString userName()
 {
     for (const char *variable : {"USER", "LOGNAME", "USERNAME"}) {
-        if (const QString name = qEnvironmentVariable(variable); !name.isEmpty())
+        if (QString name = qEnvironmentVariable(variable); !name.isEmpty())
             return name;
     }
     return QFileInfo(QStringLiteral("/proc/self")).owner();

@@ -233,7 +233,7 @@ Result<> OpenProject::saveAsFolder(const QString &folder)
 Result<> OpenProject::saveInto(std::unique_ptr<ProjectStore> store)
 {
     const std::unique_ptr<RunningSave> save = beginSave(*store, true);
-    const Result<> result = save->pending->commit(OutsideChanges::Overwrite);
+    Result<> result = save->pending->commit(OutsideChanges::Overwrite);
     if (result) {
         store->finished(*save->pending, true);
         m_readOnly.reset();

@@ -362,7 +362,7 @@ Result<> takeOverMedia(const QString &bundlePath, const QByteArray &sha256,
         const QString message = ScanText::tr("Could not refresh the project's working folder: %1");
         if (!makeFolder(path.left(path.lastIndexOf(u'/'))))
             return failure(withPath(message, workingFolder));
-        if (const Result<> written = writeFile(path, *bytes, {message, message}); !written)
+        if (Result<> written = writeFile(path, *bytes, {message, message}); !written)
             return written;
     }
     return {};

@@ -30,16 +30,16 @@ public:
 fs::path toSystemPath(const QString &path)
 {
 #ifdef Q_OS_WIN
-    return fs::path(path.toStdU16String());
+    return {path.toStdU16String()};
 #else
-    return fs::path(QFile::encodeName(path).toStdString());
+    return {QFile::encodeName(path).toStdString()};
 #endif
 }
 
 QByteArray fromSystemPath(const fs::path &path)
 {
     const std::u8string text = path.generic_u8string();
-    return QByteArray(reinterpret_cast<const char *>(text.data()), qsizetype(text.size()));
+    return {reinterpret_cast<const char *>(text.data()), qsizetype(text.size())};
 }
 
 /// What the entry is, links not followed. The listing itself tells it on most file systems, which
@@ -177,7 +177,7 @@ Result<> copyCarriedFiles(const QString &from, const QString &to)
                 withPath(ProjectFolder::tr("Could not create the folder for: %1"), target));
         if (fileHolds(target, *bytes))
             continue;
-        if (const Result<> written = writeFile(target, *bytes, {unwritten, unwritten}); !written)
+        if (Result<> written = writeFile(target, *bytes, {unwritten, unwritten}); !written)
             return written;
     }
     return {};

@@ -27,7 +27,7 @@ struct RepairText
     Q_DECLARE_TR_FUNCTIONS(vl::app::ProjectRepair)
 };
 
-const QString asideFolder = QStringLiteral("conflicting copies");
+const QLatin1String asideFolder("conflicting copies");
 
 bool isBundleName(const QString &path)
 {
@@ -284,7 +284,7 @@ Result<> ProjectRepair::writeCopy(const QString &givenPath) const
     if (!source)
         return source.asFailure();
     if (isBundleName(path)) {
-        if (const Result<> written = BundleWriter(path).write(*source); !written)
+        if (Result<> written = BundleWriter(path).write(*source); !written)
             return written;
         const Result<ReadBundle> copy = readBundle(path);
         if (!copy)
@@ -297,12 +297,12 @@ Result<> ProjectRepair::writeCopy(const QString &givenPath) const
         bytes.append(piece);
         return Result<>();
     };
-    if (const Result<> packed = source->packInto(sink, path); !packed)
+    if (Result<> packed = source->packInto(sink, path); !packed)
         return packed;
     const std::optional<Archive> archive = Archive::parse(std::move(bytes));
     if (!archive)
         return failure(withPath(RepairText::tr("Could not write a project file: %1"), path));
-    if (const Result<> extracted = extractArchive(*archive, path); !extracted)
+    if (Result<> extracted = extractArchive(*archive, path); !extracted)
         return extracted;
     const auto loaded = loadProject(path);
     return loaded ? Result<>() : Result<>(loaded.asFailure());

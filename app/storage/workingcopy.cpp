@@ -19,8 +19,8 @@ namespace vl::app {
 
 namespace {
 
-const QString bundlePathKey = QStringLiteral("bundlePath");
-const QString bundleSumKey = QStringLiteral("bundleSha256");
+const QLatin1String bundlePathKey("bundlePath");
+const QLatin1String bundleSumKey("bundleSha256");
 constexpr qint64 maxMarkerSize = 1 << 20;
 constexpr int pathDigits = 12;
 /// With digits, extensions and a time stamp behind it the name stays within 255 bytes.
@@ -213,7 +213,7 @@ Result<> WorkingCopy::fill(const Archive &archive) const
     const QString part = partPath(m_folder);
     if (!makePrivateFolder(QFileInfo(m_folder).absolutePath()) || !removeTree(part))
         return prepareFailure();
-    if (const Result<> extracted = extractArchive(archive, part); !extracted)
+    if (Result<> extracted = extractArchive(archive, part); !extracted)
         return extracted;
     if (!syncFileSystem(part) || !renamePath(part, m_folder)) {
         removeTree(part);

@@ -5,6 +5,7 @@
 #include "desktop/widgets/elidedlabel.h"
 #include "desktop/widgets/grid.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -55,7 +55,6 @@ NewProjectDialog::NewProjectDialog(const QString &place, QWidget *parent)
     , m_file(new QRadioButton(tr("A single &file"), this))
     , m_folder(new QRadioButton(tr("A f&older of text files"), this))
     , m_result(new QLabel(this))
-    , m_create(nullptr)
 {
     setObjectName(QStringLiteral("newProject"));
     setWindowTitle(tr("New Project"));

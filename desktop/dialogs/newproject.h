@@ -35,7 +35,7 @@ private:
     QRadioButton *m_file;
     QRadioButton *m_folder;
     QLabel *m_result; ///< where the project will stand, or what is wrong
-    QPushButton *m_create;
+    QPushButton *m_create = nullptr;
 };
 
 } // namespace vl::desktop

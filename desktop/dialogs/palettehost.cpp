@@ -6,6 +6,7 @@
 #include "desktop/panels/catalogue.h"
 #include "desktop/shell/panelhost.h"
 
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>

@@ -33,7 +33,7 @@ QString fixedFontFamily()
     static const QString family = [] {
         QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
         fixed.setStyleHint(QFont::Monospace);
-        const QString found = QFontInfo(fixed).family();
+        QString found = QFontInfo(fixed).family();
         if (QFontDatabase::isFixedPitch(found))
             return found;
         const QStringList installed = QFontDatabase::families();
@@ -72,8 +72,8 @@ QString readingFontFamily()
     return family;
 }
 
-EditorStyle::EditorStyle(const app::Settings &settings, const QPalette &palette)
-    : m_palette(palette)
+EditorStyle::EditorStyle(const app::Settings &settings, QPalette palette)
+    : m_palette(std::move(palette))
 {
     const QString family = settings.text(app::settings::editorFontFamily);
     m_font.setFamily(family.isEmpty() ? readingFontFamily() : family);
@@ -146,8 +146,8 @@ QColor EditorStyle::findHitGround() const
     const double least = textContrast(m_palette);
     QColor ground = base;
     // As strong as the faintest text on it allows.
-    for (double amount = 0.25; amount > 0.04; amount -= 0.01) {
-        ground = mix(m_palette.color(QPalette::Highlight), base, amount);
+    for (int percent = 25; percent > 4; --percent) {
+        ground = mix(m_palette.color(QPalette::Highlight), base, percent / 100.0);
         if (contrast(markColor(), ground) >= least
             && contrast(m_palette.color(QPalette::Link), ground) >= least)
             break;

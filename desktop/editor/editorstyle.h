@@ -16,7 +16,7 @@ class EditorStyle
 {
 public:
     /// The look by the user's settings, in the colours of a palette.
-    EditorStyle(const app::Settings &settings, const QPalette &palette);
+    EditorStyle(const app::Settings &settings, QPalette palette);
 
     const QFont &font() const { return m_font; }
     /// The height of a line, in parts of the font's own.

@@ -370,7 +370,7 @@ void CodexPanel::editTags()
     for (const QString &tag : text->split(u','))
         if (!tag.simplified().isEmpty())
             tags.insert(tag.simplified());
-    operations().setCommonTags(ids, tags);
+    operations().setCommonTags(ids, tags); // clazy:exclude=writing-to-temporary
 }
 
 void CodexPanel::saveAsTemplate()
@@ -392,7 +392,7 @@ void CodexPanel::manageTemplates()
 {
     const auto kept = askTemplates(m_context.workspace.project().entityTemplates(), window());
     if (kept)
-        operations().setTemplates(*kept);
+        operations().setTemplates(*kept); // clazy:exclude=writing-to-temporary
 }
 
 void CodexPanel::mergeInto()

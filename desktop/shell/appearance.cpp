@@ -52,8 +52,8 @@ void Appearance::addThemes(QMenu *menu)
         QAction *entry = menu->addAction(QCoreApplication::translate("Themes", theme.name));
         entry->setCheckable(true);
         group->addAction(entry);
-        connect(entry, &QAction::triggered, this, [this, &theme] {
-            m_settings.set(app::settings::theme, QLatin1String(theme.name));
+        connect(entry, &QAction::triggered, this, [this, name = theme.name] {
+            m_settings.set(app::settings::theme, QLatin1String(name));
         });
     }
     const auto tick = [this, group] {

@@ -22,7 +22,7 @@ namespace {
 
 constexpr int othersMilliseconds = 1500;
 constexpr int mostQuestions = 3; // about other projects at a time
-const QString openQuestion = QStringLiteral("unsavedWork");
+const QLatin1String openQuestion("unsavedWork");
 
 QString nameOf(const QString &projectPath)
 {

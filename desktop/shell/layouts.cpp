@@ -16,8 +16,8 @@ namespace vl::desktop {
 
 namespace {
 
-const QString sessionKey = QStringLiteral("general/layout");
-const QString namesKey = QStringLiteral("general/layoutNames");
+const QLatin1String sessionKey("general/layout");
+const QLatin1String namesKey("general/layoutNames");
 
 /// A layout for one sort of work.
 struct ShippedLayout

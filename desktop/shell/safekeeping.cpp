@@ -14,8 +14,8 @@ namespace vl::desktop {
 namespace {
 
 constexpr int openingMilliseconds = 2000; // in which the window has the processor to itself
-const QString outsideNotice = QStringLiteral("outsideChanges");
-const QString mediaNotice = QStringLiteral("outsideMedia");
+const QLatin1String outsideNotice("outsideChanges");
+const QLatin1String mediaNotice("outsideMedia");
 
 /// Nothing is put in place of what is under the user's hands: what is dragged or selected with the
 /// mouse, a menu, a dialog.

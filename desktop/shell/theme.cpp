@@ -45,8 +45,8 @@ const Theme &themeNamed(const QString &name)
 QColor mix(const QColor &over, const QColor &under, double amount)
 {
     const auto channel = [amount](int a, int b) { return qRound(a * amount + b * (1 - amount)); };
-    return QColor(channel(over.red(), under.red()), channel(over.green(), under.green()),
-                  channel(over.blue(), under.blue()));
+    return {channel(over.red(), under.red()), channel(over.green(), under.green()),
+            channel(over.blue(), under.blue())};
 }
 
 double textContrast(const QPalette &palette)

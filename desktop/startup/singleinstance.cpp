@@ -95,9 +95,9 @@ std::unique_ptr<SingleInstanceServer> handOverOrListen(const QString &serverName
     return std::make_unique<SingleInstanceServer>(serverName);
 }
 
-SingleInstanceServer::SingleInstanceServer(const QString &name, QObject *parent)
+SingleInstanceServer::SingleInstanceServer(QString name, QObject *parent)
     : QObject(parent)
-    , m_name(name)
+    , m_name(std::move(name))
     , m_server(new QLocalServer(this))
 {
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
@@ -197,7 +197,7 @@ void SingleInstanceServer::takeConnections()
 
 void SingleInstanceServer::read(QLocalSocket *socket)
 {
-    const auto buffer = m_buffers.find(socket);
+    const QHash<QLocalSocket *, QByteArray>::iterator buffer = m_buffers.find(socket);
     if (buffer == m_buffers.end())
         return;
     buffer->append(socket->read(maxMessageBytes - buffer->size()));

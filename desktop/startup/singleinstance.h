@@ -37,7 +37,7 @@ class SingleInstanceServer final : public QObject
     Q_OBJECT
 
 public:
-    explicit SingleInstanceServer(const QString &name, QObject *parent = nullptr);
+    explicit SingleInstanceServer(QString name, QObject *parent = nullptr);
     ~SingleInstanceServer() override;
 
     bool isListening() const;
@@ -45,7 +45,7 @@ public:
     bool waitsForName() const { return m_waitsForName; }
 
     /// A message is at most this many bytes long, its line feed included.
-    static constexpr qsizetype maxMessageBytes = 64 * 1024;
+    static constexpr qsizetype maxMessageBytes = qsizetype(64) * 1024;
     /// A connection that has not sent its line by then is cut off.
     void setLineTimeout(int milliseconds) { m_lineTimeout = milliseconds; }
 

@@ -166,9 +166,8 @@ void UpdateCheck::takeInstaller(const app::Result<QByteArray> &body)
 app::Result<QString> UpdateCheck::saveInstaller(const QByteArray &bytes) const
 {
     const QString message = tr("The installer could not be saved to disk.");
-    const QString path =
-        QDir(m_service.folder)
-            .filePath(QStringLiteral("Ivorel-%1-Setup.exe").arg(m_fetched.version));
+    QString path = QDir(m_service.folder)
+                       .filePath(QStringLiteral("Ivorel-%1-Setup.exe").arg(m_fetched.version));
     if (!app::makePrivateFolder(m_service.folder) || !isOwnFolder(m_service.folder))
         return app::failure(message);
     const app::Result<> written = app::writeFile(path, bytes, {message, message});
