@@ -224,6 +224,9 @@ Result<> OpenProject::saveAsBundle(const QString &path)
 
 Result<> OpenProject::saveAsFolder(const QString &folder)
 {
+    // Where it stands already, only its own store knows which files are of objects that are gone.
+    if (m_store && !isBundle() && QDir::cleanPath(QFileInfo(folder).absoluteFilePath()) == path())
+        return save(OutsideChanges::Overwrite);
     Q_EMIT aboutToSave();
     finishSaving();
     Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, carriedFolder());

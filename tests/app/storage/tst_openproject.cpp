@@ -2,6 +2,7 @@
 #include "app/storage/openproject.h"
 #include "app/storage/repair.h"
 #include "core/commands/documentcommands.h"
+#include "core/commands/objectcommands.h"
 #include "core/content/document.h"
 #include "tests/support/folders.h"
 
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void savesElsewhereWhenItsPlaceIsGone();
     void leavesTheRepositoryBehind_data();
     void leavesTheRepositoryBehind();
+    void savesAsTheFolderThatItIs();
     void ownSavesAreNoOutsideChanges_data();
     void ownSavesAreNoOutsideChanges();
     void queuedSaveWritesOverOthersWhenAllowed();
@@ -142,6 +144,24 @@ void TestOpenProject::leavesTheRepositoryBehind()
     QVERIFY2(files.filter(QStringLiteral(".git/")).isEmpty(), qPrintable(files.join(u' ')));
     QVERIFY(!files.contains(QStringLiteral("notes/.git")));
     QVERIFY(QFile::exists(folder + QStringLiteral("/.git/objects/a0/b1")));
+}
+
+void TestOpenProject::savesAsTheFolderThatItIs()
+{
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("book"));
+    OpenProject open;
+    QVERIFY(open.saveAsFolder(folder));
+    open.push(std::make_unique<vl::core::AddObjectCommand>(
+        open.project(),
+        std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, QString())));
+    QVERIFY(open.save());
+    open.history().undo();
+    QVERIFY(open.saveAsFolder(folder + u'/'));
+    QVERIFY(!open.isDirty());
+    const auto again = OpenProject::open(folder);
+    QVERIFY(again);
+    QCOMPARE((*again)->project().size(), 0);
 }
 
 void TestOpenProject::ownSavesAreNoOutsideChanges_data()
