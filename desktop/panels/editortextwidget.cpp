@@ -33,6 +33,23 @@ QTextLine rowAt(const QTextLayout &layout, qreal y)
     return found;
 }
 
+/// Keeps its place while there is nothing to scroll, but is not seen then: a bar that comes and
+/// goes takes width from the lines, which makes more rows of them, which brings the bar.
+class QuietScrollBar final : public QScrollBar
+{
+public:
+    using QScrollBar::QScrollBar;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (minimum() < maximum())
+            QScrollBar::paintEvent(event);
+        else
+            QPainter(this).fillRect(event->rect(), palette().base());
+    }
+};
+
 } // namespace
 
 EditorTextWidget::EditorTextWidget(QWidget *parent)
@@ -42,6 +59,8 @@ EditorTextWidget::EditorTextWidget(QWidget *parent)
     setBackgroundRole(QPalette::Base); // beside the column too
     setAutoFillBackground(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new QuietScrollBar(Qt::Vertical, this));
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setTabChangesFocus(false);
     setCursorWidth(qMax(1, grid(1) / 2));
     connect(this, &QPlainTextEdit::textChanged, this, [this] { m_isEditing = false; });
@@ -153,7 +172,9 @@ void EditorTextWidget::notePlace()
 {
     if (!m_live)
         return;
-    const QTextBlock block = firstVisibleBlock();
+    QTextBlock block = firstVisibleBlock();
+    if (!block.isValid())
+        block = document()->lastBlock();
     const int row = verticalScrollBar()->value() - block.firstLineNumber();
     int top = block.position();
     if (row > 0 && row < block.layout()->lineCount())
@@ -193,7 +214,7 @@ bool EditorTextWidget::forwardToColumn(QEvent *event)
 {
     const auto inColumn = [this](const QPointF &point) {
         QPointF inside = point - viewport()->pos();
-        inside.setX(qBound(0.0, inside.x(), viewport()->width() - 1.0));
+        inside.setX(qBound(0.0, inside.x(), qMax(0.0, viewport()->width() - 1.0)));
         return inside;
     };
     switch (event->type()) {

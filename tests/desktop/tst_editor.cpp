@@ -78,6 +78,7 @@ private Q_SLOTS:
     void undoPutsTheCaretBack();
     void burstsEndAfterManyWords();
     void theCaretStaysInView();
+    void theLinesKeepTheirWidth();
     void undoReachesOtherDocuments();
     void removedDocumentsKeepWhatWasTyped();
     void placesComeBack();
@@ -274,6 +275,24 @@ void TestEditor::burstsEndAfterManyWords()
     desk.undo();
     desk.undo();
     QCOMPARE(desk.text->text(), QStringLiteral("word ").repeated(40));
+}
+
+void TestEditor::theLinesKeepTheirWidth()
+{
+    Window desk;
+    desk.add(QStringLiteral("short"));
+    const int width = desk.text->viewport()->width();
+    desk.text->insertStep(QStringLiteral("many\n").repeated(200));
+    QVERIFY(desk.text->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(desk.text->viewport()->width(), width);
+
+    // Hardly any room, and none.
+    for (const int narrow : {40, 1}) {
+        desk.text->setFixedWidth(narrow);
+        QTest::mouseClick(desk.text, Qt::LeftButton, {}, {0, 60});
+        QTest::keyClicks(desk.text, QStringLiteral("x"));
+    }
+    QCOMPARE(desk.text->text().count(u'x'), 2);
 }
 
 void TestEditor::undoReachesOtherDocuments()
