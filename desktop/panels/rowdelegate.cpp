@@ -2,6 +2,8 @@
 
 #include "desktop/shell/theme.h"
 
+#include <QtWidgets/QTreeView>
+
 namespace vl::desktop {
 
 namespace {
@@ -15,6 +17,19 @@ QSize RowDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInde
     QSize size = QStyledItemDelegate::sizeHint(option, index);
     size.setHeight(qMax(size.height(), qRound(option.fontMetrics.height() * rowLines)));
     return size;
+}
+
+QWidget *RowDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                   const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    if (!editor)
+        return nullptr;
+    const QWidget *view = option.widget;
+    const bool hasColumns = qobject_cast<const QTreeView *>(view);
+    const QString column = index.model()->headerData(index.column(), Qt::Horizontal).toString();
+    editor->setAccessibleName(hasColumns || !view ? column : view->accessibleName());
+    return editor;
 }
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

@@ -5,7 +5,7 @@
 namespace vl::desktop {
 
 /// The rows of all lists and trees: of a comfortable height, secondary columns and dimmed rows in
-/// a quieter colour.
+/// a quieter colour. What a cell is edited with has the name of its column, or of the list.
 class RowDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,6 +17,8 @@ public:
     void setDimmedRole(int role) { m_dimmedRole = role; }
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;

@@ -153,6 +153,7 @@ void TestMainWindow::theTreeMovesAndRenames()
     QTest::keyClick(desk.tree, Qt::Key_F2);
     auto *field = desk.tree->viewport()->findChild<QLineEdit *>();
     QVERIFY(field);
+    QCOMPARE(field->accessibleName(), QStringLiteral("Title"));
     field->setText(QStringLiteral("Renamed"));
     QTest::keyClick(field, Qt::Key_Return);
     QTRY_COMPARE(desk.tree->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
