@@ -104,9 +104,13 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     m_manager->setStyleSheet({}); // ours comes when all is in its place: see dress()
 
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
-    // The keys of the window work in one that was drawn out of it too.
+    // A panel that is pulled off asks for its own window while it still lies in this one. Without
+    // these two, each widget above it and beside those would have to be a window of the system too.
+    QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
     connect(m_manager, &ads::CDockManager::floatingWidgetCreated, this,
             [&actions = context.actions](ads::CFloatingDockContainer *floating) {
+                floating->setAttribute(Qt::WA_DontCreateNativeAncestors);
+                // The keys of the window work in it too.
                 for (QAction *action : actions.all())
                     floating->addAction(action);
             });

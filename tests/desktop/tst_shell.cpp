@@ -82,6 +82,7 @@ private Q_SLOTS:
     void theFirstLayoutGivesTheTextItsRoom();
     void theKeyboardReachesEveryPanel();
     void theKeysWorkInAPanelThatFloats();
+    void aPanelPulledOffIsTheOnlyNewWindow();
     void windowsAreBroughtBack_data();
     void windowsAreBroughtBack();
     void ownKeysStandOverBuiltInOnes_data();
@@ -383,6 +384,24 @@ void TestShell::theKeysWorkInAPanelThatFloats()
     QCOMPARE(workspace.history().undoCount(), steps - 1);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
     QTRY_VERIFY(desk.window->isActiveWindow() && !isIn());
+}
+
+void TestShell::aPanelPulledOffIsTheOnlyNewWindow()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    for (QWidget *widget : desk.window->findChildren<QWidget *>())
+        if (widget->inherits("ads::CDockWidgetTab") && widget->isVisible()) {
+            QTest::mouseDClick(widget, Qt::LeftButton);
+            break;
+        }
+    int floating = 0;
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        floating += widget->inherits("ads::CFloatingDockContainer") && widget->isVisible() ? 1 : 0;
+        QVERIFY2(widget->isWindow() || !widget->windowHandle(), widget->metaObject()->className());
+    }
+    QCOMPARE(floating, 1);
 }
 
 void TestShell::windowsAreBroughtBack_data()
