@@ -100,6 +100,14 @@ bool EditorTextWidget::takeKey(QKeyEvent *event)
     default:
         break;
     }
+#ifndef Q_OS_MACOS // there it makes other letters
+    // A letter with Alt was meant for a menu. Where none has it, it writes nothing.
+    const bool isForMenu = (modifiers & ~Qt::ShiftModifier) == Qt::AltModifier;
+    if (isForMenu && !event->text().isEmpty() && event->text().front().isPrint()) {
+        event->ignore();
+        return true;
+    }
+#endif
     const bool isShortcut = modifiers & (Qt::ControlModifier | Qt::AltModifier);
     return !isShortcut && m_isTypographic && takeTypographic(event->text());
 }

@@ -427,6 +427,8 @@ void TestEditor::listsAndMarksByKey()
     desk.window.actions()["text.strong"]->trigger();
     QCOMPARE(desk.text->text(), QStringLiteral("- one\n  - two\n**three**"));
     desk.window.actions()["text.strong"]->trigger();
+    QTest::keyClick(desk.text, Qt::Key_J, Qt::AltModifier); // of no menu
+    QTest::keyClick(desk.text, Qt::Key_J, Qt::AltModifier | Qt::ShiftModifier);
     desk.workspace.flush();
     QCOMPARE(document.body(), QStringLiteral("- one\n  - two\nthree"));
 }
