@@ -116,9 +116,13 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption *opti
         size.setHeight(qMax(size.height(), qRound(option->fontMetrics.height() * controlLines)));
         break;
     case CT_MenuItem:
-        if (entry && entry->menuItemType != QStyleOptionMenuItem::Separator)
+        if (entry && entry->menuItemType != QStyleOptionMenuItem::Separator) {
             size.setHeight(
                 qMax(size.height(), qRound(option->fontMetrics.height() * controlLines)));
+            // The column of the ticks is drawn as wide as the entry is high, but counted as narrow:
+            // the longest text would lose its middle.
+            size.rwidth() += size.height();
+        }
         break;
     case CT_MenuBarItem:
         size += QSize(grid(1), grid(1));
