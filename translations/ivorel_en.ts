@@ -1681,6 +1681,14 @@ Do you want to delete it anyway?</translation>
         <source>The folder for backups lies in the project itself: %1</source>
         <translation>The folder for backups lies in the project itself: %1</translation>
     </message>
+    <message>
+        <source>A project that is open cannot be replaced: %1</source>
+        <translation>A project that is open cannot be replaced: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::BackupFolder</name>
@@ -3726,6 +3734,21 @@ Do you want to delete it anyway?</translation>
         <source>&amp;Remove from List</source>
         <translation>&amp;Remove from List</translation>
     </message>
+    <message numerus="yes">
+        <source>The copy leaves out %n file(s) that cannot be read:</source>
+        <translation>
+            <numerusform>The copy leaves out %n file that cannot be read:</numerusform>
+            <numerusform>The copy leaves out %n files that cannot be read:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Saving writes everything there again that is open here; pictures and other media that were only there are not brought back. If the disk or the sync folder may come back, wait for it, or save under another name.</source>
+        <translation>Saving writes everything there again that is open here; pictures and other media that were only there are not brought back. If the disk or the sync folder may come back, wait for it, or save under another name.</translation>
+    </message>
+    <message>
+        <source>Save There Again</source>
+        <translation>Save There Again</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -4138,6 +4161,654 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>no</source>
         <translation>no</translation>
+    </message>
+    <message>
+        <source>One end</source>
+        <translation>One end</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Actions</translation>
+    </message>
+    <message>
+        <source>Wording shown</source>
+        <translation>Wording shown</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Alignment</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Annotations</translation>
+    </message>
+    <message>
+        <source>Scenes of the beats</source>
+        <translation>Scenes of the beats</translation>
+    </message>
+    <message>
+        <source>Other end</source>
+        <translation>Other end</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Background colour</translation>
+    </message>
+    <message>
+        <source>Beat</source>
+        <translation>Beat</translation>
+    </message>
+    <message>
+        <source>Beat sheet</source>
+        <translation>Beat sheet</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Board</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Cards</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categories</translation>
+    </message>
+    <message>
+        <source>Title of the category axis</source>
+        <translation>Title of the category axis</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Cells</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Character</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Collapsed</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>Coloured by</source>
+        <translation>Coloured by</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Column</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Column widths</source>
+        <translation>Column widths</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparison</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Connections</translation>
+    </message>
+    <message>
+        <source>Consonants</source>
+        <translation>Consonants</translation>
+    </message>
+    <message>
+        <source>Order among the events</source>
+        <translation>Order among the events</translation>
+    </message>
+    <message>
+        <source>Continuity rules</source>
+        <translation>Continuity rules</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Crop</translation>
+    </message>
+    <message>
+        <source>Words a day</source>
+        <translation>Words a day</translation>
+    </message>
+    <message>
+        <source>Certainty of the date</source>
+        <translation>Certainty of the date</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>Deadline</source>
+        <translation>Deadline</translation>
+    </message>
+    <message>
+        <source>Decimal places</source>
+        <translation>Decimal places</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Density</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Unit of distance</source>
+        <translation>Unit of distance</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Length in minutes</source>
+        <translation>Length in minutes</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entity</translation>
+    </message>
+    <message>
+        <source>Entity templates</source>
+        <translation>Entity templates</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Entries</translation>
+    </message>
+    <message>
+        <source>Offset in minutes</source>
+        <translation>Offset in minutes</translation>
+    </message>
+    <message>
+        <source>Era</source>
+        <translation>Era</translation>
+    </message>
+    <message>
+        <source>Size of the events</source>
+        <translation>Size of the events</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>Values of the fields</source>
+        <translation>Values of the fields</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>Font size</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <translation>Formats</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Meaning</translation>
+    </message>
+    <message>
+        <source>Columns of the grid</source>
+        <translation>Columns of the grid</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>Grouped by</source>
+        <translation>Grouped by</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Hidden</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Marks the present</source>
+        <translation>Marks the present</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Form of the labels</source>
+        <translation>Form of the labels</translation>
+    </message>
+    <message>
+        <source>Place of the labels</source>
+        <translation>Place of the labels</translation>
+    </message>
+    <message>
+        <source>Lanes</source>
+        <translation>Lanes</translation>
+    </message>
+    <message>
+        <source>Lexicon</source>
+        <translation>Lexicon</translation>
+    </message>
+    <message>
+        <source>Linked category</source>
+        <translation>Linked category</translation>
+    </message>
+    <message>
+        <source>Linked entity</source>
+        <translation>Linked entity</translation>
+    </message>
+    <message>
+        <source>Linked map</source>
+        <translation>Linked map</translation>
+    </message>
+    <message>
+        <source>Words of the manuscript</source>
+        <translation>Words of the manuscript</translation>
+    </message>
+    <message>
+        <source>Most syllables</source>
+        <translation>Most syllables</translation>
+    </message>
+    <message>
+        <source>Fewest syllables</source>
+        <translation>Fewest syllables</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Months</translation>
+    </message>
+    <message>
+        <source>Mounted libraries</source>
+        <translation>Mounted libraries</translation>
+    </message>
+    <message>
+        <source>Number format</source>
+        <translation>Number format</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Object</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Equal steps</source>
+        <translation>Equal steps</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Event</translation>
+    </message>
+    <message>
+        <source>Part of speech</source>
+        <translation>Part of speech</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Path</translation>
+    </message>
+    <message>
+        <source>Syllable patterns</source>
+        <translation>Syllable patterns</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message>
+        <source>Pins</source>
+        <translation>Pins</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Corners</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Recipient</source>
+        <translation>Recipient</translation>
+    </message>
+    <message>
+        <source>Reckonings</source>
+        <translation>Reckonings</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regions</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Required</translation>
+    </message>
+    <message>
+        <source>Revealed</source>
+        <translation>Revealed</translation>
+    </message>
+    <message>
+        <source>Routes</source>
+        <translation>Routes</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Row</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rows</translation>
+    </message>
+    <message>
+        <source>Row height</source>
+        <translation>Row height</translation>
+    </message>
+    <message>
+        <source>Row heights</source>
+        <translation>Row heights</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Saved searches</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Scenes</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Series</translation>
+    </message>
+    <message>
+        <source>Order of the series</source>
+        <translation>Order of the series</translation>
+    </message>
+    <message>
+        <source>Shape of the series</source>
+        <translation>Shape of the series</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Conflict marks shown</source>
+        <translation>Conflict marks shown</translation>
+    </message>
+    <message>
+        <source>Density strip shown</source>
+        <translation>Density strip shown</translation>
+    </message>
+    <message>
+        <source>Grid lines shown</source>
+        <translation>Grid lines shown</translation>
+    </message>
+    <message>
+        <source>Labels shown</source>
+        <translation>Labels shown</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation>Kind of source</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Values</translation>
+    </message>
+    <message>
+        <source>Struck out</source>
+        <translation>Struck out</translation>
+    </message>
+    <message>
+        <source>Submission</source>
+        <translation>Submission</translation>
+    </message>
+    <message>
+        <source>Submitted</source>
+        <translation>Submitted</translation>
+    </message>
+    <message>
+        <source>Rule system</source>
+        <translation>Rule system</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Template</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Text colour</translation>
+    </message>
+    <message>
+        <source>Timeline bookmarks</source>
+        <translation>Timeline bookmarks</translation>
+    </message>
+    <message>
+        <source>Timeline eras</source>
+        <translation>Timeline eras</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Timeline</translation>
+    </message>
+    <message>
+        <source>Timeline markers</source>
+        <translation>Timeline markers</translation>
+    </message>
+    <message>
+        <source>Timeline view</source>
+        <translation>Timeline view</translation>
+    </message>
+    <message>
+        <source>Timeline view presets</source>
+        <translation>Timeline view presets</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>To</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Tokens</translation>
+    </message>
+    <message>
+        <source>Travel speed an hour</source>
+        <translation>Travel speed an hour</translation>
+    </message>
+    <message>
+        <source>Underlined</source>
+        <translation>Underlined</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Title of the value axis</source>
+        <translation>Title of the value axis</translation>
+    </message>
+    <message>
+        <source>Vowels</source>
+        <translation>Vowels</translation>
+    </message>
+    <message>
+        <source>Days of the week</source>
+        <translation>Days of the week</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Weight</translation>
+    </message>
+    <message>
+        <source>Distance across the map</source>
+        <translation>Distance across the map</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Word</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Words</translation>
+    </message>
+    <message>
+        <source>Writable</source>
+        <translation>Writable</translation>
+    </message>
+    <message>
+        <source>Writing goal</source>
+        <translation>Writing goal</translation>
+    </message>
+    <message>
+        <source>Writing log</source>
+        <translation>Writing log</translation>
+    </message>
+    <message>
+        <source>Centred</source>
+        <translation>Centred</translation>
+    </message>
+    <message>
+        <source>As the sheet has it</source>
+        <translation>As the sheet has it</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Is</source>
+        <translation>Is</translation>
+    </message>
+    <message>
+        <source>Is not</source>
+        <translation>Is not</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>After</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>During</source>
+        <translation>During</translation>
+    </message>
+    <message>
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message>
+        <source>Hexagons</source>
+        <translation>Hexagons</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Squares</source>
+        <translation>Squares</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Area</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Bars</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation>Pie</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Currency</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Percent</translation>
+    </message>
+    <message>
+        <source>Scientific</source>
+        <translation>Scientific</translation>
+    </message>
+    <message>
+        <source>Around</source>
+        <translation>Around</translation>
     </message>
 </context>
 <context>
@@ -5878,6 +6549,10 @@ What is said.
         <source>Third-party software and its licences</source>
         <translation>Third-party software and its licences</translation>
     </message>
+    <message>
+        <source>Replaced versions</source>
+        <translation>Replaced versions</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::AppearancePage</name>
@@ -7280,28 +7955,12 @@ What is said.
 <context>
     <name>vl::desktop::Layouts</name>
     <message>
-        <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
-        <translation>The layout “%1” cannot be read; the first layout is shown instead.</translation>
-    </message>
-    <message>
-        <source>Deleted the layout “%1”.</source>
-        <translation>Deleted the layout “%1”.</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
     <message>
         <source>Save Current Layout</source>
         <translation>Save Current Layout</translation>
-    </message>
-    <message>
-        <source>Name of the layout:</source>
-        <translation>Name of the layout:</translation>
-    </message>
-    <message>
-        <source>There is a layout “%1” already.</source>
-        <translation>There is a layout “%1” already.</translation>
     </message>
     <message>
         <source>The present arrangement takes its place.</source>
@@ -7312,20 +7971,36 @@ What is said.
         <translation>&amp;Replace</translation>
     </message>
     <message>
-        <source>Saved the layout “%1”.</source>
-        <translation>Saved the layout “%1”.</translation>
+        <source>The perspective “%1” cannot be read; the first layout is shown instead.</source>
+        <translation>The perspective “%1” cannot be read; the first layout is shown instead.</translation>
     </message>
     <message>
-        <source>Delete Layout</source>
-        <translation>Delete Layout</translation>
+        <source>Deleted the perspective “%1”.</source>
+        <translation>Deleted the perspective “%1”.</translation>
     </message>
     <message>
-        <source>Layout to delete:</source>
-        <translation>Layout to delete:</translation>
+        <source>Name of the perspective:</source>
+        <translation>Name of the perspective:</translation>
     </message>
     <message>
-        <source>“%1” is a layout that comes with Ivorel. Choose another name.</source>
-        <translation>“%1” is a layout that comes with Ivorel. Choose another name.</translation>
+        <source>“%1” is a perspective that comes with Ivorel. Choose another name.</source>
+        <translation>“%1” is a perspective that comes with Ivorel. Choose another name.</translation>
+    </message>
+    <message>
+        <source>There is a perspective “%1” already.</source>
+        <translation>There is a perspective “%1” already.</translation>
+    </message>
+    <message>
+        <source>Saved the perspective “%1”.</source>
+        <translation>Saved the perspective “%1”.</translation>
+    </message>
+    <message>
+        <source>Delete Perspective</source>
+        <translation>Delete Perspective</translation>
+    </message>
+    <message>
+        <source>Perspective to delete:</source>
+        <translation>Perspective to delete:</translation>
     </message>
 </context>
 <context>
@@ -7383,6 +8058,14 @@ What is said.
     <message>
         <source>Save Project</source>
         <translation>Save Project</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Saved as %1.</translation>
+    </message>
+    <message>
+        <source>The disk is full. %1</source>
+        <translation>The disk is full. %1</translation>
     </message>
 </context>
 <context>
@@ -8323,8 +9006,8 @@ What is said.
         <translation>Interface &amp;Language</translation>
     </message>
     <message>
-        <source>Appl&amp;y Layout</source>
-        <translation>Appl&amp;y Layout</translation>
+        <source>Appl&amp;y Perspective</source>
+        <translation>Appl&amp;y Perspective</translation>
     </message>
 </context>
 </TS>

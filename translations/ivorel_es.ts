@@ -1681,6 +1681,14 @@ Do you want to delete it anyway?</source>
         <source>The folder for backups lies in the project itself: %1</source>
         <translation>La carpeta de las copias de seguridad está dentro del propio proyecto: %1</translation>
     </message>
+    <message>
+        <source>A project that is open cannot be replaced: %1</source>
+        <translation>No se puede reemplazar un proyecto abierto: %1</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::BackupFolder</name>
@@ -3726,6 +3734,18 @@ Do you want to delete it anyway?</source>
         <source>&amp;Remove from List</source>
         <translation>&amp;Quitar de la lista</translation>
     </message>
+    <message numerus="yes">
+        <source>The copy leaves out %n file(s) that cannot be read:</source>
+        <translation><numerusform>La copia deja fuera %n archivo que no se puede leer:</numerusform><numerusform>La copia deja fuera %n archivos que no se pueden leer:</numerusform></translation>
+    </message>
+    <message>
+        <source>Saving writes everything there again that is open here; pictures and other media that were only there are not brought back. If the disk or the sync folder may come back, wait for it, or save under another name.</source>
+        <translation>Al guardar se vuelve a escribir allí todo lo que está abierto aquí; las imágenes y demás archivos multimedia que solo estaban allí no se recuperan. Si el disco o la carpeta sincronizada puede volver, espere, o guarde con otro nombre.</translation>
+    </message>
+    <message>
+        <source>Save There Again</source>
+        <translation>Guardar allí de nuevo</translation>
+    </message>
 </context>
 <context>
     <name>vl::app::ProjectFolder</name>
@@ -4138,6 +4158,654 @@ Do you want to delete it anyway?</source>
     <message>
         <source>no</source>
         <translation>no</translation>
+    </message>
+    <message>
+        <source>One end</source>
+        <translation>Un extremo</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Acciones</translation>
+    </message>
+    <message>
+        <source>Wording shown</source>
+        <translation>Redacción mostrada</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Alineación</translation>
+    </message>
+    <message>
+        <source>Annotations</source>
+        <translation>Anotaciones</translation>
+    </message>
+    <message>
+        <source>Scenes of the beats</source>
+        <translation>Escenas de los puntos de la escaleta</translation>
+    </message>
+    <message>
+        <source>Other end</source>
+        <translation>Otro extremo</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Color de fondo</translation>
+    </message>
+    <message>
+        <source>Beat</source>
+        <translation>Punto de la escaleta</translation>
+    </message>
+    <message>
+        <source>Beat sheet</source>
+        <translation>Escaleta</translation>
+    </message>
+    <message>
+        <source>Board</source>
+        <translation>Tablero</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Cards</source>
+        <translation>Tarjetas</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Title of the category axis</source>
+        <translation>Título del eje de categorías</translation>
+    </message>
+    <message>
+        <source>Cells</source>
+        <translation>Celdas</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Personaje</translation>
+    </message>
+    <message>
+        <source>Collapsed</source>
+        <translation>Plegado</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Coloured by</source>
+        <translation>Coloreado por</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Columna</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>Column widths</source>
+        <translation>Anchos de las columnas</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparación</translation>
+    </message>
+    <message>
+        <source>Connections</source>
+        <translation>Conexiones</translation>
+    </message>
+    <message>
+        <source>Consonants</source>
+        <translation>Consonantes</translation>
+    </message>
+    <message>
+        <source>Order among the events</source>
+        <translation>Orden entre los acontecimientos</translation>
+    </message>
+    <message>
+        <source>Continuity rules</source>
+        <translation>Reglas de continuidad</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recorte</translation>
+    </message>
+    <message>
+        <source>Words a day</source>
+        <translation>Palabras al día</translation>
+    </message>
+    <message>
+        <source>Certainty of the date</source>
+        <translation>Certeza de la fecha</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Días</translation>
+    </message>
+    <message>
+        <source>Deadline</source>
+        <translation>Fecha límite</translation>
+    </message>
+    <message>
+        <source>Decimal places</source>
+        <translation>Decimales</translation>
+    </message>
+    <message>
+        <source>Density</source>
+        <translation>Densidad</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Unit of distance</source>
+        <translation>Unidad de distancia</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Length in minutes</source>
+        <translation>Duración en minutos</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Entity templates</source>
+        <translation>Plantillas de entidad</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Offset in minutes</source>
+        <translation>Desfase en minutos</translation>
+    </message>
+    <message>
+        <source>Era</source>
+        <translation>Era</translation>
+    </message>
+    <message>
+        <source>Size of the events</source>
+        <translation>Tamaño de los acontecimientos</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Values of the fields</source>
+        <translation>Valores de los campos</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Letra</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>Tamaño de la letra</translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <translation>Formatos</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>Columns of the grid</source>
+        <translation>Columnas de la cuadrícula</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Cuadrícula</translation>
+    </message>
+    <message>
+        <source>Grouped by</source>
+        <translation>Agrupado por</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Oculto</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Marks the present</source>
+        <translation>Marca el presente</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Cursiva</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Form of the labels</source>
+        <translation>Forma de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Place of the labels</source>
+        <translation>Lugar de las etiquetas</translation>
+    </message>
+    <message>
+        <source>Lanes</source>
+        <translation>Carriles</translation>
+    </message>
+    <message>
+        <source>Lexicon</source>
+        <translation>Léxico</translation>
+    </message>
+    <message>
+        <source>Linked category</source>
+        <translation>Categoría enlazada</translation>
+    </message>
+    <message>
+        <source>Linked entity</source>
+        <translation>Entidad enlazada</translation>
+    </message>
+    <message>
+        <source>Linked map</source>
+        <translation>Mapa enlazado</translation>
+    </message>
+    <message>
+        <source>Words of the manuscript</source>
+        <translation>Palabras del manuscrito</translation>
+    </message>
+    <message>
+        <source>Most syllables</source>
+        <translation>Máximo de sílabas</translation>
+    </message>
+    <message>
+        <source>Fewest syllables</source>
+        <translation>Mínimo de sílabas</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Meses</translation>
+    </message>
+    <message>
+        <source>Mounted libraries</source>
+        <translation>Bibliotecas montadas</translation>
+    </message>
+    <message>
+        <source>Number format</source>
+        <translation>Formato de los números</translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation>Objeto</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Equal steps</source>
+        <translation>Pasos iguales</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Acontecimiento</translation>
+    </message>
+    <message>
+        <source>Part of speech</source>
+        <translation>Categoría gramatical</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>Syllable patterns</source>
+        <translation>Patrones de sílabas</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Fijados</translation>
+    </message>
+    <message>
+        <source>Pins</source>
+        <translation>Chinchetas</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Vértices</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Búsqueda</translation>
+    </message>
+    <message>
+        <source>Recipient</source>
+        <translation>Destinatario</translation>
+    </message>
+    <message>
+        <source>Reckonings</source>
+        <translation>Cómputos</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regiones</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatorio</translation>
+    </message>
+    <message>
+        <source>Revealed</source>
+        <translation>Revelado</translation>
+    </message>
+    <message>
+        <source>Routes</source>
+        <translation>Rutas</translation>
+    </message>
+    <message>
+        <source>Row</source>
+        <translation>Fila</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Filas</translation>
+    </message>
+    <message>
+        <source>Row height</source>
+        <translation>Altura de la fila</translation>
+    </message>
+    <message>
+        <source>Row heights</source>
+        <translation>Alturas de las filas</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Escenas</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>Order of the series</source>
+        <translation>Orden de las series</translation>
+    </message>
+    <message>
+        <source>Shape of the series</source>
+        <translation>Forma de las series</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Conflict marks shown</source>
+        <translation>Marcas de conflicto a la vista</translation>
+    </message>
+    <message>
+        <source>Density strip shown</source>
+        <translation>Franja de densidad a la vista</translation>
+    </message>
+    <message>
+        <source>Grid lines shown</source>
+        <translation>Líneas de la cuadrícula a la vista</translation>
+    </message>
+    <message>
+        <source>Labels shown</source>
+        <translation>Etiquetas a la vista</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Kind of source</source>
+        <translation>Tipo de fuente</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Struck out</source>
+        <translation>Tachado</translation>
+    </message>
+    <message>
+        <source>Submission</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Submitted</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Rule system</source>
+        <translation>Sistema de reglas</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Plantilla</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>Timeline bookmarks</source>
+        <translation>Lugares guardados de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline eras</source>
+        <translation>Eras de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline</source>
+        <translation>Línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline markers</source>
+        <translation>Marcadores de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline view</source>
+        <translation>Vista de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>Timeline view presets</source>
+        <translation>Vistas guardadas de la línea de tiempo</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hacia</translation>
+    </message>
+    <message>
+        <source>Tokens</source>
+        <translation>Fichas</translation>
+    </message>
+    <message>
+        <source>Travel speed an hour</source>
+        <translation>Velocidad de viaje por hora</translation>
+    </message>
+    <message>
+        <source>Underlined</source>
+        <translation>Subrayado</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Title of the value axis</source>
+        <translation>Título del eje de valores</translation>
+    </message>
+    <message>
+        <source>Vowels</source>
+        <translation>Vocales</translation>
+    </message>
+    <message>
+        <source>Days of the week</source>
+        <translation>Días de la semana</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Peso</translation>
+    </message>
+    <message>
+        <source>Distance across the map</source>
+        <translation>Distancia a lo ancho del mapa</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Palabra</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Palabras</translation>
+    </message>
+    <message>
+        <source>Writable</source>
+        <translation>Se puede escribir</translation>
+    </message>
+    <message>
+        <source>Writing goal</source>
+        <translation>Meta de escritura</translation>
+    </message>
+    <message>
+        <source>Writing log</source>
+        <translation>Registro de escritura</translation>
+    </message>
+    <message>
+        <source>Centred</source>
+        <translation>Centrado</translation>
+    </message>
+    <message>
+        <source>As the sheet has it</source>
+        <translation>Como en la hoja</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Is</source>
+        <translation>Es</translation>
+    </message>
+    <message>
+        <source>Is not</source>
+        <translation>No es</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Después</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>During</source>
+        <translation>Durante</translation>
+    </message>
+    <message>
+        <source>Exact</source>
+        <translation>Exacta</translation>
+    </message>
+    <message>
+        <source>Hexagons</source>
+        <translation>Hexágonos</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Squares</source>
+        <translation>Cuadrados</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Área</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Barras</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation>Circular</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Moneda</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Porcentaje</translation>
+    </message>
+    <message>
+        <source>Scientific</source>
+        <translation>Científico</translation>
+    </message>
+    <message>
+        <source>Around</source>
+        <translation>Hacia</translation>
     </message>
 </context>
 <context>
@@ -5878,6 +6546,10 @@ Lo que se dice.
         <source>Third-party software and its licences</source>
         <translation>Software de terceros y sus licencias</translation>
     </message>
+    <message>
+        <source>Replaced versions</source>
+        <translation>Versiones reemplazadas</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::AppearancePage</name>
@@ -7280,28 +7952,12 @@ Lo que se dice.
 <context>
     <name>vl::desktop::Layouts</name>
     <message>
-        <source>The layout “%1” cannot be read; the first layout is shown instead.</source>
-        <translation>La disposición «%1» no se puede leer; se muestra la inicial en su lugar.</translation>
-    </message>
-    <message>
-        <source>Deleted the layout “%1”.</source>
-        <translation>Se eliminó la disposición «%1».</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
     <message>
         <source>Save Current Layout</source>
         <translation>Guardar la disposición actual</translation>
-    </message>
-    <message>
-        <source>Name of the layout:</source>
-        <translation>Nombre de la disposición:</translation>
-    </message>
-    <message>
-        <source>There is a layout “%1” already.</source>
-        <translation>Ya hay una disposición «%1».</translation>
     </message>
     <message>
         <source>The present arrangement takes its place.</source>
@@ -7312,20 +7968,36 @@ Lo que se dice.
         <translation>&amp;Sustituir</translation>
     </message>
     <message>
-        <source>Saved the layout “%1”.</source>
-        <translation>Se guardó la disposición «%1».</translation>
+        <source>The perspective “%1” cannot be read; the first layout is shown instead.</source>
+        <translation>La perspectiva «%1» no se puede leer; se muestra la disposición inicial en su lugar.</translation>
     </message>
     <message>
-        <source>Delete Layout</source>
-        <translation>Eliminar disposición</translation>
+        <source>Deleted the perspective “%1”.</source>
+        <translation>Se eliminó la perspectiva «%1».</translation>
     </message>
     <message>
-        <source>Layout to delete:</source>
-        <translation>Disposición que eliminar:</translation>
+        <source>Name of the perspective:</source>
+        <translation>Nombre de la perspectiva:</translation>
     </message>
     <message>
-        <source>“%1” is a layout that comes with Ivorel. Choose another name.</source>
-        <translation>«%1» es una disposición que trae Ivorel. Elija otro nombre.</translation>
+        <source>“%1” is a perspective that comes with Ivorel. Choose another name.</source>
+        <translation>«%1» es una perspectiva que trae Ivorel. Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>There is a perspective “%1” already.</source>
+        <translation>Ya hay una perspectiva «%1».</translation>
+    </message>
+    <message>
+        <source>Saved the perspective “%1”.</source>
+        <translation>Se guardó la perspectiva «%1».</translation>
+    </message>
+    <message>
+        <source>Delete Perspective</source>
+        <translation>Eliminar perspectiva</translation>
+    </message>
+    <message>
+        <source>Perspective to delete:</source>
+        <translation>Perspectiva que eliminar:</translation>
     </message>
 </context>
 <context>
@@ -7383,6 +8055,14 @@ Lo que se dice.
     <message>
         <source>Save Project</source>
         <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Se guardó como %1.</translation>
+    </message>
+    <message>
+        <source>The disk is full. %1</source>
+        <translation>El disco está lleno. %1</translation>
     </message>
 </context>
 <context>
@@ -8323,8 +9003,8 @@ Lo que se dice.
         <translation>&amp;Idioma de la interfaz</translation>
     </message>
     <message>
-        <source>Appl&amp;y Layout</source>
-        <translation>Aplicar disposició&amp;n</translation>
+        <source>Appl&amp;y Perspective</source>
+        <translation>Apli&amp;car perspectiva</translation>
     </message>
 </context>
 </TS>

@@ -239,7 +239,7 @@ constexpr Choice choices[] = {
     {"comparison", "notEquals", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Is not")},
     {"dateQualifier", "after", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "After")},
     {"dateQualifier", "before", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Before")},
-    {"dateQualifier", "circa", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "About")},
+    {"dateQualifier", "circa", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Around")},
     {"dateQualifier", "during", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "During")},
     {"dateQualifier", "exact", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Exact")},
     {"gridKind", "hex", own, QT_TRANSLATE_NOOP("vl::app::ReadableFile", "Hexagons")},

@@ -421,7 +421,7 @@ void TestRepair::readableFiles_data()
     QTest::newRow("choices") << QByteArray("{\"dateQualifier\": \"circa\", \"constraints\":"
                                            " [{\"kind\": \"after\", \"otherId\": \"\"}]}")
                              << "Order among the events:\n  • Kind: After\nCertainty of the date: "
-                                "About\n";
+                                "Around\n";
     QTest::newRow("a field that the user named as a member")
         << QByteArray("{\"values\": {\"kind\": \"note\"}}") << "Details:\n  kind: note\n";
 }
