@@ -41,6 +41,7 @@ public:
     /// These give an empty path when the user calls it off.
     virtual QString chooseProjectToOpen() = 0;
     virtual QString chooseProjectFolderToOpen() = 0;
+    /// The suggestion is a name, or a path when the place of the open project is not the one.
     virtual QString chooseBundleToSave(const QString &suggestion) = 0;
     virtual QString chooseFolderToSave(const QString &suggestion) = 0;
     /// A short text such as a name, which may be empty; none when called off.

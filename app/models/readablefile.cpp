@@ -293,7 +293,83 @@ std::optional<QJsonObject> objectIn(const std::optional<QByteArray> &bytes)
     return json.isObject() ? std::optional(json.object()) : std::nullopt;
 }
 
+/// The beginning of a JSON text that was cut off, closed so that it may be read.
+class CutJson
+{
+public:
+    explicit CutJson(const QString &text)
+        : m_text(text)
+    {
+        for (qsizetype i = 0; i < text.size(); ++i)
+            take(i, text.at(i));
+    }
+
+    std::optional<QJsonObject> object() const
+    {
+        if (const auto all = parsed(m_isInString ? wholeLetters() + u'"' : m_text, m_open))
+            return all;
+        return parsed(m_text.left(m_lastComma), m_openAtComma);
+    }
+
+private:
+    void take(qsizetype place, QChar letter)
+    {
+        if (std::exchange(m_isEscaped, false))
+            return;
+        if (m_isInString && letter == u'\\')
+            m_isEscaped = true;
+        else if (letter == u'"')
+            m_isInString = !m_isInString;
+        if (m_isInString || letter == u'"')
+            return;
+        if (letter == u'{' || letter == u'[')
+            m_open.append(letter == u'{' ? u'}' : u']');
+        else if (letter == u'}' || letter == u']')
+            m_open.chop(1);
+        else if (letter == u',') {
+            m_lastComma = place;
+            m_openAtComma = m_open;
+        }
+    }
+
+    /// Without an escape that is only half there.
+    QString wholeLetters() const
+    {
+        constexpr qsizetype longest = 6;
+        const qsizetype slash = m_text.lastIndexOf(u'\\');
+        const bool isHalf =
+            m_isEscaped
+            || (slash >= 0 && m_text.size() - slash < longest && m_text.at(slash + 1) == u'u');
+        return isHalf ? m_text.left(slash) : m_text;
+    }
+
+    static std::optional<QJsonObject> parsed(QString text, const QString &open)
+    {
+        for (qsizetype i = open.size(); i > 0; --i)
+            text += open.at(i - 1);
+        const QJsonDocument json = QJsonDocument::fromJson(text.toUtf8());
+        return json.isObject() ? std::optional(json.object()) : std::nullopt;
+    }
+
+    const QString &m_text;
+    QString m_open; ///< what closes the open objects and lists, the innermost last
+    QString m_openAtComma;
+    qsizetype m_lastComma = 0;
+    bool m_isInString = false;
+    bool m_isEscaped = false;
+};
+
 } // namespace
+
+QString readableRemains(const QByteArray &bytes)
+{
+    const qsizetype end = bytes.indexOf('\0'); // what a disk leaves where nothing was written
+    const QString text = QString::fromUtf8(end < 0 ? bytes : bytes.first(end)).trimmed();
+    const std::optional<QJsonObject> file = CutJson(text).object();
+    if (!file)
+        return text;
+    return file->isEmpty() ? QString() : Writer(nullptr).write(*file);
+}
 
 QString readableFile(const QByteArray &bytes, const core::Project *project)
 {

@@ -16,6 +16,9 @@ namespace vl::app {
 /// no JSON object is shown as it is; the text is never empty.
 QString readableFile(const QByteArray &bytes, const core::Project *project = nullptr);
 
+/// The same of a file that is cut off or damaged, as far as it can be read; may be empty.
+QString readableRemains(const QByteArray &bytes);
+
 /// Two versions of a file as text for people.
 struct ReadableVersions
 {

@@ -3,8 +3,11 @@
 #include "app/models/backupkeeper.h"
 #include "app/models/prompts.h"
 #include "app/storage/autobackups.h"
+#include "app/storage/bundle.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSet>
 
 namespace vl::app {
 
@@ -14,6 +17,11 @@ QString nameOf(const QString &path)
 {
     const QFileInfo info(path);
     return info.isDir() ? info.fileName() : info.completeBaseName();
+}
+
+QString beside(const QString &path, const QString &name)
+{
+    return QFileInfo(path).absoluteDir().filePath(name);
 }
 
 } // namespace
@@ -31,6 +39,7 @@ bool RepairFlow::offer(const QString &path, const QString &message)
         damaged.conflicts = repair->conflicts();
         damaged.fromWorkingCopy = repair->fromWorkingCopy();
         damaged.isRepairable = repair->isOfUse();
+        damaged.isCutOff = repair->isCutOff() && repair->fromWorkingCopy().isEmpty();
     }
     QString backupPath;
     const AutoBackups backups(path, m_locations, &summarizeBackup);
@@ -40,6 +49,8 @@ bool RepairFlow::offer(const QString &path, const QString &message)
         damaged.hasBackup = true;
         damaged.newestBackup = backup.time;
         backupPath = backup.path;
+        if (repair)
+            compareWithBackup(*repair, backupPath, damaged);
         break;
     }
     if (!damaged.isRepairable && !damaged.hasBackup)
@@ -57,9 +68,33 @@ bool RepairFlow::offer(const QString &path, const QString &message)
     return false;
 }
 
+/// The backup tells what the damaged files were, and which are missing where no list tells that.
+void RepairFlow::compareWithBackup(const ProjectRepair &repair, const QString &backupPath,
+                                   DamagedProject &damaged)
+{
+    const Result<ReadBundle> backup = readBundle(backupPath);
+    if (!backup)
+        return;
+    QSet<QString> leftOut;
+    for (const LeftOutFile &file : damaged.leftOut)
+        leftOut.insert(file.path);
+    for (ProjectFile &file : projectFilesIn(backup->archive)) {
+        const bool isMissing =
+            damaged.isCutOff && !leftOut.contains(file.path) && !repair.holds(file.path);
+        if (isMissing)
+            damaged.leftOut.push_back(
+                {file.path, tr("It is in the newest backup, and missing in this file.")});
+        if (isMissing || leftOut.contains(file.path)) {
+            file.bytes.detach(); // from the archive, which goes away
+            damaged.inBackup.insert(file.path, std::move(file.bytes));
+        }
+    }
+}
+
 bool RepairFlow::openBackup(const QString &path, const QString &backupPath)
 {
-    const QString target = m_prompts.chooseBundleToSave(tr("%1 (backup)").arg(nameOf(path)));
+    const QString target =
+        m_prompts.chooseBundleToSave(beside(path, tr("%1 (backup)").arg(nameOf(path))));
     if (target.isEmpty())
         return false;
     if (const Result<> copied = copyBackup(backupPath, target, m_locations); !copied)
@@ -69,8 +104,8 @@ bool RepairFlow::openBackup(const QString &path, const QString &backupPath)
 
 bool RepairFlow::openRepairedCopy(const ProjectRepair &repair)
 {
-    const QString target =
-        m_prompts.chooseBundleToSave(tr("%1 (repaired)").arg(nameOf(repair.path())));
+    const QString target = m_prompts.chooseBundleToSave(
+        beside(repair.path(), tr("%1 (repaired)").arg(nameOf(repair.path()))));
     if (target.isEmpty())
         return false;
     if (const Result<> written = repair.writeCopy(target); !written)

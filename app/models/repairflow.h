@@ -4,6 +4,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
+#include <QtCore/QHash>
 #include <QtCore/QString>
 
 #include <functional>
@@ -24,6 +25,9 @@ struct DamagedProject
     std::vector<LeftOutFile> leftOut;
     std::vector<ConflictingCopy> conflicts;
     QStringList fromWorkingCopy; ///< what a repaired copy takes from there
+    /// What is left out, as the newest backup has it; by the paths.
+    QHash<QString, QByteArray> inBackup;
+    bool isCutOff = false; ///< more may be missing than is known
 };
 
 /// What the user does about it.
@@ -57,6 +61,8 @@ public:
     bool offer(const QString &path, const QString &message);
 
 private:
+    static void compareWithBackup(const ProjectRepair &repair, const QString &backupPath,
+                                  DamagedProject &damaged);
     bool openBackup(const QString &path, const QString &backupPath);
     bool openRepairedCopy(const ProjectRepair &repair);
     bool setAside(const ProjectRepair &repair);

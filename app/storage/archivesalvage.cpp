@@ -20,6 +20,9 @@ const char centralSignature[] = {'P', 'K', 1, 2};
 constexpr qint64 localSize = 30;
 /// Summing what false headers claim ends after so many times the size of the archive.
 constexpr qint64 maxPasses = 8;
+/// What is left of a damaged file is for reading; no text is longer.
+constexpr qint64 maxRemains = 1 << 20;
+constexpr qsizetype mostRemains = 1000;
 
 quint32 crcOf(QByteArrayView bytes)
 {
@@ -116,6 +119,8 @@ private:
         const qint64 end = header->begin + header->size;
         if (!header->isStored || end > m_bytes.size()) {
             m_result.damaged.append(name);
+            if (header->isStored)
+                keepRemains(name, QByteArrayView(m_bytes).sliced(header->begin));
             return offset + 1;
         }
         m_budget -= header->size;
@@ -125,6 +130,7 @@ private:
             return end;
         }
         m_result.damaged.append(name);
+        keepRemains(name, data);
         // The header is a true one when another follows where it says that its data ends; then
         // what lies between is that file's, even where it looks like files of its own.
         const bool isTrue = hasSignature(m_bytes, end, localSignature)
@@ -142,6 +148,12 @@ private:
         } else if (QByteArray &bytes = m_result.files[*known].bytes; bytes != data) {
             m_result.repeated.push_back({name, std::exchange(bytes, data.toByteArray())});
         }
+    }
+
+    void keepRemains(const QString &name, QByteArrayView data)
+    {
+        if (data.size() <= maxRemains && m_result.remains.size() < mostRemains)
+            m_result.remains.insert(name, data.toByteArray());
     }
 
     const QByteArray &m_bytes;

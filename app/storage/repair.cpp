@@ -155,7 +155,8 @@ Result<> ProjectRepair::readBundleFile(const StorageLocations &locations)
     judge(std::move(read));
     for (const QString &name : std::as_const(salvaged.damaged))
         m_leftOut.push_back(
-            {name, RepairText::tr("Its bytes in the project file are damaged or missing.")});
+            {name, RepairText::tr("Its bytes in the project file are damaged or missing."),
+             salvaged.remains.value(name)});
     fillFromWorkingCopy(locations, salvaged.damaged, salvaged.isComplete);
     if (m_good.empty() && m_carried.empty())
         return failure(withPath(RepairText::tr("Nothing in this file can be read: %1"), m_path));
@@ -220,7 +221,7 @@ void ProjectRepair::judge(ProjectFiles files)
     for (std::size_t i = 0; i < files.size(); ++i) {
         const Result<LoadedProject> alone = loadProjectFiles(m_path, std::span(&files[i], 1));
         if (!alone) {
-            m_leftOut.push_back({files[i].path, alone.message()});
+            m_leftOut.push_back({files[i].path, alone.message(), files[i].bytes});
             isLeftOut[i] = true;
         } else if (!alone->files.empty() && !alone->files.front().id.isNull()) {
             const bool isObject = files[i].path.startsWith(objectsFolder() + u'/');
@@ -265,6 +266,12 @@ void ProjectRepair::leaveOutDuplicates(std::map<core::ContentId, std::vector<std
             m_conflicts.push_back({copy.path, files[kept].path, copy.bytes, files[kept].bytes});
         }
     }
+}
+
+bool ProjectRepair::holds(const QString &path) const
+{
+    return std::any_of(m_good.begin(), m_good.end(),
+                       [&path](const ProjectFile &file) { return file.path == path; });
 }
 
 Result<> ProjectRepair::writeCopy(const QString &givenPath) const

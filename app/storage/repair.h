@@ -19,6 +19,7 @@ struct LeftOutFile
 {
     QString path; ///< in the project
     QString reason;
+    QByteArray bytes = {}; ///< what is left of it, where anything can be read
 
     bool operator==(const LeftOutFile &) const = default;
 };
@@ -59,6 +60,11 @@ public:
     {
         return !m_leftOut.empty() || !m_fromWorkingCopy.isEmpty() || m_isSalvaged;
     }
+
+    /// Whether the list of what an archive held is lost, so that more may be missing than is known.
+    bool isCutOff() const { return m_isSalvaged; }
+    /// Whether a repaired copy has a file of this path, of those that the project is read from.
+    bool holds(const QString &path) const;
 
     /// Writes a copy that loads, as a ".vellum" file or as a folder by the ending of its path,
     /// where nothing stands yet or an empty folder.

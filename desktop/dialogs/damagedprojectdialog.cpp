@@ -39,6 +39,13 @@ DamagedProjectDialog::DamagedProjectDialog(app::DamagedProject project, QWidget 
     why->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     layout->addWidget(what);
     layout->addWidget(why);
+    if (m_project.isCutOff) {
+        auto *more = new QLabel(tr("The list of what the file holds is damaged or missing too: "
+                                   "more may be gone than can be named."),
+                                this);
+        more->setWordWrap(true);
+        layout->addWidget(more);
+    }
     if (m_project.leftOut.empty())
         static_cast<QVBoxLayout *>(layout)->addStretch(1);
     else
@@ -72,7 +79,7 @@ void DamagedProjectDialog::addFiles(QLayout *layout)
             conflict ? tr("%1 (a conflicting copy of “%2”)")
                            .arg(file.path,
                                 app::readableName(conflict->original, conflict->originalBytes))
-                     : file.path;
+                     : rowOf(file);
         auto *item = new QListWidgetItem(text, m_files);
         item->setToolTip(app::plainToolTip(file.reason));
     }
@@ -102,8 +109,29 @@ void DamagedProjectDialog::showFile(int row)
             app::readableVersions(conflict->originalBytes, conflict->bytes);
         m_details->show(versions.before, versions.after);
     } else {
-        m_details->showPlain(file.reason);
+        m_details->showPlain(detailsOf(file));
     }
+}
+
+/// What the file was, as far as the file itself or a backup tells that.
+QString DamagedProjectDialog::rowOf(const app::LeftOutFile &file) const
+{
+    QString name = app::readableName(file.path, m_project.inBackup.value(file.path));
+    if (name == file.path)
+        name = app::readableName(file.path, file.bytes);
+    return name == file.path ? file.path : tr("“%1” (%2)").arg(app::rowText(name), file.path);
+}
+
+QString DamagedProjectDialog::detailsOf(const app::LeftOutFile &file) const
+{
+    QStringList parts{file.reason};
+    if (const QString remains = app::readableRemains(file.bytes); !remains.isEmpty())
+        parts.append(tr("What can still be read of it:") + QStringLiteral("\n\n") + remains);
+    if (const auto backup = m_project.inBackup.constFind(file.path);
+        backup != m_project.inBackup.constEnd())
+        parts.append(tr("In the newest backup:") + QStringLiteral("\n\n")
+                     + app::readableFile(*backup));
+    return parts.join(QStringLiteral("\n\n"));
 }
 
 /// What each answer does stands beside it, which leaves room for the files on small screens.

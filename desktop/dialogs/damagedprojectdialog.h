@@ -29,6 +29,8 @@ private:
                    const QString &explanation);
     void showFile(int row);
     const app::ConflictingCopy *conflictOf(const QString &path) const;
+    QString rowOf(const app::LeftOutFile &file) const;
+    QString detailsOf(const app::LeftOutFile &file) const;
 
     app::DamagedProject m_project;
     app::DamageAnswer m_answer = app::DamageAnswer::Close;

@@ -125,8 +125,11 @@ QString DialogPrompts::chooseProjectFolderToOpen()
 
 QString DialogPrompts::chooseBundleToSave(const QString &suggestion)
 {
-    QString path = QFileDialog::getSaveFileName(m_window, tr("Save Project As"),
-                                                place().filePath(suggestion + bundleSuffix),
+    QString wanted = place().filePath(suggestion + bundleSuffix);
+    // A copy is one more, and never takes the place of another.
+    for (int i = 2; QDir::isAbsolutePath(suggestion) && QFileInfo::exists(wanted); ++i)
+        wanted = QStringLiteral("%1 %2%3").arg(suggestion, QString::number(i), bundleSuffix);
+    QString path = QFileDialog::getSaveFileName(m_window, tr("Save Project As"), wanted,
                                                 tr("Ivorel projects (*.vellum)"));
     if (!path.isEmpty() && !path.endsWith(bundleSuffix, Qt::CaseInsensitive)) {
         path += bundleSuffix;

@@ -77,6 +77,9 @@ private Q_SLOTS:
     void everyMemberHasWords_data();
     void everyMemberHasWords();
     void readableVersions();
+    void remains_data();
+    void remains();
+    void tellsWhatIsMissing();
 
 private:
     QString at(const QString &name) const { return m_folder->filePath(name); }
@@ -372,6 +375,59 @@ void TestRepair::flow()
     QVERIFY(!flows.open(at(QStringLiteral("nowhere"))));
     QCOMPARE(prompts.errors.size(), 1);
     QDir(backups.folder()).removeRecursively();
+}
+
+/// Of an archive that lost its end only a backup knows what else it held.
+void TestRepair::tellsWhatIsMissing()
+{
+    Settings settings(at(QStringLiteral("settings.ini")));
+    FakePrompts prompts;
+    Workspace workspace;
+    ProjectFlows flows(workspace, prompts, settings);
+    const QString bundle = at(QStringLiteral("novel.vellum"));
+    const QByteArray good = packed(wholeProject());
+    putFile(bundle, good);
+    const AutoBackups backups(bundle, StorageLocations::standard(), &summarizeBackup);
+    QVERIFY(backups.add({bundle, {}}, BackupReason::Opened));
+    putFile(bundle, good.first(good.indexOf(objectFile(2).toUtf8()) - 10));
+
+    QVERIFY(!flows.open(bundle));
+    QCOMPARE(prompts.damaged.size(), 1);
+    const DamagedProject &damaged = prompts.damaged.first();
+    QVERIFY(damaged.isCutOff);
+    QStringList paths;
+    for (const LeftOutFile &file : damaged.leftOut)
+        paths.append(file.path);
+    // In the order of the archive, which cuts before the first object.
+    QCOMPARE(paths, QStringList({objectFile(2), objectFile(1), QStringLiteral("project.json")}));
+    QCOMPARE(damaged.inBackup.value(objectFile(2)), documentBytes(2, QStringLiteral("two")));
+    QDir(backups.folder()).removeRecursively();
+}
+
+void TestRepair::remains_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    const QByteArray whole("{\"body\": \"Rain, \\\"and rain.\", \"title\": \"Dusk\"}");
+    QTest::newRow("in a text") << whole.first(16) << "Rain,\n";
+    QTest::newRow("behind a backslash") << whole.first(17) << "Rain, \n";
+    QTest::newRow("in a letter") << QByteArray("{\"body\": \"Caf\\u00") << "Caf\n";
+    QTest::newRow("in a letter of two bytes")
+        << QByteArray("{\"tags\": [\"a\", \"\xc3") << QStringLiteral("Tags: a, \uFFFD\n");
+    QTest::newRow("in a key") << whole.first(34) << "Rain, \"and rain.\n";
+    QTest::newRow("behind a colon") << whole.chopped(7) << "Rain, \"and rain.\n";
+    QTest::newRow("the rest never written") << whole.first(16) + QByteArray(500, '\0') << "Rain,\n";
+    QTest::newRow("nothing ever written") << QByteArray(500, '\0') << "";
+    QTest::newRow("nothing but its beginning") << QByteArray("{\n") << "";
+    const QByteArray marked = "<<<<<<< mine\n" + whole;
+    QTest::newRow("marks of a merge") << marked << QString::fromUtf8(marked);
+}
+
+void TestRepair::remains()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, text);
+    QCOMPARE(readableRemains(bytes), text);
 }
 
 void TestRepair::readableFiles_data()
