@@ -161,10 +161,15 @@ std::optional<ProjectFlows::Access> ProjectFlows::askAccess(const QString &path)
     return std::nullopt;
 }
 
+QString ProjectFlows::copyName(const QString &path)
+{
+    return tr("%1 (copy)").arg(QFileInfo(path).completeBaseName());
+}
+
 QString ProjectFlows::copyElsewhere(const QString &path)
 {
     QString target =
-        m_prompts.chooseBundleToSave(tr("%1 (copy)").arg(QFileInfo(path).completeBaseName()));
+        m_prompts.chooseBundleToSave(QFileInfo(path).absoluteDir().filePath(copyName(path)));
     if (target.isEmpty())
         return {};
     const Result<ProjectRepair> source = ProjectRepair::examine(path, StorageLocations::standard());
@@ -244,7 +249,9 @@ std::optional<OutsideChanges> ProjectFlows::askOutsideChanges()
 
 bool ProjectFlows::saveAs()
 {
-    const QString path = m_prompts.chooseBundleToSave(m_workspace.current().name());
+    const OpenProject &project = m_workspace.current();
+    const QString path = m_prompts.chooseBundleToSave(
+        project.isReadOnly() ? copyName(project.origin()) : project.name());
     if (path.isEmpty())
         return false;
     std::unique_ptr<ProjectLock> lock;

@@ -62,6 +62,8 @@ private:
         QString path; ///< of what is to be opened
     };
     std::optional<Access> askAccess(const QString &path);
+    /// What a copy of the project is called at first.
+    static QString copyName(const QString &path);
     QString copyElsewhere(const QString &path);
     /// Locks a place that is about to be saved to; false when somebody else has it open.
     bool lockToSave(const QString &path, std::unique_ptr<ProjectLock> &lock);

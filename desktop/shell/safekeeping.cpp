@@ -7,6 +7,7 @@
 #include "desktop/dialogs/externalchangesdialog.h"
 #include "desktop/shell/notices.h"
 
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QApplication>
 
 namespace vl::desktop {
@@ -16,6 +17,7 @@ namespace {
 constexpr int openingMilliseconds = 2000; // in which the window has the processor to itself
 const QLatin1String outsideNotice("outsideChanges");
 const QLatin1String mediaNotice("outsideMedia");
+const QLatin1String readOnlyNotice("readOnly");
 
 /// Nothing is put in place of what is under the user's hands: what is dragged or selected with the
 /// mouse, a menu, a dialog.
@@ -34,6 +36,7 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
 {
     connect(&context.workspace, &app::Workspace::projectReplaced, this,
             &SafeKeeping::followProject);
+    connect(&context.workspace, &app::Workspace::locationChanged, this, &SafeKeeping::tellReadOnly);
     m_outside.setMayChange(&areHandsFree);
     m_outside.watcher().setOpeningDelay(openingMilliseconds);
     connect(&m_outside, &app::OutsideMonitor::offerChanged, this, &SafeKeeping::showOffer);
@@ -70,6 +73,26 @@ void SafeKeeping::followProject()
     connect(m_autosave.get(), &app::AutosaveController::aboutToSave, &m_context.workspace,
             &app::Workspace::flush);
     m_autosave->start();
+    tellReadOnly();
+}
+
+/// Nobody writes for an hour into what is saved nowhere without having been told.
+void SafeKeeping::tellReadOnly()
+{
+    const app::OpenProject &project = m_context.workspace.current();
+    if (!project.isReadOnly()) {
+        m_context.notices.withdraw(readOnlyNotice);
+        return;
+    }
+    m_context.notices.ask(
+        readOnlyNotice,
+        tr("“%1” is open to be read only. What you change here is saved nowhere until you save "
+           "it under another name.")
+            .arg(QFileInfo(project.origin()).completeBaseName()),
+        {{tr("Save &As…"), [this] {
+              m_context.actions["file.saveAs"]->trigger();
+              tellReadOnly(); // stays while it is so
+          }}});
 }
 
 void SafeKeeping::check()

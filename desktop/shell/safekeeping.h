@@ -33,6 +33,7 @@ public:
 
 private:
     void followProject();
+    void tellReadOnly();
     void check();
     void showOffer();
     void askAbout(const app::OutsideOffer &offer);
