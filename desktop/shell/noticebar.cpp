@@ -6,6 +6,7 @@
 
 #include <QtGui/QAccessible>
 #include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -40,6 +41,10 @@ NoticeBar::NoticeBar(QWidget *parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *old, QWidget *now) {
+        if (old && now && isAncestorOf(now) && !isAncestorOf(old))
+            m_before = old;
+    });
     hide();
 }
 
@@ -60,6 +65,10 @@ void NoticeBar::withdraw(const QString &id)
     const auto found = m_rows.find(id);
     if (found == m_rows.end())
         return;
+    // Who answers in the middle of a sentence goes on with it.
+    const QWidget *focused = window()->focusWidget();
+    if (m_before && focused && found->second->isAncestorOf(focused))
+        m_before->setFocus(Qt::OtherFocusReason);
     found->second->hide();
     found->second->deleteLater(); // it may be the sender
     m_rows.erase(found);

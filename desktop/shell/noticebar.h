@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QList>
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 #include <functional>
@@ -39,6 +40,7 @@ private:
 
     QVBoxLayout *m_layout;
     std::map<QString, QWidget *> m_rows;
+    QPointer<QWidget> m_before; ///< where the focus was before it came here
 };
 
 } // namespace vl::desktop

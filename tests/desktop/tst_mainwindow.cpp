@@ -285,8 +285,14 @@ void TestMainWindow::noticesOfferAndAsk()
     ask(QStringLiteral("A file was changed."));
     ask(QStringLiteral("Two files were changed.")); // in place of the first
     QVERIFY(shownButton(QStringLiteral("Look")));
+    desk.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+    QWidget *before = desk.window.focusWidget();
+    QVERIFY(before);
+    shownButton(QStringLiteral("Look"))->setFocus(Qt::MouseFocusReason);
     shownButton(QStringLiteral("Look"))->click();
     QCOMPARE(answer, QStringLiteral("looked"));
+    QCOMPARE(desk.window.focusWidget(), before);
     QVERIFY(!shownButton(QStringLiteral("Look")));
     ask(QStringLiteral("A file was changed."));
     notices->withdraw(QStringLiteral("outside"));
