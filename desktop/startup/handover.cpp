@@ -56,6 +56,11 @@ void HandOver::bringForward()
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
+    // Behind an open dialog the window hears no key.
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
+        dialog->raise();
+        dialog->activateWindow();
+    }
 }
 
 void HandOver::next()

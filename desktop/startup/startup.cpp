@@ -178,7 +178,9 @@ void StartUp::reopenLast()
     if (m_settings.text(app::settings::reopenLast) == QLatin1String("false"))
         return;
     const QString latest = m_settings.recentProjects().value(0);
-    if (!latest.isEmpty() && QFileInfo::exists(latest))
+    // What has just been asked for and told not to open is not tried once more.
+    const QString asked = QDir::cleanPath(m_launch.options.projectPath);
+    if (!latest.isEmpty() && QDir::cleanPath(latest) != asked && QFileInfo::exists(latest))
         m_window->openProject(latest);
 }
 

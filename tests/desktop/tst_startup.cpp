@@ -285,6 +285,8 @@ void TestStartUp::opensWhatWasAskedFor_data()
     QTest::newRow("not the last one") << "" << true << false << false << 0;
     QTest::newRow("nothing") << "" << false << true << false << 0;
     QTest::newRow("given and missing") << "/no/such.vellum" << true << true << true << 1;
+    QTest::newRow("given and damaged, and the last one too")
+        << "damaged" << true << true << false << 1;
 }
 
 void TestStartUp::opensWhatWasAskedFor()
@@ -301,12 +303,17 @@ void TestStartUp::opensWhatWasAskedFor()
         if (isRecent)
             settings.addRecentProject(start.project);
     }
-    if (argument == QLatin1String("project"))
+    if (argument == QLatin1String("damaged")) {
+        QFile file(start.project);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write("none") == 4);
+    }
+    if (argument == QLatin1String("project") || argument == QLatin1String("damaged"))
         argument = start.project;
     const QString title =
         start.titleAfter(argument.isEmpty() ? QStringList() : QStringList{argument});
     QCOMPARE(title == QLatin1String("My Novel"), opens);
-    QCOMPARE(start.prompts.errors.size(), errors);
+    // One that does not load may have a backup to offer.
+    QCOMPARE(start.prompts.errors.size() + start.prompts.damaged.size(), errors);
 }
 
 void TestStartUp::capture_data()
