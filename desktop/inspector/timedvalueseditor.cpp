@@ -49,7 +49,7 @@ public:
         const bool isField = index.column() == TimedValuesModel::FieldColumn;
         const bool isValue = index.column() == TimedValuesModel::ValueColumn;
         if (isField || (isValue && type == core::FieldType::Choice))
-            return makeList(parent, index, isField);
+            return keep(makeList(parent, index, isField), option.widget, index);
         QWidget *editor = RowDelegate::createEditor(parent, option, index);
         if (auto *line = qobject_cast<QLineEdit *>(editor);
             line && isValue && type == core::FieldType::Reference)
@@ -132,7 +132,9 @@ TimedValuesEditor::TimedValuesEditor(const app::InspectorField &field,
     , m_hint(quietLabel({}, this))
 {
     m_table->setModel(m_rows);
-    m_table->setItemDelegate(new CellDelegate(context.references, *m_rows, m_table));
+    auto *cells = new CellDelegate(context.references, *m_rows, m_table);
+    m_table->setItemDelegate(cells);
+    connect(&context.panel.workspace, &app::Workspace::flushRequested, cells, &RowDelegate::commit);
     m_table->setRootIsDecorated(false);
     m_table->setUniformRowHeights(true);
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);

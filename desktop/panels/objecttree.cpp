@@ -2,6 +2,7 @@
 
 #include "app/models/objecttreemodel.h"
 #include "app/models/workspace.h"
+#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/emptystate.h"
 
 #include <QtGui/QDragMoveEvent>
@@ -46,6 +47,10 @@ ObjectTree::ObjectTree(app::Workspace &workspace, app::ObjectTreeModel *model, Q
     // A click on what is selected here makes it the selection of the window again.
     connect(this, &QAbstractItemView::clicked, this, &ObjectTree::selectInWorkspace);
     connect(&workspace, &app::Workspace::selectionChanged, this, &ObjectTree::followWorkspace);
+    connect(&workspace, &app::Workspace::flushRequested, this, [this] {
+        if (auto *rows = qobject_cast<RowDelegate *>(itemDelegate()))
+            rows->commit();
+    });
     connect(model, &QAbstractItemModel::modelReset, this, &ObjectTree::showProject);
     expandToDepth(0);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QStyledItemDelegate>
 
 namespace vl::desktop {
@@ -16,15 +17,26 @@ public:
     /// Rows for which this role is true are shown quieter as a whole.
     void setDimmedRole(int role) { m_dimmedRole = role; }
 
+    /// Hands in what was written in a cell so far, which stays open; Esc still takes it back.
+    void commit();
+
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
 
 protected:
+    /// To be called for an editor that a subclass makes itself.
+    QWidget *keep(QWidget *editor, const QWidget *view, const QModelIndex &index) const;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+    bool eventFilter(QObject *editor, QEvent *event) override;
 
 private:
     int m_dimmedRole = -1;
+    mutable QPointer<QWidget> m_editor; ///< of the cell that is open
+    mutable QString m_shown;            ///< what the cell held before it was written in
+    bool m_isCommitting = false;
+    mutable bool m_isHandedIn = false; ///< what is written, so far
 };
 
 } // namespace vl::desktop

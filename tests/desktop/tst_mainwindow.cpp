@@ -154,6 +154,24 @@ void TestMainWindow::theTreeMovesAndRenames()
     auto *field = desk.tree->viewport()->findChild<QLineEdit *>();
     QVERIFY(field);
     QCOMPARE(field->accessibleName(), QStringLiteral("Title"));
+    // A save hands in half a name, which is written on, and Esc still takes it back.
+    const QString title = first.data().toString();
+    QTest::keyClicks(field, QStringLiteral("Half a "));
+    desk.window.workspace().flush();
+    QCOMPARE(first.data().toString(), QStringLiteral("Half a"));
+    QCOMPARE(field->text(), QStringLiteral("Half a "));
+    QTest::keyClick(field, Qt::Key_Escape);
+    QTRY_VERIFY(!desk.tree->viewport()->findChild<QLineEdit *>());
+    QCOMPARE(first.data().toString(), title);
+    // What is written at an undo is the step that it takes back, and no later one.
+    QTest::keyClick(desk.tree, Qt::Key_F2);
+    field = desk.tree->viewport()->findChild<QLineEdit *>();
+    QTest::keyClicks(field, QStringLiteral("Undone"));
+    const auto steps = desk.window.workspace().history().undoCount();
+    desk.window.actions()["edit.undo"]->trigger();
+    QCOMPARE(first.data().toString(), title);
+    QCOMPARE(desk.window.workspace().history().undoCount(), steps);
+    QCOMPARE(field->text(), title);
     field->setText(QStringLiteral("Renamed"));
     QTest::keyClick(field, Qt::Key_Return);
     QTRY_COMPARE(desk.tree->model()->index(0, 0).data().toString(), QStringLiteral("Renamed"));
