@@ -38,6 +38,14 @@ QWidget *RowDelegate::keep(QWidget *editor, const QWidget *view, const QModelInd
     return editor;
 }
 
+// The view has let go of it by then, long before it is gone.
+void RowDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+{
+    if (editor == m_editor)
+        m_editor = nullptr;
+    QStyledItemDelegate::destroyEditor(editor, index);
+}
+
 void RowDelegate::commit()
 {
     const auto *line = qobject_cast<const QLineEdit *>(m_editor);
