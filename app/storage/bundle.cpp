@@ -126,7 +126,9 @@ Result<BundleSource> BundleSource::ofProject(ProjectFiles files, const QString &
                 continue;
             if (isOwnPath(path) || read.contains(path))
                 source.m_gone.append(pathInFolder(folder, path));
-            else
+            // What a sync client left beside an object keeps a project from being read, and a
+            // project that was open by then is copied without it.
+            else if (repositories == Repositories::Keep || !isReadPath(path))
                 source.m_items.push_back({std::move(path)});
         }
     }

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void leavesTheRepositoryBehind_data();
     void leavesTheRepositoryBehind();
     void savesAsTheFolderThatItIs();
+    void leavesConflictingCopiesBehind_data();
+    void leavesConflictingCopiesBehind();
     void ownSavesAreNoOutsideChanges_data();
     void ownSavesAreNoOutsideChanges();
     void queuedSaveWritesOverOthersWhenAllowed();
@@ -162,6 +164,38 @@ void TestOpenProject::savesAsTheFolderThatItIs()
     const auto again = OpenProject::open(folder);
     QVERIFY(again);
     QCOMPARE((*again)->project().size(), 0);
+}
+
+void TestOpenProject::leavesConflictingCopiesBehind_data()
+{
+    QTest::addColumn<QString>("target");
+    for (const char *target : {"copy", "copy.vellum"})
+        QTest::addRow("saved as %s", target) << target;
+}
+
+void TestOpenProject::leavesConflictingCopiesBehind()
+{
+    QFETCH(QString, target);
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("book"));
+    putFiles(folder, {{QStringLiteral("project.json"), "{\n}\n"}});
+    const auto open = OpenProject::open(folder);
+    QVERIFY(open);
+    const ContentId id = ContentId::create();
+    (*open)->push(std::make_unique<vl::core::AddObjectCommand>(
+        (*open)->project(), std::make_unique<Document>(id, DocumentKind::Prose, QString())));
+    QVERIFY((*open)->save());
+    const QString object = id.toString() + QStringLiteral(".json");
+    const QString copy = folder + QStringLiteral("/objects/(conflicted copy) ") + object;
+    QVERIFY(QFile::copy(folder + QStringLiteral("/objects/") + object, copy));
+
+    const QString path = dir.filePath(target);
+    QVERIFY(target.endsWith(QLatin1String(".vellum")) ? (*open)->saveAsBundle(path)
+                                                      : (*open)->saveAsFolder(path));
+    const auto again = OpenProject::open(path);
+    QVERIFY2(again, qPrintable(again ? QString() : again.message()));
+    QVERIFY((*again)->project().find(id));
+    QVERIFY(QFile::exists(copy));
 }
 
 void TestOpenProject::ownSavesAreNoOutsideChanges_data()
