@@ -60,9 +60,14 @@ void Workspace::redo()
 
 void Workspace::select(const QList<core::ContentId> &ids)
 {
-    if (ids == m_selection)
+    QList<core::ContentId> there = ids;
+    // A list may come to what is gone too, and not gone from it yet, when its own row goes.
+    there.removeIf([this](const core::ContentId &id) {
+        return !project().find(id) && !project().taxonomy().find(id);
+    });
+    if (there == m_selection)
         return;
-    m_selection = ids;
+    m_selection = there;
     Q_EMIT selectionChanged();
 }
 

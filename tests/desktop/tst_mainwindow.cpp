@@ -42,6 +42,7 @@ private Q_SLOTS:
     void nothingTypedIsLost();
     void oddCharactersSurviveTheWidget();
     void theTreeMovesAndRenames();
+    void nothingGoneIsSelected();
     void theTextHasTheFocus();
     void closingAsks();
     void theLayoutComesBack();
@@ -199,6 +200,25 @@ void TestMainWindow::theTreeMovesAndRenames()
     desk.window.actions()["doc.addTask"]->trigger();
     QCOMPARE(project.all<core::Task>().size(), size_t(1));
     QCOMPARE(project.all<core::Task>().front()->targetId(), current);
+}
+
+void TestMainWindow::nothingGoneIsSelected()
+{
+    Window desk;
+    app::Workspace &workspace = desk.window.workspace();
+    QList<core::ContentId> added;
+    {
+        const app::MacroScope step(workspace, QStringLiteral("Add two"));
+        for (int i = 0; i < 2; ++i)
+            added += app::DocumentOperations(workspace).add(DocumentKind::Prose, {});
+    }
+    workspace.select(added.first());
+    workspace.undo();
+    QCOMPARE(workspace.selection(), QList<core::ContentId>());
+    workspace.redo();
+    workspace.select(added.last());
+    workspace.undo();
+    QCOMPARE(workspace.selection(), QList<core::ContentId>());
 }
 
 void TestMainWindow::theTextHasTheFocus()
