@@ -122,8 +122,10 @@ QStringList Settings::recentProjects() const
 
 void Settings::addRecentProject(const QString &path)
 {
-    if (path.isEmpty())
+    // The list is kept as lines: a path that is two of them would come back as two others.
+    if (path.isEmpty() || path.contains(u'\n'))
         return;
+    m_store->sync(); // another window may have added one
     const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     QStringList list = recentProjects();
     list.removeAll(absolute);
@@ -135,6 +137,7 @@ void Settings::addRecentProject(const QString &path)
 
 void Settings::removeRecentProject(const QString &path)
 {
+    m_store->sync();
     QStringList list = recentProjects();
     if (list.removeAll(path) > 0)
         set(settings::recentProjects, list.join(u'\n'));

@@ -47,6 +47,7 @@ private Q_SLOTS:
     void opensWhatWasAskedFor();
     void capture_data();
     void capture();
+    void recentProjects();
     void settingsComeBack_data();
     void settingsComeBack();
     void faultySettings_data();
@@ -280,13 +281,14 @@ void TestStartUp::opensWhatWasAskedFor_data()
     QTest::addColumn<bool>("reopens");
     QTest::addColumn<bool>("opens");
     QTest::addColumn<int>("errors");
-    QTest::newRow("given") << "project" << false << false << true << 0;
-    QTest::newRow("the last one") << "" << true << true << true << 0;
-    QTest::newRow("not the last one") << "" << true << false << false << 0;
-    QTest::newRow("nothing") << "" << false << true << false << 0;
-    QTest::newRow("given and missing") << "/no/such.vellum" << true << true << true << 1;
+    QTest::addColumn<bool>("welcomes"); // who was never welcomed before
+    QTest::newRow("given") << "project" << false << false << true << 0 << false;
+    QTest::newRow("the last one") << "" << true << true << true << 0 << true;
+    QTest::newRow("not the last one") << "" << true << false << false << 0 << true;
+    QTest::newRow("nothing") << "" << false << true << false << 0 << true;
+    QTest::newRow("given and missing") << "/no/such.vellum" << true << true << true << 1 << true;
     QTest::newRow("given and damaged, and the last one too")
-        << "damaged" << true << true << false << 1;
+        << "damaged" << true << true << false << 1 << true;
 }
 
 void TestStartUp::opensWhatWasAskedFor()
@@ -296,6 +298,7 @@ void TestStartUp::opensWhatWasAskedFor()
     QFETCH(bool, reopens);
     QFETCH(bool, opens);
     QFETCH(int, errors);
+    QFETCH(bool, welcomes);
     Start start;
     {
         app::Settings settings(start.settingsFile);
@@ -314,6 +317,12 @@ void TestStartUp::opensWhatWasAskedFor()
     QCOMPARE(title == QLatin1String("My Novel"), opens);
     // One that does not load may have a backup to offer.
     QCOMPARE(start.prompts.errors.size() + start.prompts.damaged.size(), errors);
+    app::Settings settings(start.settingsFile);
+    const QString welcomed = QLatin1String(app::settings::welcomed.name);
+    QVERIFY(settings.contains(welcomed)); // as it was
+    settings.remove(welcomed);
+    start.titleAfter(argument.isEmpty() ? QStringList() : QStringList{argument});
+    QCOMPARE(settings.contains(welcomed), welcomes);
 }
 
 void TestStartUp::capture_data()
@@ -343,6 +352,31 @@ void TestStartUp::capture()
     const QImage image(picture);
     QCOMPARE(image.size(), startUp.window().size());
     QCOMPARE(start.prompts.errors.size(), errors);
+}
+
+void TestStartUp::recentProjects()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("settings.ini"));
+    app::Settings settings(file);
+    settings.addRecentProject(QString());
+    settings.addRecentProject(QStringLiteral("/books\n.vellum")); // would be two when it is read
+    QCOMPARE(settings.recentProjects(), QStringList());
+    settings.addRecentProject(QStringLiteral("/one/"));
+    settings.addRecentProject(QStringLiteral("two"));
+    settings.addRecentProject(QStringLiteral("/a/../one"));
+    const QString two = QDir::current().filePath(QStringLiteral("two"));
+    QCOMPARE(settings.recentProjects(), (QStringList{QStringLiteral("/one"), two}));
+
+    // Another window has opened one meanwhile.
+    QVERIFY(settings.areKept());
+    QFile other(file);
+    QVERIFY(other.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    other.write("[General]\nrecentProjects=/of the other window\n");
+    other.close();
+    settings.addRecentProject(QStringLiteral("/three"));
+    QCOMPARE(settings.recentProjects(),
+             (QStringList{QStringLiteral("/three"), QStringLiteral("/of the other window")}));
 }
 
 void TestStartUp::settingsComeBack_data()
