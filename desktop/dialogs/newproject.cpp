@@ -63,7 +63,7 @@ NewProjectDialog::NewProjectDialog(const QString &place, QWidget *parent)
     layout->setSpacing(grid(4));
     buildCards();
     layout->addWidget(m_cards, 1);
-    layout->addLayout(makeForm(place));
+    layout->addLayout(makeForm());
     m_result->setTextFormat(Qt::PlainText);
     m_result->setWordWrap(true);
     m_result->setForegroundRole(QPalette::PlaceholderText);
@@ -102,9 +102,8 @@ void NewProjectDialog::buildCards()
     m_cards->setCurrentRow(1); // most who come are writing a novel
 }
 
-QLayout *NewProjectDialog::makeForm(const QString &place)
+QLayout *NewProjectDialog::makeForm()
 {
-    Q_UNUSED(place)
     auto *form = new QGridLayout;
     form->setHorizontalSpacing(grid(2));
     form->setVerticalSpacing(grid(2));

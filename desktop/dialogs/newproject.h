@@ -25,7 +25,7 @@ public:
 
 private:
     void buildCards();
-    QLayout *makeForm(const QString &place);
+    QLayout *makeForm();
     void choosePlace();
     void update();
 

@@ -142,8 +142,8 @@ UpdatesPage::UpdatesPage(const PreferencesContext &context, QWidget *parent)
     auto *last = new QLabel(this);
     group->addRow(last);
     const auto show = [this, last] {
-        const QDateTime time = QDateTime::fromString(
-            settings().text(QStringLiteral("general/lastUpdateCheck")), Qt::ISODate);
+        const QDateTime time =
+            QDateTime::fromString(settings().text(app::settings::lastUpdateCheck), Qt::ISODate);
         last->setText(
             time.isValid()
                 ? tr("Last looked for on %1.").arg(QLocale().toString(time, QLocale::ShortFormat))

@@ -7,7 +7,6 @@ namespace vl::desktop {
 namespace {
 
 // clang-format off
-// clang-format off
 constexpr ToolkitText texts[] = {
     {"QAbstractFileIconProvider", QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Alias")},
     {"QAbstractFileIconProvider", QT_TRANSLATE_NOOP("QAbstractFileIconProvider", "Drive")},
@@ -178,7 +177,6 @@ constexpr ToolkitText texts[] = {
     {"QWidgetTextControl", QT_TRANSLATE_NOOP("QWidgetTextControl", "Delete")},
     {"QWidgetTextControl", QT_TRANSLATE_NOOP("QWidgetTextControl", "Select All")},
 };
-// clang-format on
 // clang-format on
 
 } // namespace
