@@ -7,6 +7,8 @@ namespace vl::app {
 Workspace::Workspace()
     : m_current(std::make_unique<OpenProject>())
 {
+    connect(this, &Workspace::typed, this, [this] { m_hasTyped = true; });
+    connect(this, &Workspace::flushRequested, this, [this] { m_hasTyped = false; });
     listen();
 }
 
@@ -19,6 +21,7 @@ void Workspace::replaceProject(std::unique_ptr<OpenProject> project)
     const std::unique_ptr<OpenProject> old = std::exchange(m_current, std::move(project));
     old->disconnect(this);
     m_selection.clear();
+    m_hasTyped = false;
     listen();
     Q_EMIT projectReplaced();
     Q_EMIT selectionChanged();

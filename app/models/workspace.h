@@ -49,6 +49,8 @@ public:
     /// Both flush first, so that what was typed last is what goes first.
     void undo();
     void redo();
+    /// Whether there is a step to take back, or something typed that may become one.
+    bool canUndo() const { return m_hasTyped || history().canUndo(); }
     /// Whether what changes now is an undone or redone step.
     bool isStepping() const { return m_isStepping; }
 
@@ -58,6 +60,8 @@ public:
     void select(const core::ContentId &id) { select(QList<core::ContentId>{id}); }
     /// Has the inspector shown, with the focus in it.
     void inspect() { Q_EMIT inspectRequested(); }
+    /// Has the editor shown, with the focus in it.
+    void write() { Q_EMIT writeRequested(); }
     /// Selects a document and has the editor show a place of its body with the selection laid over
     /// it; position and length are UTF-16 units, clamped to the text.
     void reveal(const core::ContentId &documentId, qsizetype position, qsizetype length);
@@ -77,6 +81,7 @@ Q_SIGNALS:
     void peekRequested(vl::app::PendingTexts &texts);
     void selectionChanged();
     void inspectRequested();
+    void writeRequested();
     /// The document is selected already when this comes.
     void revealRequested(const vl::core::ContentId &documentId, qsizetype position,
                          qsizetype length);
@@ -88,6 +93,7 @@ private:
     std::unique_ptr<OpenProject> m_current;
     QList<core::ContentId> m_selection;
     bool m_isStepping = false;
+    bool m_hasTyped = false; ///< since what was typed was handed in last
 };
 
 /// Opens a group of the history for the life of this object.

@@ -1,5 +1,6 @@
 #include "desktop/editor/findstrip.h"
 
+#include "app/models/workspace.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/editor/editorsession.h"
 #include "desktop/panels/editortextwidget.h"
@@ -27,6 +28,7 @@ constexpr qsizetype longestTaken = 200; // of a selection that becomes the patte
 FindStrip::FindStrip(const PanelContext &context, EditorSession *session, EditorTextWidget *text,
                      QWidget *parent)
     : QWidget(parent)
+    , m_workspace(context.workspace)
     , m_session(session)
     , m_text(text)
 {
@@ -156,6 +158,8 @@ void FindStrip::showFind()
     takeSelection();
     m_replaceRow->show();
     show();
+    if (!isVisible()) // the editor is closed, or behind another panel
+        m_workspace.write();
     m_pattern->setFocus();
     m_pattern->selectAll();
     search(AfterSearch::GoToFirst);

@@ -71,6 +71,7 @@ private:
     bool isSearching() const { return m_cancel != nullptr; }
     void cancelSearch();
 
+    app::Workspace &m_workspace;
     EditorSession *m_session;
     EditorTextWidget *m_text;
     QLineEdit *m_pattern = nullptr;

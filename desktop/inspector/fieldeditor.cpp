@@ -2,12 +2,14 @@
 
 #include "app/models/inspectormodel.h"
 #include "app/models/objecttexts.h"
+#include "app/models/workspace.h"
 #include "desktop/inspector/choiceeditors.h"
 #include "desktop/inspector/fieldlisteditor.h"
 #include "desktop/inspector/pictureseditor.h"
 #include "desktop/inspector/texteditors.h"
 #include "desktop/inspector/timedvalueseditor.h"
 #include "desktop/inspector/tokenseditor.h"
+#include "desktop/panels/panelcontext.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtGui/QKeyEvent>
@@ -115,6 +117,7 @@ void FieldEditor::touch()
     if (m_isShowing)
         return;
     m_isTyping = true;
+    Q_EMIT m_context.panel.workspace.typed();
     if (takesPauses())
         m_pause.start();
 }

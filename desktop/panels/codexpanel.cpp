@@ -22,7 +22,6 @@
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
-#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
@@ -83,6 +82,7 @@ CodexPanel::CodexPanel(const PanelContext &context, QWidget *parent)
     connect(m_model, &QAbstractItemModel::modelReset, this, &CodexPanel::updateEntries);
     connect(m_tree, &ObjectTree::selectionShown, this, &CodexPanel::updateEntries);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &CodexPanel::showContextMenu);
+    connect(m_tree, &ObjectTree::openRequested, this, &CodexPanel::openInInspector);
     connect(m_tree, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex &index) {
         if (!m_model->isCategory(index))
             openInInspector();
@@ -170,7 +170,6 @@ void CodexPanel::buildTree()
     m_tree->setItemDelegate(new CodexDelegate(m_tree));
     m_tree->setHeaderHidden(true);
     m_tree->setDragDropOverwriteMode(true); // rows stand by name: a drop is onto one, not between
-    m_tree->installEventFilter(this);
 }
 
 void CodexPanel::buildLayout()
@@ -200,18 +199,6 @@ void CodexPanel::buildLayout()
     layout->setSpacing(grid(1));
     layout->addLayout(bar);
     layout->addWidget(new TreePages(m_tree, nothing, noMatch, this));
-}
-
-bool CodexPanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_tree || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    // Enter that ends the editing of a name comes by here, too.
-    if ((key != Qt::Key_Return && key != Qt::Key_Enter) || !m_tree->hasFocus())
-        return QWidget::eventFilter(watched, event);
-    openInInspector();
-    return true;
 }
 
 void CodexPanel::updateEntries()

@@ -29,9 +29,6 @@ public:
     CodexPanel(const PanelContext &context, QWidget *parent);
     ~CodexPanel() override;
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     using Ids = QList<core::ContentId>;
     /// What an entry of the menus needs to be of use.

@@ -42,6 +42,8 @@ DocumentsPanel::DocumentsPanel(const PanelContext &context, QWidget *parent)
     bindActions();
     connect(m_tree, &QWidget::customContextMenuRequested, this, &DocumentsPanel::showContextMenu);
     connect(m_tree, &ObjectTree::selectionShown, this, &DocumentsPanel::updateActions);
+    connect(m_tree, &ObjectTree::openRequested, this, &DocumentsPanel::openInEditor);
+    connect(m_tree, &QAbstractItemView::doubleClicked, this, &DocumentsPanel::openInEditor);
     connect(m_model, &QAbstractItemModel::modelReset, this, &DocumentsPanel::showProject);
     updateActions();
 }
@@ -70,12 +72,18 @@ void DocumentsPanel::buildLayout()
         menu->addAction(m_context.actions[id]);
     QToolButton *add = makeMenuButton(tr("New ▾"), tr("New document or note"), menu, this);
     add->setToolTip(tr("Add a document or a note behind the selected one."));
+    auto *changes = new QMenu(this);
+    addChanges(changes);
+    QToolButton *more =
+        makeMenuButton(tr("More ▾"), tr("Change the selected documents"), changes, this);
     auto *bar = new QHBoxLayout;
     bar->setSpacing(grid(1));
     bar->addWidget(add);
+    bar->addWidget(more);
     QLineEdit *filter = m_tree->makeFilter(tr("Filter the documents by title"), this);
     bar->addWidget(filter, 1);
-    setTabOrder(add, filter);
+    setTabOrder(add, more);
+    setTabOrder(more, filter);
     setTabOrder(filter, m_tree);
 
     auto *nothing = new EmptyState(tr("The chapters and scenes of your manuscript stand here."),
@@ -155,6 +163,15 @@ void DocumentsPanel::updateActions()
         m_context.actions[id]->setEnabled(hasSelection);
 }
 
+void DocumentsPanel::addChanges(QMenu *menu)
+{
+    for (const char *id : {"doc.changeKind", "doc.unsupportedClaims", "doc.versionHistory"})
+        menu->addAction(m_context.actions[id]);
+    menu->addSeparator();
+    for (const char *id : {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote"})
+        menu->addAction(m_context.actions[id]);
+}
+
 void DocumentsPanel::showContextMenu(const QPoint &position)
 {
     QMenu menu(this);
@@ -170,11 +187,7 @@ void DocumentsPanel::showContextMenu(const QPoint &position)
     rename->setEnabled(!current.isNull());
     remove->setEnabled(!m_tree->selectedIds().isEmpty());
     menu.addSeparator();
-    for (const char *id : {"doc.changeKind", "doc.unsupportedClaims", "doc.versionHistory"})
-        menu.addAction(m_context.actions[id]);
-    menu.addSeparator();
-    for (const char *id : {"doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote"})
-        menu.addAction(m_context.actions[id]);
+    addChanges(&menu);
     menu.exec(m_tree->viewport()->mapToGlobal(position));
 }
 
@@ -225,6 +238,12 @@ void DocumentsPanel::addInside()
 {
     m_tree->rename(DocumentOperations(m_context.workspace)
                        .addChild(core::DocumentKind::Prose, m_tree->currentId()));
+}
+
+void DocumentsPanel::openInEditor()
+{
+    m_tree->selectInWorkspace();
+    m_context.workspace.write();
 }
 
 void DocumentsPanel::removeSelected()

@@ -6,6 +6,8 @@
 #include <QtCore/QList>
 #include <QtWidgets/QWidget>
 
+class QMenu;
+
 namespace vl::app {
 class DocumentsModel;
 }
@@ -32,6 +34,7 @@ private:
     void bindActions();
     void showProject();
     void updateActions();
+    void addChanges(QMenu *menu);
     void showContextMenu(const QPoint &position);
 
     void addDocument();
@@ -40,6 +43,7 @@ private:
     void addTask();
     void askKind();
     void removeSelected();
+    void openInEditor();
 
     PanelContext m_context;
     app::DocumentsModel *m_model;

@@ -197,10 +197,9 @@ void EditorPanel::restyle()
 void EditorPanel::showOpened()
 {
     const bool isOpen = m_session->live() != nullptr;
-    for (const char *id : {"doc.split", "text.strong", "text.emphasis", "edit.find", "edit.replace",
-                           "edit.findNext", "edit.findPrevious"})
-        m_context.actions[id]->setEnabled(isOpen);
-    for (const char *id : {"view.distractionFree", "view.pageLayout"})
+    for (const char *id :
+         {"doc.split", "text.strong", "text.emphasis", "edit.find", "edit.replace", "edit.findNext",
+          "edit.findPrevious", "view.distractionFree", "view.pageLayout"})
         m_context.actions[id]->setEnabled(isOpen);
     if (m_distractionFree && !isOpen)
         m_context.actions["view.distractionFree"]->setChecked(false);

@@ -128,6 +128,16 @@ bool ObjectTree::eventFilter(QObject *watched, QEvent *event)
     return true;
 }
 
+void ObjectTree::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // Enter that ends the editing of a name comes by here, too.
+    if (isEnter && hasFocus() && currentIndex().isValid())
+        Q_EMIT openRequested();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
 // --- selection
 
 QList<ContentId> ObjectTree::selectedIds() const

@@ -50,9 +50,12 @@ public:
 Q_SIGNALS:
     /// Other rows are selected, by the user's hand or the window's.
     void selectionShown();
+    /// Enter was pressed on a row.
+    void openRequested();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;

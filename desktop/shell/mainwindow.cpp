@@ -64,6 +64,8 @@ MainWindow::MainWindow(app::Settings &settings, app::Prompts *prompts)
         updateTitle();
         updateSteps();
     });
+    connect(&m_workspace, &app::Workspace::typed, m_actions["edit.undo"],
+            [this] { m_actions["edit.undo"]->setEnabled(true); });
     connect(&m_workspace, &app::Workspace::locationChanged, this, &MainWindow::updateTitle);
     connect(&m_workspace, &app::Workspace::saved, this, &MainWindow::tellSaved);
     connect(&m_workspace, &app::Workspace::saveFailed, this, &MainWindow::tellSaveFailed);
@@ -122,7 +124,10 @@ void MainWindow::bindActions()
     m_actions.bind("file.saveAs", this, [this] { tellPlace(m_flows.saveAs()); });
     m_actions.bind("file.saveAsFolder", this, [this] { tellPlace(m_flows.saveAsFolder()); });
     m_actions.bind("file.quit", this, &QWidget::close);
-    m_actions.bind("edit.undo", &m_workspace, &app::Workspace::undo);
+    m_actions.bind("edit.undo", this, [this] {
+        m_workspace.undo();
+        updateSteps(); // what was typed may have come to nothing
+    });
     m_actions.bind("edit.redo", &m_workspace, &app::Workspace::redo);
     m_actions.bind("view.nextPanel", m_panels, &PanelHost::focusNext);
     m_actions.bind("view.previousPanel", m_panels, &PanelHost::focusPrevious);
@@ -207,10 +212,10 @@ void MainWindow::updateSteps()
     const core::CommandStack &history = m_workspace.history();
     QAction *undo = m_actions["edit.undo"];
     QAction *redo = m_actions["edit.redo"];
-    // Undo stays reachable without a step: what is being typed becomes one when it is asked for.
     undo->setText(stepText(tr("&Undo"), history.undoText()));
     undo->setToolTip(stepText(tr("Undo"), history.undoText()));
     undo->setIconText(tr("Undo"));
+    undo->setEnabled(m_workspace.canUndo());
     redo->setText(stepText(tr("&Redo"), history.redoText()));
     redo->setToolTip(stepText(tr("Redo"), history.redoText()));
     redo->setIconText(tr("Redo"));

@@ -130,6 +130,8 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     }
     connect(&context.workspace, &app::Workspace::inspectRequested, this,
             [this] { showPanel(QStringLiteral("inspector")); });
+    connect(&context.workspace, &app::Workspace::writeRequested, this,
+            [this] { showPanel(QStringLiteral("editor")); });
     drawIcons();
     // A tab keeps the pixels of its icon, in the colour and the size they once had. Whoever applies
     // what the settings say goes first.

@@ -1,7 +1,10 @@
+#include "app/models/codexoperations.h"
 #include "app/models/documentoperations.h"
 #include "core/commands/documentcommands.h"
 #include "core/content/task.h"
+#include "desktop/inspector/fieldeditor.h"
 #include "desktop/panels/catalogue.h"
+#include "desktop/panels/documentspanel.h"
 #include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/icons.h"
 #include "desktop/shell/mainwindow.h"
@@ -14,6 +17,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
 
 using namespace vl;
@@ -38,12 +42,16 @@ class TestMainWindow : public QObject
 
 private Q_SLOTS:
     void everyActionIsUniqueAndBoundOrOff();
+    void undoIsOffWithNothingToTakeBack();
     void typingBecomesStepsOfTheHistory();
     void nothingTypedIsLost();
     void oddCharactersSurviveTheWidget();
     void theTreeMovesAndRenames();
     void nothingGoneIsSelected();
     void theTextHasTheFocus();
+    void aClosedPanelComesWhenItIsNeeded_data();
+    void aClosedPanelComesWhenItIsNeeded();
+    void theDocumentsOfferWhatCanBeDone();
     void closingAsks();
     void theLayoutComesBack();
     void noticesOfferAndAsk();
@@ -71,6 +79,38 @@ void TestMainWindow::everyActionIsUniqueAndBoundOrOff()
         QVERIFY2(desktop::iconNames().contains(QLatin1String(row.icon)), row.objectName);
     }
     QCOMPARE(size_t(panels.size()), desktop::panelCatalogue().size());
+}
+
+void TestMainWindow::undoIsOffWithNothingToTakeBack()
+{
+    Window desk;
+    const QAction *undo = desk.window.actions()["edit.undo"];
+    QVERIFY(!undo->isEnabled());
+    desk.add(QStringLiteral("Once"));
+    QVERIFY(undo->isEnabled());
+    while (desk.window.workspace().history().canUndo())
+        desk.window.actions()["edit.undo"]->trigger();
+    QVERIFY(!undo->isEnabled());
+
+    desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
+    desk.add(QStringLiteral("Once"));
+    desk.window.actions()["file.saveAsFolder"]->trigger();
+    QVERIFY(desk.window.openProject(desk.prompts.path));
+    QVERIFY(!undo->isEnabled());
+    QTRY_VERIFY(desk.text->hasFocus());
+    QTest::keyClicks(desk.text, QStringLiteral("x")); // no step yet
+    QVERIFY(!desk.window.workspace().history().canUndo() && undo->isEnabled());
+    desk.window.actions()["edit.undo"]->trigger();
+    QCOMPARE(desk.text->text(), QStringLiteral("Once"));
+    QVERIFY(!undo->isEnabled());
+    QTest::keyClicks(desk.text, QStringLiteral("x"));
+    QTest::keyClick(desk.text, Qt::Key_Backspace); // and it comes to nothing
+    desk.window.actions()["edit.undo"]->trigger();
+    QVERIFY(!undo->isEnabled());
+    for (const auto *field : desk.window.findChildren<desktop::FieldEditor *>())
+        if (field->key() == u"title" && field->isVisible())
+            QTest::keyClicks(field->focusProxy(), QStringLiteral("x"));
+    QVERIFY(!desk.window.workspace().history().canUndo() && undo->isEnabled());
 }
 
 void TestMainWindow::typingBecomesStepsOfTheHistory()
@@ -239,6 +279,72 @@ void TestMainWindow::theTextHasTheFocus()
     QVERIFY(filter);
     QTest::keyClick(filter, Qt::Key_Tab);
     QVERIFY(desk.tree->hasFocus());
+}
+
+void TestMainWindow::aClosedPanelComesWhenItIsNeeded_data()
+{
+    QTest::addColumn<QString>("from"); // the panel that has the focus
+    QTest::addColumn<QString>("by");
+    QTest::addColumn<QString>("to"); // the panel that has it then
+    QTest::newRow("Enter on a document") << "documentsTree"
+                                         << "Enter"
+                                         << "editor";
+    QTest::newRow("double click on a document") << "documentsTree"
+                                                << "double click"
+                                                << "editor";
+    QTest::newRow("Enter on an entity") << "codexTree"
+                                        << "Enter"
+                                        << "inspector";
+    QTest::newRow("double click on an entity") << "codexTree"
+                                               << "double click"
+                                               << "inspector";
+    QTest::newRow("find") << "documentsTree"
+                          << "edit.find"
+                          << "editor";
+}
+
+void TestMainWindow::aClosedPanelComesWhenItIsNeeded()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, by);
+    QFETCH(QString, to);
+    Window desk;
+    app::CodexOperations(desk.workspace).addEntity({}, QStringLiteral("Ann"));
+    desk.add(QStringLiteral("one"));
+    auto *dock = desk.window.findChild<QWidget *>(to);
+    auto *tree = desk.window.findChild<QTreeView *>(from);
+    QVERIFY(dock && tree && QMetaObject::invokeMethod(dock, "toggleView", Q_ARG(bool, false)));
+    QVERIFY(!dock->isVisible());
+    tree->setFocus();
+    const QModelIndex row = tree->model()->index(0, 0);
+    tree->setCurrentIndex(row);
+    const QPoint place = tree->visualRect(row).center();
+    if (by == u"Enter") {
+        QTest::keyClick(tree, Qt::Key_Return);
+    } else if (by == u"double click") {
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, place);
+    } else {
+        desk.window.actions()[by.toLatin1().constData()]->trigger();
+    }
+    QVERIFY(dock->isVisible());
+    QTRY_VERIFY(dock->isAncestorOf(QApplication::focusWidget()));
+}
+
+void TestMainWindow::theDocumentsOfferWhatCanBeDone()
+{
+    const Window desk;
+    QSet<QAction *> offered;
+    const auto *panel = desk.window.findChild<desktop::DocumentsPanel *>();
+    QVERIFY(panel);
+    for (const QToolButton *button : panel->findChildren<QToolButton *>())
+        if (button->menu())
+            for (QAction *action : button->menu()->actions())
+                offered.insert(action);
+    for (const char *id :
+         {"doc.add", "doc.addNote", "doc.addTask", "doc.changeKind", "doc.unsupportedClaims",
+          "doc.versionHistory", "doc.moveUp", "doc.moveDown", "doc.promote", "doc.demote"})
+        QVERIFY2(offered.contains(desk.window.actions()[id]), id);
 }
 
 void TestMainWindow::closingAsks()
