@@ -4,8 +4,8 @@
 #include "app/models/referencesmodel.h"
 #include "app/models/timedvaluesmodel.h"
 #include "app/models/workspace.h"
+#include "desktop/panels/celltree.h"
 #include "desktop/panels/panelcontext.h"
-#include "desktop/panels/rowdelegate.h"
 #include "desktop/shell/icons.h"
 #include "desktop/widgets/grid.h"
 
@@ -20,7 +20,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
 namespace vl::desktop {
@@ -128,7 +127,7 @@ TimedValuesEditor::TimedValuesEditor(const app::InspectorField &field,
                                      const FieldEditorContext &context, QWidget *parent)
     : FieldEditor(field, context, parent)
     , m_rows(new TimedValuesModel(context.panel.workspace, this))
-    , m_table(new QTreeView(this))
+    , m_table(new CellTree(this))
     , m_hint(quietLabel({}, this))
 {
     m_table->setModel(m_rows);

@@ -2,7 +2,6 @@
 
 #include "app/models/objecttreemodel.h"
 #include "app/models/workspace.h"
-#include "desktop/panels/rowdelegate.h"
 #include "desktop/widgets/emptystate.h"
 
 #include <QtGui/QDragMoveEvent>
@@ -22,7 +21,7 @@ constexpr int hoverDelay = 600; // ms until a branch opens under what is dragged
 } // namespace
 
 ObjectTree::ObjectTree(app::Workspace &workspace, app::ObjectTreeModel *model, QWidget *parent)
-    : QTreeView(parent)
+    : CellTree(parent)
     , m_workspace(workspace)
     , m_objects(model)
 {
@@ -113,14 +112,14 @@ void ObjectTree::applyFilter(const QString &text)
 bool ObjectTree::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != m_filter || event->type() != QEvent::KeyPress)
-        return QTreeView::eventFilter(watched, event);
+        return CellTree::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
     if (key == Qt::Key_Escape && !m_filter->text().isEmpty()) {
         m_filter->clear();
         return true;
     }
     if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Down)
-        return QTreeView::eventFilter(watched, event);
+        return CellTree::eventFilter(watched, event);
     if (const QModelIndex first = m_objects->firstMatch(); first.isValid()) {
         setFocus(Qt::OtherFocusReason);
         setCurrentIndex(first);
@@ -213,7 +212,7 @@ void ObjectTree::rename(const ContentId &id)
 
 void ObjectTree::dragMoveEvent(QDragMoveEvent *event)
 {
-    QTreeView::dragMoveEvent(event);
+    CellTree::dragMoveEvent(event);
     const QPersistentModelIndex hovered(indexAt(event->position().toPoint()).siblingAtColumn(0));
     if (hovered == m_hovered)
         return;
@@ -228,20 +227,20 @@ void ObjectTree::dragLeaveEvent(QDragLeaveEvent *event)
 {
     m_hoverTimer.stop();
     m_hovered = QModelIndex();
-    QTreeView::dragLeaveEvent(event);
+    CellTree::dragLeaveEvent(event);
 }
 
 void ObjectTree::dropEvent(QDropEvent *event)
 {
     m_hoverTimer.stop();
     m_hovered = QModelIndex();
-    QTreeView::dropEvent(event);
+    CellTree::dropEvent(event);
 }
 
 void ObjectTree::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() != m_hoverTimer.timerId()) {
-        QTreeView::timerEvent(event);
+        CellTree::timerEvent(event);
         return;
     }
     m_hoverTimer.stop();

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "core/id.h"
+#include "desktop/panels/celltree.h"
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QList>
 #include <QtCore/QPersistentModelIndex>
 #include <QtCore/QSet>
 #include <QtWidgets/QStackedWidget>
-#include <QtWidgets/QTreeView>
 
 class QLineEdit;
 
@@ -22,7 +22,7 @@ class EmptyState;
 
 /// A tree of the project's objects: what is selected here and what is selected in the window are
 /// one, a line of text filters it, and a branch opens when something is dragged over it.
-class ObjectTree final : public QTreeView
+class ObjectTree final : public CellTree
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 
 #include "desktop/shell/theme.h"
 
+#include <QtCore/QMetaProperty>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
@@ -12,6 +13,11 @@ namespace vl::desktop {
 namespace {
 
 constexpr double rowLines = 1.6;
+
+QVariant written(const QWidget &editor)
+{
+    return editor.metaObject()->userProperty().read(&editor);
+}
 
 } // namespace
 
@@ -32,6 +38,7 @@ QWidget *RowDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &
 QWidget *RowDelegate::keep(QWidget *editor, const QWidget *view, const QModelIndex &index) const
 {
     m_editor = editor;
+    m_shown = m_handedIn = {};
     const bool hasColumns = qobject_cast<const QTreeView *>(view);
     const QString column = index.model()->headerData(index.column(), Qt::Horizontal).toString();
     editor->setAccessibleName(hasColumns || !view ? column : view->accessibleName());
@@ -48,11 +55,11 @@ void RowDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
 
 void RowDelegate::commit()
 {
-    const auto *line = qobject_cast<const QLineEdit *>(m_editor);
-    if (!m_editor || (line && !line->isModified()))
+    // Once: where the rows are not told at once, an undo would be undone by the next.
+    if (!m_editor || written(*m_editor) == m_handedIn)
         return;
+    m_handedIn = written(*m_editor);
     const QScopedValueRollback<bool> committing(m_isCommitting, true);
-    m_isHandedIn = true;
     Q_EMIT commitData(m_editor);
 }
 
@@ -62,17 +69,15 @@ void RowDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
     if (m_isCommitting)
         return;
     QStyledItemDelegate::setEditorData(editor, index);
-    m_isHandedIn = false;
-    if (const auto *line = qobject_cast<const QLineEdit *>(editor))
-        m_shown = line->text();
+    m_shown = m_handedIn = written(*editor);
 }
 
 bool RowDelegate::eventFilter(QObject *editor, QEvent *event)
 {
     auto *line = qobject_cast<QLineEdit *>(editor);
-    if (line && m_isHandedIn && event->type() == QEvent::KeyPress
+    if (line && m_handedIn != m_shown && event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        line->setText(m_shown);
+        line->setText(m_shown.toString());
         Q_EMIT commitData(line);
     }
     return QStyledItemDelegate::eventFilter(editor, event);

@@ -19,6 +19,8 @@ public:
 
     /// Hands in what was written in a cell so far, which stays open; Esc still takes it back.
     void commit();
+    /// Whether a cell is being written in.
+    bool isOpen() const { return m_editor; }
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -35,9 +37,9 @@ protected:
 private:
     int m_dimmedRole = -1;
     mutable QPointer<QWidget> m_editor; ///< of the cell that is open
-    mutable QString m_shown;            ///< what the cell held before it was written in
+    mutable QVariant m_shown;           ///< what the cell held before it was written in
+    mutable QVariant m_handedIn;        ///< and what of that is handed in
     bool m_isCommitting = false;
-    mutable bool m_isHandedIn = false; ///< what is written, so far
 };
 
 } // namespace vl::desktop
