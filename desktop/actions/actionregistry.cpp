@@ -110,14 +110,19 @@ QString ActionRegistry::title(const QString &id)
                                   [&](const ActionRow &r) { return id == QLatin1String(r.id); });
     if (row == rows.end())
         return {};
-    const QString text = QCoreApplication::translate("Actions", row->text);
+    const QString text = withoutMnemonic(QCoreApplication::translate("Actions", row->text));
+    return text.endsWith(u'…') ? text.chopped(1) : text;
+}
+
+QString ActionRegistry::withoutMnemonic(const QString &text)
+{
     QString plain;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text.at(i) == u'&' && ++i == text.size())
-            break;
+        if (text.at(i) == u'&' && i + 1 < text.size())
+            ++i;
         plain += text.at(i);
     }
-    return plain.endsWith(u'…') ? plain.chopped(1) : plain;
+    return plain;
 }
 
 QString ActionRegistry::describe(const QAction &action)

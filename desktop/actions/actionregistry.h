@@ -47,6 +47,8 @@ public:
     /// The name of the action outside a menu: no mnemonic, no dots, and nothing of what it would
     /// be done to now. Empty for an unknown id.
     static QString title(const QString &id);
+    /// A text of a menu as it reads there.
+    static QString withoutMnemonic(const QString &text);
     /// What the tool tip of the action says, and its first key behind it.
     static QString describe(const QAction &action);
 

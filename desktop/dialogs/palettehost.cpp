@@ -21,25 +21,13 @@ const QLatin1String panelPrefix("panel.");
 const QLatin1String menuPrefix("menu.");
 const QString pathSeparator = QStringLiteral(" › ");
 
-/// A text of a menu as it reads there: without the mark of its mnemonic.
-QString plainText(const QString &text)
-{
-    QString plain;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'&' && i + 1 < text.size())
-            ++i;
-        plain.append(text[i]);
-    }
-    return plain;
-}
-
 /// The palette leads to a panel instead of closing one that is open.
 bool isPanelToggle(const QAction &action)
 {
     const auto rows = panelCatalogue();
     return action.isCheckable()
            && std::any_of(rows.begin(), rows.end(), [&action](const PanelRow &row) {
-                  return plainText(action.text())
+                  return ActionRegistry::withoutMnemonic(action.text())
                          == QCoreApplication::translate("Panels", row.title);
               });
 }
@@ -80,7 +68,7 @@ QList<app::QuickOpenCommand> PaletteHost::commands()
     const auto menus = m_window->menuBar()->actions();
     for (const QAction *entry : menus)
         if (const QMenu *menu = entry->menu())
-            addMenu(*menu, plainText(entry->text()), list);
+            addMenu(*menu, ActionRegistry::withoutMnemonic(entry->text()), list);
     for (QAction *action : m_context.actions.all())
         add(action, action->objectName(), {}, list);
     for (const PanelRow &row : panelCatalogue()) {
@@ -98,7 +86,7 @@ void PaletteHost::addMenu(const QMenu &menu, const QString &path,
 {
     const auto entries = menu.actions();
     for (QAction *entry : entries) {
-        const QString text = plainText(entry->text());
+        const QString text = ActionRegistry::withoutMnemonic(entry->text());
         if (const QMenu *below = entry->menu())
             addMenu(*below, path + pathSeparator + text, list);
         else if (!entry->objectName().isEmpty())
@@ -118,7 +106,7 @@ void PaletteHost::add(QAction *action, const QString &id, const QString &group,
         return;
     app::QuickOpenCommand command;
     command.id = id;
-    command.text = plainText(action->text());
+    command.text = ActionRegistry::withoutMnemonic(action->text());
     command.group = group;
     command.keywords = paletteWords(id);
     command.shortcut = action->shortcut().toString(QKeySequence::NativeText);

@@ -161,7 +161,19 @@ void TestLook::aThemeLeavesNothingOfTheOneBefore()
         QCOMPARE(text.palette().color(QPalette::Highlight),
                  desktop::textPaletteOf(theme).color(QPalette::Highlight));
         QCOMPARE(text.palette().color(QPalette::Base), QColor(theme.base));
-        QCOMPARE(QApplication::palette().color(QPalette::Highlight), QColor(theme.highlight));
+        const std::pair<QPalette::ColorRole, QRgb> roles[] = {
+            {QPalette::Window, theme.window},
+            {QPalette::WindowText, theme.windowText},
+            {QPalette::Base, theme.base},
+            {QPalette::Text, theme.text},
+            {QPalette::Button, theme.button},
+            {QPalette::ButtonText, theme.buttonText},
+            {QPalette::Highlight, theme.highlight},
+            {QPalette::HighlightedText, theme.highlightedText},
+            {QPalette::Link, theme.link},
+        };
+        for (const auto &[role, colour] : roles)
+            QCOMPARE(QApplication::palette().color(role), QColor(colour));
     }
     desktop::applyTheme(desktop::themeNamed(QStringLiteral("Light")));
 }

@@ -323,6 +323,11 @@ void TestStartUp::opensWhatWasAskedFor()
     settings.remove(welcomed);
     start.titleAfter(argument.isEmpty() ? QStringList() : QStringList{argument});
     QCOMPARE(settings.contains(welcomed), welcomes);
+    // Once everything stands there, and so long before it asks the server.
+    QVERIFY(!settings.contains(QLatin1String(app::settings::lastUpdateCheck.name)));
+    settings.set(app::settings::autoUpdateCheck, true);
+    start.titleAfter({});
+    QVERIFY(settings.contains(QLatin1String(app::settings::lastUpdateCheck.name)));
 }
 
 void TestStartUp::capture_data()
@@ -331,6 +336,7 @@ void TestStartUp::capture_data()
     QTest::addColumn<int>("errors");
     QTest::newRow("a project") << "My Novel.vellum" << 0;
     QTest::newRow("one that is not there") << "None.vellum" << 1;
+    QTest::newRow("none, though there is a last one") << "" << 0;
 }
 
 void TestStartUp::capture()
@@ -341,9 +347,12 @@ void TestStartUp::capture()
     start.prompts.leavesErrors = true;
     const QString picture = start.dir.filePath(QStringLiteral("shot.png"));
     app::Settings settings(start.settingsFile);
-    StartUp startUp(Launch::from({QStringLiteral("ivorel"), QStringLiteral("--capture"), picture,
-                                  start.dir.filePath(project)}),
-                    settings, &start.prompts);
+    settings.remove(QLatin1String(app::settings::welcomed.name));
+    settings.addRecentProject(start.project);
+    QStringList arguments{QStringLiteral("ivorel"), QStringLiteral("--capture"), picture};
+    if (!project.isEmpty())
+        arguments.append(start.dir.filePath(project));
+    StartUp startUp(Launch::from(arguments), settings, &start.prompts);
     const QString name = freshName();
     const SingleInstanceServer running(name);
     QVERIFY(!startUp.handOver(name)); // though somebody listens
@@ -352,6 +361,9 @@ void TestStartUp::capture()
     const QImage image(picture);
     QCOMPARE(image.size(), startUp.window().size());
     QCOMPARE(start.prompts.errors.size(), errors);
+    QCOMPARE(startUp.window().windowTitle().startsWith(QLatin1String("My Novel")),
+             project.startsWith(QLatin1String("My Novel")));
+    QVERIFY(!settings.contains(QLatin1String(app::settings::welcomed.name)));
 }
 
 void TestStartUp::recentProjects()
