@@ -115,6 +115,22 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
                     floating->addAction(action);
             });
 
+    makeDocks(context);
+    connect(&context.workspace, &app::Workspace::inspectRequested, this,
+            [this] { showPanel(QStringLiteral("inspector")); });
+    connect(&context.workspace, &app::Workspace::writeRequested, this,
+            [this] { showPanel(QStringLiteral("editor")); });
+    drawIcons();
+    followSettings(context.settings);
+    m_firstLayout = saveLayout();
+    stretchCentre();
+    sizeAreas();
+}
+
+PanelHost::~PanelHost() = default;
+
+void PanelHost::makeDocks(const PanelContext &context)
+{
     // The middle first: the sides are split off from it.
     for (const DockSide side : {DockSide::Center, DockSide::Left, DockSide::LeftBelow,
                                 DockSide::Right, DockSide::Bottom}) {
@@ -128,15 +144,14 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
             nameButtons(dock);
         }
     }
-    connect(&context.workspace, &app::Workspace::inspectRequested, this,
-            [this] { showPanel(QStringLiteral("inspector")); });
-    connect(&context.workspace, &app::Workspace::writeRequested, this,
-            [this] { showPanel(QStringLiteral("editor")); });
-    drawIcons();
+}
+
+void PanelHost::followSettings(const app::Settings &settings)
+{
     // A tab keeps the pixels of its icon, in the colour and the size they once had. Whoever applies
     // what the settings say goes first.
     connect(
-        &context.settings.changes(), &app::SettingsChanges::changed, this,
+        &settings.changes(), &app::SettingsChanges::changed, this,
         [this](const QString &key) {
             const bool isScale = key == QLatin1String(app::settings::fontScale.name);
             if (!isScale && key != QLatin1String(app::settings::theme.name))
@@ -149,12 +164,7 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
                 sizeAreas();
         },
         Qt::QueuedConnection);
-    m_firstLayout = saveLayout();
-    stretchCentre();
-    sizeAreas();
 }
-
-PanelHost::~PanelHost() = default;
 
 void PanelHost::drawIcons()
 {

@@ -57,6 +57,8 @@ public:
     void focusPrevious() { moveFocus(-1); }
 
 private:
+    void makeDocks(const PanelContext &context);
+    void followSettings(const app::Settings &settings);
     void drawIcons();
     void moveFocus(int step);
     void place(ads::CDockWidget *dock, const PanelRow &row);

@@ -41,6 +41,10 @@ inline constexpr double quietAmount = 0.72;
 /// guidelines reckon it.
 double contrast(const QColor &a, const QColor &b);
 
+/// What text needs against its ground in these colours: 7 where they are made for contrast,
+/// else 4.5; a little more, for rounding.
+double textContrast(const QPalette &palette);
+
 /// The colour of the ring round what has the focus: the highlight, made strong enough to be seen.
 QColor focusColour(const QPalette &palette);
 
@@ -55,10 +59,6 @@ struct DifferenceColours
     QColor removedWord; ///< stronger, for what differs within such a line
     QColor addedWord;
 };
-/// What text needs against its ground in these colours: 7 where they are made for contrast,
-/// else 4.5; a little more, for rounding.
-double textContrast(const QPalette &palette);
-
 DifferenceColours differenceColours(const QPalette &palette);
 
 } // namespace vl::desktop

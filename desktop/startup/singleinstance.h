@@ -20,9 +20,9 @@ QString singleInstanceServerName(const QString &userName);
 /// The user's name as the environment has it, empty when it has none.
 QString environmentUserName();
 
-/// Hands a message to the process that listens on the name: true when one took it. Gives up when
-/// connecting takes 300 ms or writing 1000 ms. A listener of another user counts
-/// as none, and so does everybody when the message holds a line feed, which ends a message.
+/// Hands a message to the process that listens on the name: false when none does, which is found
+/// out in 300 ms; one that is there has 1000 ms to take the message. A listener of another user
+/// counts as none, and so does everybody when the message holds a line feed, which ends a message.
 bool sendToRunningInstance(const QString &serverName, const QString &message);
 
 /// One message with its line feed, as it goes over the socket; and back again from bytes that hold
