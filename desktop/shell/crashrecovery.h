@@ -27,6 +27,8 @@ public:
 
     /// The window closes; what the user did not save is given up.
     void closing() { m_journal.giveUp(); }
+    /// The program ends without a question; all that is not saved is on the disk when this returns.
+    void cutOff() { m_journal.finish(); }
 
 private:
     enum class Look

@@ -228,10 +228,22 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    m_settings.setBytes(geometryKey, saveGeometry());
-    m_layouts->saveSession();
+    keepLook();
     m_care->closing();
     event->accept();
+}
+
+void MainWindow::keepLook()
+{
+    m_settings.setBytes(geometryKey, saveGeometry());
+    m_layouts->saveSession();
+}
+
+void MainWindow::keepAll()
+{
+    m_workspace.flush();
+    m_care->cutOff();
+    keepLook();
 }
 
 } // namespace vl::desktop

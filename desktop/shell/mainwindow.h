@@ -31,6 +31,9 @@ public:
 
     /// Opens a project, telling the user when it does not load.
     bool openProject(const QString &path);
+    /// Keeps what was written and how the window looks, for a program that has to end without
+    /// asking anything.
+    void keepAll();
     app::Workspace &workspace() { return m_workspace; }
     app::ProjectFlows &flows() { return m_flows; }
     app::Prompts &prompts() { return m_prompts; }
@@ -47,6 +50,7 @@ private:
     void bindActions();
     void buildMenus();
     void restoreWindow();
+    void keepLook();
     void updateTitle();
     void updateSteps();
     void tellSaved();

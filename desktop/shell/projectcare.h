@@ -29,6 +29,8 @@ public:
 
     /// The window closes; what the user did not save is given up.
     void closing() { m_crash.closing(); }
+    /// The program ends without a question; what the user did not save is offered the next time.
+    void cutOff() { m_crash.cutOff(); }
 
 private:
     void followSettings();

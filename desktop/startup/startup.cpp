@@ -5,6 +5,7 @@
 #include "desktop/shell/icons.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/notices.h"
+#include "desktop/startup/endsignals.h"
 #include "desktop/startup/handover.h"
 #include "desktop/startup/updatecheck.h"
 #include "desktop/startup/updatestatus.h"
@@ -92,6 +93,12 @@ void StartUp::showWindow()
         connect(m_server.get(), &SingleInstanceServer::messageReceived, m_handOver,
                 &HandOver::receive);
     offerUpdates();
+    m_endSignals = std::make_unique<EndSignals>();
+    connect(m_endSignals.get(), &EndSignals::asked, this, [this] {
+        // Nobody is there to answer a question: what is not saved is offered the next time.
+        m_window->keepAll();
+        QCoreApplication::exit();
+    });
 
     m_window->installEventFilter(this);
     QTimer::singleShot(paintMilliseconds, this, &StartUp::afterFirstPaint);

@@ -17,6 +17,7 @@ class Prompts;
 namespace vl::desktop {
 
 class CaretRest;
+class EndSignals;
 class FocusRing;
 class HandOver;
 class MainWindow;
@@ -81,6 +82,7 @@ private:
     std::unique_ptr<FocusRing> m_focusRing;
     std::unique_ptr<CaretRest> m_caretRest;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<EndSignals> m_endSignals;
     HandOver *m_handOver = nullptr;
     UpdateCheck *m_updates = nullptr;
     bool m_hasPainted = false;

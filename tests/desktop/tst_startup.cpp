@@ -1,5 +1,9 @@
 #include "app/base/settingskeys.h"
 #include "app/storage/openproject.h"
+#include "app/storage/workingcopy.h"
+#include "core/commands/objectcommands.h"
+#include "core/content/document.h"
+#include "desktop/panels/editortextwidget.h"
 #include "desktop/shell/mainwindow.h"
 #include "desktop/shell/noticebar.h"
 #include "desktop/startup/handover.h"
@@ -13,6 +17,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
+
+#include <csignal>
 
 using namespace vl;
 using namespace vl::desktop;
@@ -43,6 +49,7 @@ private Q_SLOTS:
     void handOverDialogAsWorded();
     void aRunningWindowTakesOver();
 
+    void theEndOfTheSessionLosesNothing();
     void opensWhatWasAskedFor_data();
     void opensWhatWasAskedFor();
     void capture_data();
@@ -272,6 +279,49 @@ void TestStartUp::aRunningWindowTakesOver()
         Launch::from({QStringLiteral("ivorel"), QStringLiteral("--new-instance"), other}),
         laterSettings, &start.prompts);
     QVERIFY(!newWindow.handOver(name));
+}
+
+void TestStartUp::theEndOfTheSessionLosesNothing()
+{
+#ifdef Q_OS_LINUX
+    Start start;
+    const QString words = QStringLiteral("Last words ") + start.dir.path().right(6);
+    {
+        app::OpenProject project;
+        project.push(std::make_unique<core::AddObjectCommand>(
+            project.project(),
+            std::make_unique<core::Document>(core::ContentId::create(), core::DocumentKind::Prose,
+                                             QStringLiteral("A"))));
+        QVERIFY(project.saveAsBundle(start.project));
+    }
+    {
+        app::Settings settings(start.settingsFile);
+        StartUp startUp(Launch::from({QStringLiteral("ivorel"), start.project}), settings,
+                        &start.prompts);
+        QVERIFY(!startUp.handOver(freshName()));
+        startUp.showWindow();
+        const QSignalSpy done(&startUp, &StartUp::done);
+        QTRY_COMPARE(done.size(), 1);
+        MainWindow &window = startUp.window();
+        window.workspace().select(window.workspace().project().all<core::Document>()[0]->id());
+        QTest::keyClicks(window.findChild<EditorTextWidget *>(), words);
+        QTimer::singleShot(0, [] { std::raise(SIGTERM); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(window.workspace().current().isDirty());
+    }
+    QCOMPARE(start.prompts.questions, QStringList()); // nobody was there to answer
+    app::Settings settings(start.settingsFile);
+    QVERIFY(!settings.bytes(QStringLiteral("general/layout")).isEmpty());
+    const QDir working(app::StorageLocations::standard().workingFolder());
+    bool isKept = false;
+    for (const QFileInfo &journal : working.entryInfoList({QStringLiteral("*.journal")})) {
+        QFile file(journal.filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        if (file.readAll().contains(words.toUtf8()))
+            isKept = file.remove();
+    }
+    QVERIFY(isKept);
+#endif
 }
 
 void TestStartUp::opensWhatWasAskedFor_data()
