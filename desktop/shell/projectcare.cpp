@@ -99,8 +99,10 @@ void ProjectCare::backUpNow()
 
 void ProjectCare::showBackups()
 {
-    if (!m_context.workspace.current().hasLocation() && !m_flows.saveAs())
+    if (!m_context.workspace.current().hasLocation()) {
+        m_context.notices.show(tr("The project is not saved yet: it has no backups."));
         return;
+    }
     BackupsDialog dialog(m_backups.backups(), m_window);
     m_list = &dialog;
     QString copied;
