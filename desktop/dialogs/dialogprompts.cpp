@@ -2,12 +2,12 @@
 
 #include "app/storage/lock.h"
 #include "desktop/dialogs/damagedprojectdialog.h"
+#include "desktop/widgets/breakable.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
-#include <QtCore/QRegularExpression>
 #include <QtGui/QScreen>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
@@ -23,13 +23,6 @@ namespace {
 const QLatin1String bundleSuffix(".vellum");
 constexpr int boxSteps = 80; ///< the least width of the text in a box
 constexpr int fieldSteps = 90;
-
-/// The text with places to break its paths at, which may be longer than a line; dates stay whole.
-QString breakable(const QString &text)
-{
-    static const QRegularExpression slash(QStringLiteral("(?<!\\d)/|/(?!\\d)"));
-    return QString(text).replace(slash, QStringLiteral("/\u200b"));
-}
 
 /// A question or notice. Names that the user gave stand in it, so that nothing is taken for markup.
 class Box final : public QMessageBox

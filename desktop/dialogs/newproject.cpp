@@ -3,6 +3,7 @@
 #include "app/story/projecttemplates.h"
 #include "desktop/dialogs/carddelegate.h"
 #include "desktop/shell/icons.h"
+#include "desktop/widgets/breakable.h"
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QDir>
@@ -47,8 +48,9 @@ QIcon iconOf(const QString &templateId)
 
 } // namespace
 
-NewProjectDialog::NewProjectDialog(const QString &place, QWidget *parent)
+NewProjectDialog::NewProjectDialog(const QString &place, Make make, QWidget *parent)
     : QDialog(parent)
+    , m_make(std::move(make))
     , m_cards(new QListWidget(this))
     , m_name(new QLineEdit(this))
     , m_place(new QLineEdit(QDir::toNativeSeparators(place), this))
@@ -74,7 +76,7 @@ NewProjectDialog::NewProjectDialog(const QString &place, QWidget *parent)
     m_create = buttons->addButton(tr("&Create"), QDialogButtonBox::AcceptRole);
     m_create->setDefault(true);
     layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NewProjectDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_cards, &QListWidget::itemActivated, m_name, qOverload<>(&QWidget::setFocus));
     for (QLineEdit *field : {m_name, m_place})
@@ -133,6 +135,8 @@ QLayout *NewProjectDialog::makeForm()
     form->addWidget(new QLabel(tr("Saved as:"), this), 2, 0);
     form->addLayout(kinds, 2, 1, 1, 2);
     form->setColumnStretch(1, 1);
+    setTabOrder(m_place, browse);
+    setTabOrder(browse, m_file);
     return form;
 }
 
@@ -145,6 +149,12 @@ app::NewProject NewProjectDialog::wanted() const
     wanted.place = QDir::fromNativeSeparators(m_place->text().trimmed());
     wanted.isFolder = m_folder->isChecked();
     return wanted;
+}
+
+void NewProjectDialog::accept()
+{
+    if (m_make(wanted()))
+        QDialog::accept();
 }
 
 void NewProjectDialog::choosePlace()
@@ -162,7 +172,7 @@ void NewProjectDialog::update()
     if (m_name->text().trimmed().isEmpty())
         m_result->setText(tr("Give the project a name; it can be changed later."));
     else
-        m_result->setText(path ? QDir::toNativeSeparators(*path) : path.message());
+        m_result->setText(breakable(path ? QDir::toNativeSeparators(*path) : path.message()));
 }
 
 } // namespace vl::desktop

@@ -4,6 +4,8 @@
 
 #include <QtWidgets/QDialog>
 
+#include <functional>
+
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -18,10 +20,14 @@ class NewProjectDialog final : public QDialog
     Q_OBJECT
 
 public:
+    /// Makes the project, or tells why it cannot be made; then the dialog stays as it is.
+    using Make = std::function<bool(const app::NewProject &)>;
+
     /// `place` is the folder that is suggested.
-    NewProjectDialog(const QString &place, QWidget *parent);
+    NewProjectDialog(const QString &place, Make make, QWidget *parent);
 
     app::NewProject wanted() const;
+    void accept() override;
 
 private:
     void buildCards();
@@ -29,6 +35,7 @@ private:
     void choosePlace();
     void update();
 
+    Make m_make;
     QListWidget *m_cards;
     QLineEdit *m_name;
     QLineEdit *m_place;

@@ -40,13 +40,14 @@ void ProjectTools::newProject()
     QString place = m_context.settings.text(app::settings::newProjectPlace);
     if (place.isEmpty() || !QFileInfo(place).isDir())
         place = app::ProjectMaker::suggestedPlace();
-    auto *dialog = new NewProjectDialog(place, m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
-        const app::NewProject wanted = dialog->wanted();
-        if (m_flows.create(wanted))
+    const auto make = [this](const app::NewProject &wanted) {
+        const bool isMade = m_flows.create(wanted);
+        if (isMade)
             m_context.settings.set(app::settings::newProjectPlace, wanted.place);
-    });
+        return isMade;
+    };
+    auto *dialog = new NewProjectDialog(place, make, m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
 

@@ -104,8 +104,21 @@ void TestWelcome::aProjectIsMade()
     QVERIFY(name);
     QTest::keyClicks(name, QStringLiteral("a/b"));
     QVERIFY(!create->isEnabled());
+    // What cannot be made leaves everything as it was filled in.
+    auto *place = dialog->findChildren<QLineEdit *>().constLast();
     name->setText(QStringLiteral("Tale"));
+    place->setText(QStringLiteral("/dev/null/none"));
     QVERIFY(create->isEnabled());
+    QTest::keyClick(name, Qt::Key_Return);
+    QCOMPARE(std::exchange(desk.prompts.errors, {}).size(), 1);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(name->text(), QStringLiteral("Tale"));
+    // Nor does a long name without a gap pull the dialog apart.
+    place->setText(desk.dir.path());
+    name->setText(QString(120, u'W'));
+    QVERIFY(create->isEnabled());
+    QVERIFY(dialog->minimumSizeHint().width() <= dialog->width());
+    name->setText(QStringLiteral("Tale"));
     QTest::keyClick(name, Qt::Key_Return);
     QCOMPARE(desk.prompts.errors, QStringList());
     QCOMPARE(desk.window.workspace().current().path(),
