@@ -81,6 +81,8 @@ constexpr ActionRow rows[] = {
     {"view.saveLayout", QT_TRANSLATE_NOOP("Actions", "&Save Current Layout As…"), Menu::Layouts, noKey, "", true},
     {"view.deleteLayout", QT_TRANSLATE_NOOP("Actions", "&Delete Perspective…"), Menu::Layouts, noKey, "", false},
     {"view.resetLayout", QT_TRANSLATE_NOOP("Actions", "&Reset Layout"), Menu::Layouts, noKey, "", false},
+    {"view.floatPanel", QT_TRANSLATE_NOOP("Actions", "&Float Panel"), Menu::Layouts, noKey, "", true},
+    {"view.dockPanels", QT_TRANSLATE_NOOP("Actions", "Doc&k Floating Panels"), Menu::Layouts, noKey, "", false},
     {"view.nextPanel", QT_TRANSLATE_NOOP("Actions", "Ne&xt Panel"), Menu::Layouts, noKey, "F6; Ctrl+Tab", true},
     {"view.previousPanel", QT_TRANSLATE_NOOP("Actions", "Pre&vious Panel"), Menu::Layouts, noKey, "Shift+F6; Ctrl+Shift+Tab", false},
 

@@ -49,6 +49,8 @@ constexpr Words table[] = {
     {"view.distractionFree", QT_TRANSLATE_NOOP("PaletteWords", "focus mode, zen, full screen, composition mode")},
     {"view.pageLayout", QT_TRANSLATE_NOOP("PaletteWords", "print preview, pages")},
     {"view.resetLayout", QT_TRANSLATE_NOOP("PaletteWords", "restore panels, default windows")},
+    {"view.floatPanel", QT_TRANSLATE_NOOP("PaletteWords", "detach, undock, own window")},
+    {"view.dockPanels", QT_TRANSLATE_NOOP("PaletteWords", "attach, put back")},
     {"view.saveLayout", QT_TRANSLATE_NOOP("PaletteWords", "workspace, perspective")},
     {"help.welcome", QT_TRANSLATE_NOOP("PaletteWords", "start page, tutorial, sample, example")},
     {"help.checkUpdates", QT_TRANSLATE_NOOP("PaletteWords", "upgrade, new version")},

@@ -135,6 +135,7 @@ void MainWindow::bindActions()
     m_actions.bind("edit.preferences", this, [this] {
         PreferencesDialog::open({m_settings, m_actions, m_prompts}, this);
     });
+    m_panels->bindFloating(m_actions);
     m_layouts->bind(m_actions);
 }
 

@@ -103,6 +103,10 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     m_manager->ensurePolished();  // or the library's own sheet stays with what it drew already
     m_manager->setStyleSheet({}); // ours comes when all is in its place: see dress()
 
+    // Where the system is not X11, the library keeps what floats on top by a flag that hides it for
+    // a moment, and what is hidden counts as closed.
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        m_manager->window()->removeEventFilter(m_manager);
     connect(m_manager, &ads::CDockManager::dockAreaCreated, this, nameAreaButtons);
     // A panel that is pulled off asks for its own window while it still lies in this one. Without
     // these two, each widget above it and beside those would have to be a window of the system too.
@@ -180,6 +184,70 @@ void PanelHost::addToggles(QMenu *menu) const
             menu->addAction(dock->toggleViewAction());
 }
 
+void PanelHost::bindFloating(ActionRegistry &actions)
+{
+    actions.bind("view.floatPanel", this, &PanelHost::floatPanel);
+    actions.bind("view.dockPanels", this, &PanelHost::dockPanels);
+    const auto enable = [this, floating = actions["view.floatPanel"],
+                         docking = actions["view.dockPanels"]] {
+        floating->setEnabled(panelToFloat());
+        docking->setEnabled(!floatingPanels().isEmpty());
+    };
+    connect(qApp, &QApplication::focusChanged, this, [this, enable](QWidget *, QWidget *now) {
+        for (QWidget *widget = now; widget; widget = widget->parentWidget())
+            if (auto *dock = qobject_cast<ads::CDockWidget *>(widget))
+                m_focused = dock;
+        enable();
+    });
+    for (const ads::CDockWidget *dock : m_manager->dockWidgetsMap()) {
+        connect(dock, &ads::CDockWidget::topLevelChanged, this, enable);
+        connect(dock, &ads::CDockWidget::viewToggled, this, enable);
+    }
+    connect(m_manager, &ads::CDockManager::stateRestored, this, enable);
+    connect(this, &PanelHost::docked, this, enable);
+    enable();
+}
+
+ads::CDockWidget *PanelHost::panelToFloat() const
+{
+    const bool canFloat = m_focused && !m_focused->isClosed() && !m_focused->isInFloatingContainer()
+                          && m_manager->openedDockAreas().size() > 1;
+    return canFloat ? m_focused.data() : nullptr;
+}
+
+QList<ads::CDockWidget *> PanelHost::floatingPanels() const
+{
+    QList<ads::CDockWidget *> floating;
+    for (ads::CDockWidget *dock : m_manager->dockWidgetsMap())
+        if (!dock->isClosed() && dock->isInFloatingContainer())
+            floating.append(dock);
+    return floating;
+}
+
+void PanelHost::floatPanel()
+{
+    if (ads::CDockWidget *dock = panelToFloat()) {
+        dock->setFloating();
+        dock->window()->activateWindow();
+        focusInto(dock);
+    }
+}
+
+void PanelHost::dockPanels()
+{
+    const QList<ads::CDockWidget *> floating = floatingPanels();
+    findAreas();
+    const std::size_t sides = m_areas.size();
+    for (const PanelRow &row : panelCatalogue())
+        if (auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
+            floating.contains(dock))
+            place(dock, row);
+    stretchCentre();
+    if (m_areas.size() != sides)
+        sizeAreas();
+    Q_EMIT docked();
+}
+
 void PanelHost::place(ads::CDockWidget *dock, const PanelRow &row)
 {
     QPointer<ads::CDockAreaWidget> &area = m_areas[row.side];
@@ -189,6 +257,8 @@ void PanelHost::place(ads::CDockWidget *dock, const PanelRow &row)
         area->setCurrentIndex(0);
     } else if (row.side == DockSide::LeftBelow && m_areas[DockSide::Left]) {
         area = m_manager->addDockWidget(ads::BottomDockWidgetArea, dock, m_areas[DockSide::Left]);
+    } else if (row.side == DockSide::Left && m_areas[DockSide::LeftBelow]) {
+        area = m_manager->addDockWidget(ads::TopDockWidgetArea, dock, m_areas[DockSide::LeftBelow]);
     } else {
         area = m_manager->addDockWidget(areaOf(row.side), dock);
     }
@@ -196,13 +266,18 @@ void PanelHost::place(ads::CDockWidget *dock, const PanelRow &row)
         dock->toggleView(false);
 }
 
-void PanelHost::placeStrays()
+void PanelHost::findAreas()
 {
     m_areas.clear();
     for (const PanelRow &row : panelCatalogue())
         if (const auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName)))
             if (dock->dockAreaWidget() && !dock->isInFloatingContainer())
                 m_areas[row.side] = dock->dockAreaWidget();
+}
+
+void PanelHost::placeStrays()
+{
+    findAreas();
     for (const PanelRow &row : panelCatalogue()) {
         auto *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
         if (dock && !dock->dockAreaWidget())
@@ -366,6 +441,9 @@ void PanelHost::focusSide(DockSide side)
         for (const PanelRow &row : panelCatalogue()) {
             ads::CDockWidget *dock = m_manager->findDockWidget(QLatin1String(row.objectName));
             if (row.side == candidate && dock && !dock->isClosed()) {
+                // A panel that floats came up last, and has the keys.
+                if (QGuiApplication::applicationState() == Qt::ApplicationActive)
+                    dock->window()->activateWindow();
                 focusInto(dock);
                 return;
             }

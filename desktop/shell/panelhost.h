@@ -9,7 +9,6 @@
 
 #include <map>
 
-class QAction;
 class QMenu;
 class QWidget;
 
@@ -20,6 +19,8 @@ class CDockWidget;
 } // namespace ads
 
 namespace vl::desktop {
+
+class ActionRegistry;
 
 /// Which panels are open and how much of the window's width the sides take.
 struct Arrangement
@@ -42,6 +43,8 @@ public:
 
     /// One entry a panel, ticked while it is open.
     void addToggles(QMenu *menu) const;
+    /// Lets the actions pull the panel off that has or had the focus, and put back all that float.
+    void bindFloating(ActionRegistry &actions);
     void resetLayout();
     /// Begins from the first layout, then opens these panels alone.
     void arrange(const Arrangement &arrangement);
@@ -56,12 +59,17 @@ public:
     void focusNext() { moveFocus(1); }
     void focusPrevious() { moveFocus(-1); }
 
+Q_SIGNALS:
+    /// Panels that floated are docked.
+    void docked();
+
 private:
     void makeDocks(const PanelContext &context);
     void followSettings(const app::Settings &settings);
     void drawIcons();
     void moveFocus(int step);
     void place(ads::CDockWidget *dock, const PanelRow &row);
+    void findAreas();
     void placeStrays();
     /// Whether a panel has less room than its texts need.
     bool isCramped() const;
@@ -71,9 +79,15 @@ private:
     void dress();
     void fetchFloating();
     void stretchCentre();
+    void floatPanel();
+    void dockPanels();
+    /// The open panel in the window that has or had the focus last; null when there is none.
+    ads::CDockWidget *panelToFloat() const;
+    QList<ads::CDockWidget *> floatingPanels() const;
 
     ads::CDockManager *m_manager;
     std::map<DockSide, QPointer<ads::CDockAreaWidget>> m_areas; ///< where new panels go
+    QPointer<ads::CDockWidget> m_focused; ///< the panel that has or had the focus last
     QByteArray m_firstLayout;
 };
 

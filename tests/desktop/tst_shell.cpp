@@ -77,6 +77,7 @@ private Q_SLOTS:
     void theKeyboardReachesEveryPanel_data();
     void theKeyboardReachesEveryPanel();
     void theKeysWorkInAPanelThatFloats();
+    void panelsFloatAndComeBack();
     void aPanelPulledOffIsTheOnlyNewWindow();
     void windowsAreBroughtBack_data();
     void windowsAreBroughtBack();
@@ -116,6 +117,8 @@ void TestShell::menusStandInOrder()
                      QStringLiteral("Appl&y Perspective"),
                      QStringLiteral("&Delete Perspective…"),
                      QStringLiteral("&Reset Layout"),
+                     QStringLiteral("&Float Panel"),
+                     QStringLiteral("Doc&k Floating Panels"),
                      QStringLiteral("Ne&xt Panel"),
                      QStringLiteral("Pre&vious Panel")};
     for (const desktop::PanelRow &row : desktop::panelCatalogue())
@@ -429,6 +432,39 @@ void TestShell::theKeysWorkInAPanelThatFloats()
     QCOMPARE(workspace.history().undoCount(), steps - 1);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
     QTRY_VERIFY(desk.window->isActiveWindow() && !isIn());
+}
+
+void TestShell::panelsFloatAndComeBack()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    QVERIFY(QTest::qWaitForWindowActive(desk.window.get()));
+    QVERIFY(!desk.action("view.dockPanels")->isEnabled());
+    QSet<const QWidget *> panels;
+    for (const char *name : {"inspector", "codex", "editor"}) {
+        auto *dock = desk.window->findChild<QWidget *>(QLatin1String(name));
+        const auto goesThere = [&] {
+            if (!dock->isAncestorOf(QApplication::focusWidget()))
+                desk.action("view.nextPanel")->trigger();
+            return dock->isAncestorOf(QApplication::focusWidget());
+        };
+        QTRY_VERIFY(goesThere());
+        QVERIFY(desk.action("view.floatPanel")->isEnabled());
+        desk.action("view.floatPanel")->trigger();
+        QVERIFY(dock->window() != desk.window.get());
+        QTRY_VERIFY(dock->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(!desk.action("view.floatPanel")->isEnabled()); // it does already
+        panels.insert(dock);
+    }
+    QVERIFY(desk.action("view.dockPanels")->isEnabled());
+    desk.action("view.dockPanels")->trigger();
+    for (const QWidget *dock : panels) {
+        QCOMPARE(dock->window(), desk.window.get());
+        QTRY_VERIFY2(dock->isVisible(), qPrintable(dock->objectName()));
+        QTRY_VERIFY(dock->width() > 100);
+    }
+    QVERIFY(!desk.action("view.dockPanels")->isEnabled());
 }
 
 void TestShell::aPanelPulledOffIsTheOnlyNewWindow()
