@@ -169,6 +169,23 @@ void ActionRegistry::resetAllKeys()
     layKeys();
 }
 
+bool ActionRegistry::canTrigger(const QKeySequence &keys)
+{
+    if (keys.isEmpty())
+        return true;
+    for (const QKeySequence::StandardKey edit :
+         {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste, QKeySequence::SelectAll})
+        if (QKeySequence::keyBindings(edit).contains(QKeySequence(keys[0])))
+            return false;
+    const Qt::KeyboardModifiers modifiers = keys[0].keyboardModifiers();
+    if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return true;
+    const Qt::Key key = keys[0].key();
+    const bool isFunctionKey = key >= Qt::Key_F1 && key <= Qt::Key_F35;
+    const bool isOfMedia = key >= Qt::Key_Back && key <= Qt::Key_LaunchH;
+    return isFunctionKey || isOfMedia;
+}
+
 QAction *ActionRegistry::userOf(const QKeySequence &keys, const char *exceptId) const
 {
     if (keys.isEmpty())

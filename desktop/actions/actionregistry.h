@@ -62,6 +62,9 @@ public:
     /// Gives the action its built-in keys back.
     void resetKeys(const char *id);
     void resetAllKeys();
+    /// Whether the keys can trigger an action: not those that write, move or copy in every text, as
+    /// nobody could write with them any more.
+    static bool canTrigger(const QKeySequence &keys);
     /// The other action that these keys trigger, null when they are free.
     QAction *userOf(const QKeySequence &keys, const char *exceptId) const;
 

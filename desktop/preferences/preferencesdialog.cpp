@@ -6,6 +6,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHBoxLayout>
@@ -49,6 +50,7 @@ PreferencesDialog::PreferencesDialog(const PreferencesContext &context, QWidget 
     m_search->setPlaceholderText(tr("Search preferences"));
     m_search->setAccessibleName(tr("Search preferences"));
     m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
     m_list->setObjectName(QStringLiteral("pages"));
     m_list->setAccessibleName(tr("Pages"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -140,6 +142,20 @@ void PreferencesDialog::changeEvent(QEvent *event)
     // The list hears of the font after the dialog.
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
         QMetaObject::invokeMethod(this, &PreferencesDialog::fitFont, Qt::QueuedConnection);
+}
+
+bool PreferencesDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // What the words found is gone through without leaving the field.
+    if (watched == m_search && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown
+            || key == Qt::Key_PageUp) {
+            QCoreApplication::sendEvent(m_list, event);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void PreferencesDialog::find(const QString &text)

@@ -5,6 +5,7 @@
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QKeySequenceEdit>
@@ -126,6 +127,7 @@ void ShortcutsPage::buildEditor()
     conflict->addWidget(m_take);
     column()->addLayout(conflict);
 
+    m_keys->installEventFilter(this);
     connect(m_keys, &QKeySequenceEdit::editingFinished, this, &ShortcutsPage::record);
     connect(m_none, &QPushButton::clicked, this, [this] { take({}); });
     connect(m_take, &QPushButton::clicked, this, [this] { take(m_keys->keySequence()); });
@@ -133,6 +135,25 @@ void ShortcutsPage::buildEditor()
         context().actions.resetKeys(current().constData());
         showCurrent();
     });
+}
+
+bool ShortcutsPage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_keys || event->type() != QEvent::KeyPress)
+        return PreferencesPage::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    if (key->modifiers() != Qt::NoModifier || (key->key() != Qt::Key_Escape && !isEnter))
+        return PreferencesPage::eventFilter(watched, event);
+    // These two answer here as they do everywhere, and are no keys for an action.
+    const bool isOpen = !m_conflict->text().isEmpty();
+    if (isEnter && m_take->isVisible())
+        m_take->click();
+    else if (!isEnter && isOpen)
+        showCurrent();
+    else if (!isEnter)
+        window()->close();
+    return true;
 }
 
 QByteArray ShortcutsPage::current() const
@@ -176,7 +197,7 @@ void ShortcutsPage::showCurrent()
     const QByteArray id = current();
     const QSignalBlocker quiet(m_keys);
     m_keys->setEnabled(!id.isEmpty());
-    m_none->setEnabled(!id.isEmpty());
+    m_none->setEnabled(!id.isEmpty() && !context().actions[id.constData()]->shortcuts().isEmpty());
     m_reset->setEnabled(!id.isEmpty() && context().actions.hasOwnKeys(id.constData()));
     m_conflict->clear();
     m_take->hide();
@@ -197,6 +218,12 @@ void ShortcutsPage::record()
     const QKeySequence keys = m_keys->keySequence();
     if (id.isEmpty() || keys == context().actions[id.constData()]->shortcut())
         return;
+    if (!ActionRegistry::canTrigger(keys)) {
+        m_conflict->setText(tr("“%1” writes, moves or copies in texts and cannot be a shortcut.")
+                                .arg(keys.toString(QKeySequence::NativeText)));
+        m_take->hide();
+        return;
+    }
     const QAction *other = context().actions.userOf(keys, id.constData());
     if (!other) {
         take(keys);

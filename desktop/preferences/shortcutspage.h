@@ -22,6 +22,9 @@ public:
     void reset() override;
     QStringList searchTexts() const override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void buildTree();
     void buildEditor();

@@ -245,6 +245,18 @@ void TestLook::shortcutsAreRecordedWithTheirConflicts()
     press(QStringLiteral("Ctrl+Alt+W"));
     QCOMPARE(desk.settings.text(QStringLiteral("shortcuts/help.welcome")),
              QStringLiteral("Ctrl+Alt+W"));
+    // Nobody could write with these any more.
+    for (const char *plain : {"A", "Shift+A", "Return", "Space", "Left", "Ctrl+C", "Ctrl+V"}) {
+        press(QLatin1String(plain));
+        QCOMPARE(desk.settings.text(QStringLiteral("shortcuts/help.welcome")),
+                 QStringLiteral("Ctrl+Alt+W"));
+        QTest::keyClick(keys, Qt::Key_Escape); // back to what it has
+        QCOMPARE(keys->keySequence(), QKeySequence(QStringLiteral("Ctrl+Alt+W")));
+    }
+    press(QStringLiteral("Shift+F7"));
+    QCOMPARE(desk.settings.text(QStringLiteral("shortcuts/help.welcome")),
+             QStringLiteral("Shift+F7"));
+    press(QStringLiteral("Ctrl+Alt+W"));
     press(QStringLiteral("Ctrl+P")); // shown as a conflict, not taken
     QCOMPARE(desk.settings.text(QStringLiteral("shortcuts/help.welcome")),
              QStringLiteral("Ctrl+Alt+W"));
