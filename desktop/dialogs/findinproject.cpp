@@ -1,5 +1,6 @@
 #include "desktop/dialogs/findinproject.h"
 
+#include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/findinprojectdelegate.h"
 #include "desktop/panels/catalogue.h"
 #include "desktop/shell/icons.h"
@@ -116,6 +117,9 @@ FindInProject::FindInProject(const PanelContext &context, ShowPanel showPanel, Q
         if (isVisible())
             m_settling.start();
     });
+    // What was replaced is taken back from here too.
+    for (const char *id : {"edit.undo", "edit.redo", "file.save"})
+        addAction(context.actions[id]);
     sizeDialog(this, widthSteps, heightSteps);
     updateScopes();
     updateReplacement();

@@ -12,6 +12,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextDocument>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
@@ -21,6 +22,7 @@ namespace vl::desktop {
 namespace {
 
 constexpr int editPauseMilliseconds = 250;
+constexpr int problemPauseMilliseconds = 700;
 constexpr qsizetype longestTaken = 200; // of a selection that becomes the pattern
 
 } // namespace
@@ -37,10 +39,19 @@ FindStrip::FindStrip(const PanelContext &context, EditorSession *session, Editor
     rows->setContentsMargins(grid(2), grid(1), grid(2), grid(1));
     rows->setSpacing(grid(1));
     rows->addLayout(makeFindRow());
+    m_problem = new QLabel(this);
+    m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
+    m_problem->hide();
+    rows->addWidget(m_problem);
     rows->addWidget(makeReplaceRow());
     hide();
 
     m_threads.setMaxThreadCount(2); // one that is given up may still come to its end
+    // Half an expression is no fault yet, and the text would jump at each bracket.
+    m_problemPause.setSingleShot(true);
+    m_problemPause.setInterval(problemPauseMilliseconds);
+    connect(&m_problemPause, &QTimer::timeout, m_problem, &QWidget::show);
     m_again.setSingleShot(true);
     m_again.setInterval(editPauseMilliseconds);
     connect(&m_again, &QTimer::timeout, this, [this] { search(AfterSearch::Stay); });
@@ -377,9 +388,14 @@ void FindStrip::updateCount()
         return;
     QString told;
     const auto number = [](qsizetype value) { return QLocale().toString(qlonglong(value)); };
-    if (!m_told.error.isEmpty())
-        told = m_told.error;
-    else if (m_pattern->text().isEmpty() || isSearching())
+    m_problem->setText(m_told.error.isEmpty() ? QString() : QStringLiteral("⚠ ") + m_told.error);
+    if (m_told.error.isEmpty()) {
+        m_problemPause.stop();
+        m_problem->hide();
+    } else if (m_problem->isHidden()) {
+        m_problemPause.start();
+    }
+    if (!m_told.error.isEmpty() || m_pattern->text().isEmpty() || isSearching())
         told = QString();
     else if (m_hits.empty())
         told = tr("Not found");

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QToolButton;
@@ -82,6 +83,7 @@ private:
     QToolButton *m_inSelection = nullptr;
     QToolButton *m_keepsCase = nullptr;
     ElidedLabel *m_count = nullptr;
+    QLabel *m_problem = nullptr; ///< what is wrong with the expression
     QWidget *m_replaceRow = nullptr;
     QPushButton *m_replaceAll = nullptr;
     QMetaObject::Connection m_edits;
@@ -94,6 +96,7 @@ private:
     AfterSearch m_next = AfterSearch::Stay;
     quint64 m_number = 0; ///< of the search that runs
     std::shared_ptr<std::atomic_bool> m_cancel;
+    QTimer m_problemPause;
     QTimer m_again; ///< searches anew after the text was edited
     QThreadPool m_threads;
 };

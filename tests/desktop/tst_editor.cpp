@@ -19,6 +19,7 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolButton>
 
 using namespace vl;
 using core::Document;
@@ -475,6 +476,22 @@ void TestEditor::findsAndReplaces()
     QVERIFY(desk.field(QStringLiteral("Replace with"))->isVisible());
     desk.window.actions()["edit.replace"]->trigger(); // what is searched for is known
     QVERIFY(desk.field(QStringLiteral("Replace with"))->hasFocus());
+
+    // What is wrong with an expression can be read, and goes when it is mended.
+    desk.field(QStringLiteral("Find"))->setText(QStringLiteral("(tide"));
+    for (QToolButton *toggle : desk.strip->findChildren<QToolButton *>())
+        if (toggle->accessibleName() == u"Regular expression")
+            toggle->click();
+    const auto problem = [&desk] {
+        for (const QLabel *label : desk.strip->findChildren<QLabel *>())
+            if (label->isVisible() && label->text().startsWith(QStringLiteral("⚠")))
+                return label->text();
+        return QString();
+    };
+    QTRY_VERIFY(problem().contains(QStringLiteral("parenthesis")));
+    QTest::keyClicks(desk.field(QStringLiteral("Find")), QStringLiteral(")"));
+    QTRY_VERIFY(problem().isEmpty());
+    QTRY_VERIFY(desk.count().endsWith(QStringLiteral("of 3")));
 }
 
 void TestEditor::distractionFreeGivesTheTextBack()
