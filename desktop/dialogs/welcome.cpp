@@ -6,6 +6,7 @@
 #include "desktop/widgets/grid.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -91,6 +92,8 @@ WelcomeDialog::WelcomeDialog(const Offers &offers, QWidget *parent)
         connect(list, &QListWidget::itemActivated, this, &WelcomeDialog::take);
         connect(list, &QListWidget::itemClicked, this, &WelcomeDialog::take);
     }
+    for (QListWidget *list : {steps, recent})
+        list->installEventFilter(this);
     steps->setFocus();
     sizeDialog(this, widthSteps, heightSteps);
 }
@@ -175,6 +178,19 @@ QListWidget *WelcomeDialog::makeRecent(const QStringList &paths)
         item->setData(CardDelegate::IsDimRole, !isThere);
     }
     return list;
+}
+
+bool WelcomeDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    // One row is lit, in the list that has the keys: it is what Enter takes.
+    if (auto *list = qobject_cast<QListWidget *>(watched);
+        list && event->type() == QEvent::FocusIn) {
+        for (QListWidget *other : findChildren<QListWidget *>())
+            if (other != list)
+                other->setCurrentRow(-1);
+        list->setCurrentRow(qMax(0, list->currentRow()));
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void WelcomeDialog::take(const QListWidgetItem *item)

@@ -37,6 +37,9 @@ Q_SIGNALS:
     void chosen(vl::desktop::WelcomeDialog::Choice choice);
     void recentChosen(const QString &path);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QWidget *makeHead();
     QListWidget *makeSteps(const Offers &offers);

@@ -50,12 +50,21 @@ private Q_SLOTS:
 void TestWelcome::theWelcomeLeadsOn()
 {
     Window desk;
+    desk.settings.addRecentProject(desk.dir.filePath(QStringLiteral("a.vellum")));
     QVERIFY(!desk.settings.contains(QLatin1String(app::settings::welcomed.name)));
     auto *welcome = desk.open<WelcomeDialog>("help.welcome");
     QVERIFY(welcome && welcome->isVisible());
     QVERIFY(desk.settings.contains(QLatin1String(app::settings::welcomed.name)));
     auto *steps = welcome->findChild<QListWidget *>(QStringLiteral("welcomeSteps"));
     QVERIFY(steps);
+    // The list with the keys shows what Enter takes, and is the only one that does.
+    auto *recent = welcome->findChild<QListWidget *>(QStringLiteral("welcomeRecent"));
+    QVERIFY(QTest::qWaitForWindowActive(welcome));
+    recent->setFocus();
+    QCOMPARE(recent->currentRow(), 0);
+    QVERIFY(steps->selectedItems().isEmpty());
+    steps->setFocus();
+    QVERIFY(recent->selectedItems().isEmpty());
     QTest::keyClick(steps, Qt::Key_Return); // the first step is a new project
     QVERIFY(!welcome->isVisible());
     QVERIFY(desk.window.findChild<NewProjectDialog *>());
