@@ -7,6 +7,8 @@
 #include "desktop/shell/notices.h"
 #include "desktop/shell/panelhost.h"
 #include "desktop/shell/recentmenu.h"
+#include "desktop/widgets/focusring.h"
+#include "desktop/widgets/menuletters.h"
 
 #include <QtGui/QActionGroup>
 #include <QtWidgets/QMainWindow>
@@ -20,6 +22,7 @@ WindowMenus::WindowMenus(QMainWindow *window, const Parts &parts)
     , m_parts(parts)
 {
     const ActionRegistry &actions = m_parts.actions;
+    FocusRing::leaveTo(window->menuBar()); // the title that has the keys is lit
     buildFile();
     actions.fill(addMenu(tr("&Edit")), Menu::Edit);
     buildView();
@@ -31,6 +34,7 @@ QMenu *WindowMenus::addMenu(const QString &title)
 {
     QMenu *menu = m_window->menuBar()->addMenu(title);
     menu->setToolTipsVisible(true);
+    new MenuLetters(menu);
     return menu;
 }
 

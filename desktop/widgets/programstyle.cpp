@@ -158,8 +158,19 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption *optio
         painter->fillRect(option->rect, focusColour(option->palette));
     else if (element == CE_MenuItem && entry)
         drawMenuItem(*entry, painter, widget);
+    else if (element == CE_MenuBarItem && entry)
+        drawMenuTitle(*entry, painter, widget);
     else
         QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void ProgramStyle::drawMenuTitle(QStyleOptionMenuItem entry, QPainter *painter,
+                                 const QWidget *widget) const
+{
+    // The style lights a title only while its menu is open; the keys go from title to title too.
+    if (entry.state.testFlag(State_Selected) && widget && widget->hasFocus())
+        entry.state |= State_Sunken;
+    QProxyStyle::drawControl(CE_MenuBarItem, &entry, painter, widget);
 }
 
 void ProgramStyle::drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter,

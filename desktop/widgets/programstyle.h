@@ -32,6 +32,7 @@ public:
 private:
     void drawSliderOutlines(const QStyleOptionComplex &option, QPainter *painter,
                             const QWidget *widget) const;
+    void drawMenuTitle(QStyleOptionMenuItem entry, QPainter *painter, const QWidget *widget) const;
     void drawMenuItem(QStyleOptionMenuItem entry, QPainter *painter, const QWidget *widget) const;
 };
 

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void keysAreTakenAndGivenBack();
     void theToolBarShowsWhatTheSettingsSay();
     void theFontScaleReachesWhatIsOpen();
+    void aLetterRunsTheOnlyEntryThatCanRun();
     void theCaretRests();
 };
 
@@ -597,6 +598,28 @@ void TestShell::theFontScaleReachesWhatIsOpen()
     while (!next->isVisible() || !(next->focusPolicy() & Qt::TabFocus))
         next = next->nextInFocusChain();
     QVERIFY(dialog.findChild<QStackedWidget *>()->isAncestorOf(next));
+}
+
+void TestShell::aLetterRunsTheOnlyEntryThatCanRun()
+{
+    Desk desk;
+    desk.open();
+    desk.window->show();
+    desk.prompts.path = desk.dir.filePath(QStringLiteral("saved"));
+    const auto press = [](QMenu *menu, Qt::Key key) {
+        menu->popup({});
+        QTest::keyClick(menu, key);
+    };
+    QMenu *file = desk.menu(QStringLiteral("&File"));
+    press(file, Qt::Key_L); // "Mounted &Libraries…" is off
+    QTRY_VERIFY(desk.window->workspace().current().hasLocation());
+    QVERIFY(!file->isVisible());
+    // Both can run: the menu only goes to the first.
+    desk.action("file.mountedLibraries")->setEnabled(true);
+    press(file, Qt::Key_L);
+    QVERIFY(file->isVisible());
+    QCOMPARE(file->activeAction(), desk.action("file.saveAsFolder"));
+    file->close();
 }
 
 void TestShell::theCaretRests()
