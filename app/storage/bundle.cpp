@@ -124,7 +124,10 @@ Result<BundleSource> BundleSource::ofProject(ProjectFiles files, const QString &
         for (QByteArray &path : *paths) {
             if (own.contains(path))
                 continue;
-            if (isOwnPath(path) || read.contains(path))
+            // What came later under a name of its own stays where it is; at another place it would
+            // be read as well.
+            const bool isElsewhere = repositories == Repositories::LeaveOut;
+            if (isOwnPath(path) || read.contains(path) || (isElsewhere && isReadPath(path)))
                 source.m_gone.append(pathInFolder(folder, path));
             // What a sync client left beside an object keeps a project from being read, and a
             // project that was open by then is copied without it.

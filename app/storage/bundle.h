@@ -51,8 +51,9 @@ public:
                                         ProjectFiles files);
     /// The files in memory, which are all of the model's, and from the folder those that are not
     /// made from the model: "assets/" and whatever else lies there. Left out are files of ids that
-    /// are gone, and `readPaths`, the paths that the project was read from. An empty folder name
-    /// carries nothing along.
+    /// are gone, and `readPaths`, the paths that the project was read from; at another place, where
+    /// repositories are left out, all that a project is read from. An empty folder name carries
+    /// nothing along.
     static Result<BundleSource> ofProject(ProjectFiles files, const QString &folder,
                                           const QStringList &readPaths,
                                           Repositories repositories = Repositories::Keep);

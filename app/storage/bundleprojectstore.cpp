@@ -3,6 +3,7 @@
 #include "app/base/sha256.h"
 #include "app/storage/bundlestore.h"
 #include "app/storage/ownform.h"
+#include "app/storage/projectfolder.h"
 #include "app/storage/projectpaths.h"
 #include "app/storage/projectreader.h"
 #include "app/storage/projectwriter.h"
@@ -11,6 +12,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSet>
 #include <QtCore/QThreadPool>
 
 #include <algorithm>
@@ -28,6 +30,14 @@ struct BundleText
 bool pathIsBefore(const ProjectFile &a, const ProjectFile &b)
 {
     return a.path < b.path;
+}
+
+/// Adds the paths of files whose name is not the id of what is in them.
+void addForeignPaths(QSet<QString> &paths, const ProjectFiles &files)
+{
+    for (const ProjectFile &file : files)
+        if (!isOwnPath(file.path.toUtf8()))
+            paths.insert(file.path);
 }
 
 /// All files of a project as values: those last read or written, and what changed since.
@@ -100,12 +110,11 @@ public:
     Result<> commit(OutsideChanges outside) override
     {
         save.files = m_files.compose();
-        for (const ProjectFile &file : *m_files.base)
-            save.readPaths.append(file.path);
+        addForeignPaths(foreignPaths, *m_files.base);
+        save.readPaths = foreignPaths.values();
         Result<> done = write(outside);
         written = std::make_shared<const ProjectFiles>(std::move(save.files));
         // Thousands of small texts are let go here rather than on the interface thread.
-        save.readPaths.clear();
         m_files.base.reset();
         return done;
     }
@@ -113,6 +122,7 @@ public:
     BundleSave save;
     bool isNew = false;
     QString carryFrom;
+    QSet<QString> foreignPaths; ///< see BundleProjectStore
     SaveReport report;
     OpenedBundle opened;
     std::shared_ptr<const ProjectFiles> written; ///< after the commit: the files of the bundle
@@ -224,6 +234,7 @@ public:
             m_locations);
         pending->isNew = m_isNew;
         pending->carryFrom = m_carryFrom;
+        pending->foreignPaths = m_foreignPaths;
         return pending;
     }
 
@@ -239,6 +250,7 @@ public:
         }
         if (!succeeded)
             return;
+        m_foreignPaths = std::move(pending.foreignPaths);
         QThreadPool::globalInstance()->start(
             [old = std::exchange(m_base, pending.written)]() mutable { old.reset(); });
         m_isOwnForm = true;
@@ -269,6 +281,7 @@ public:
     {
         if (!state.bundleFiles)
             return;
+        addForeignPaths(m_foreignPaths, *m_base);
         m_isOwnForm = false;
         m_known = *state.bundle;
         if (state.unsettled.isEmpty()) {
@@ -335,6 +348,9 @@ private:
     std::shared_ptr<const ProjectFiles> m_base = std::make_shared<const ProjectFiles>();
     bool m_isOwnForm = false; ///< the base is as the program writes it
     QString m_carryFrom;      ///< the folder to take assets from with the first save
+    /// What the working copy may still have long after it got its proper name: paths from which
+    /// the project was ever read.
+    QSet<QString> m_foreignPaths;
     bool m_isNew = true;
 };
 

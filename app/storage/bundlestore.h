@@ -48,7 +48,8 @@ struct BundleSave
     QString workingFolder;
     /// Every file that the model is written as.
     ProjectFiles files;
-    /// The paths that the project was read from; those that are not written any more are removed.
+    /// Paths that the project was read from, if only once; what is not written there any more is
+    /// removed. Those named by an id need not be among them.
     QStringList readPaths;
     /// The bundle as it was last opened or saved.
     KnownBundle known;

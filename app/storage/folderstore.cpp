@@ -202,12 +202,15 @@ void FolderStore::learn(std::span<const LoadedFile> files)
     for (const LoadedFile &file : files) {
         m_known.insert(file.path, {file.stamp});
         m_base.insert(file.path, file.bytes);
-        if (file.id.isNull())
-            continue;
-        const bool isObject = file.path.startsWith(objectsFolder() + u'/');
-        if (file.path != (isObject ? objectPath(file.id) : categoryPath(file.id)))
-            (isObject ? m_strayObjects : m_strayCategories).emplace(file.id, file.path);
+        addStray(file.id, file.path);
     }
+}
+
+void FolderStore::addStray(const core::ContentId &id, const QString &path)
+{
+    const bool isObject = path.startsWith(objectsFolder() + u'/');
+    if (!id.isNull() && path != (isObject ? objectPath(id) : categoryPath(id)))
+        (isObject ? m_strayObjects : m_strayCategories).emplace(id, path);
 }
 
 void FolderStore::addWrite(FolderSave &save, const QString &path, const QByteArray &bytes,
@@ -217,9 +220,19 @@ void FolderStore::addWrite(FolderSave &save, const QString &path, const QByteArr
     if (const auto stray = strays.find(id); stray != strays.end()) {
         save.renames.emplace_back(stray->second, path);
         append(stamps, known(stray->second));
-        addRemoval(save, stray->second); // where the name was taken, so that it was not renamed
     }
     save.writes.push_back({path, bytes, std::move(stamps)});
+    addRemovals(save, {}, strays, id); // where the name was taken, so that it was not renamed
+}
+
+/// Removes all files that are known of what has the id: under the path, and under other names.
+void FolderStore::addRemovals(FolderSave &save, const QString &path, const Strays &strays,
+                              const core::ContentId &id) const
+{
+    addRemoval(save, path);
+    const auto [first, last] = strays.equal_range(id);
+    for (auto stray = first; stray != last; ++stray)
+        addRemoval(save, stray->second);
 }
 
 void FolderStore::addRemoval(FolderSave &save, const QString &path) const
@@ -278,18 +291,14 @@ FolderSave FolderStore::prepare(const core::Project &project, const core::Change
         if (const core::ContentObject *object = project.find(id)) {
             addWrite(save, objectPath(id), serializeObject(*object), m_strayObjects, id);
         } else {
-            addRemoval(save, objectPath(id));
-            if (const auto stray = m_strayObjects.find(id); stray != m_strayObjects.end())
-                addRemoval(save, stray->second);
+            addRemovals(save, objectPath(id), m_strayObjects, id);
         }
     }
     for (const auto &[id, change] : changes.categories()) {
         if (const core::Category *category = project.taxonomy().find(id)) {
             addWrite(save, categoryPath(id), serializeCategory(*category), m_strayCategories, id);
         } else {
-            addRemoval(save, categoryPath(id));
-            if (const auto stray = m_strayCategories.find(id); stray != m_strayCategories.end())
-                addRemoval(save, stray->second);
+            addRemovals(save, categoryPath(id), m_strayCategories, id);
         }
     }
     if (changes.touchesAnyRecord() || !m_known.contains(recordsPath()))
@@ -330,11 +339,7 @@ void FolderStore::adopt(const QString &path, const core::ContentId &id, const QB
     forget(path);
     m_known.insert(path, {FileStamp::of(bytes)});
     m_base.insert(path, bytes);
-    if (id.isNull())
-        return;
-    const bool isObject = path.startsWith(objectsFolder() + u'/');
-    if (path != (isObject ? objectPath(id) : categoryPath(id)))
-        (isObject ? m_strayObjects : m_strayCategories).insert_or_assign(id, path);
+    addStray(id, path);
 }
 
 void FolderStore::forget(const QString &path)

@@ -95,20 +95,23 @@ public:
     void forget(const QString &path);
 
 private:
-    using Strays = std::map<core::ContentId, QString>;
+    using Strays = std::multimap<core::ContentId, QString>;
 
     void learn(std::span<const LoadedFile> files);
+    void addStray(const core::ContentId &id, const QString &path);
     void dropStrays(const QString &path);
     std::vector<FileStamp> known(const QString &path) const { return m_known.value(path); }
     void addWrite(FolderSave &save, const QString &path, const QByteArray &bytes,
                   const Strays &strays, const core::ContentId &id) const;
+    void addRemovals(FolderSave &save, const QString &path, const Strays &strays,
+                     const core::ContentId &id) const;
     void addRemoval(FolderSave &save, const QString &path) const;
 
     QString m_folder;                               ///< absolute
     QHash<QString, std::vector<FileStamp>> m_known; ///< by relative path
     BaseFiles m_base;
     BaseFiles m_maybeOwn;
-    Strays m_strayObjects;    ///< read from a file that another name than their id; its path
+    Strays m_strayObjects;    ///< read from a file with another name than their id; its path
     Strays m_strayCategories; ///< the same
 };
 

@@ -74,6 +74,28 @@ std::optional<core::ContentId> idIn(JsonParser &parser, const QString &path,
                                                                 : std::nullopt;
 }
 
+/// The ids in known files that are there under another name than their id. Only the bytes tell: so
+/// it is asked for when a file comes that may be a second one of its id.
+std::set<core::ContentId> idsUnderOtherNames(JsonParser &parser,
+                                             const std::vector<Difference> &differences,
+                                             const BaseFiles &base,
+                                             const std::set<QString> &remotePaths)
+{
+    std::map<QString, const QByteArray *> strays;
+    for (auto file = base.cbegin(); file != base.cend(); ++file)
+        if (file.key() != recordsPath() && idInName(file.key()).isNull()
+            && remotePaths.contains(file.key()))
+            strays.emplace(file.key(), &*file);
+    for (const Difference &difference : differences)
+        if (const auto stray = strays.find(difference.path); stray != strays.end())
+            stray->second = difference.remote ? &*difference.remote : nullptr;
+    std::set<core::ContentId> ids;
+    for (const auto &[path, bytes] : strays)
+        if (const auto id = bytes ? idIn(parser, path, *bytes) : std::nullopt)
+            ids.insert(*id);
+    return ids;
+}
+
 /// Tells files that are gone from those whose object or category has come to stand in another file,
 /// which is no deletion: there it is compared with what it was before.
 void followRenames(OutsideState &state, const std::set<QString> &remotePaths)
@@ -105,6 +127,12 @@ void judge(OutsideState &state, std::vector<Difference> differences, const BaseF
               [](const Difference &a, const Difference &b) { return a.path < b.path; });
     JsonParser parser;
     std::set<core::ContentId> seen;
+    const bool hasNew =
+        std::any_of(differences.begin(), differences.end(), [&base](const Difference &difference) {
+            return difference.remote && !base.contains(difference.path);
+        });
+    if (hasNew)
+        seen = idsUnderOtherNames(parser, differences, base, remotePaths);
     for (Difference &difference : differences) {
         OutsideFile file;
         file.path = difference.path;

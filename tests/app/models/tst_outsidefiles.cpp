@@ -19,8 +19,10 @@ private Q_SLOTS:
     void waitsForWholeFiles();
     void clientsTemporaryNames();
     void secondVersionsOfAFile();
+    void secondVersionsWithoutTheFirst();
     void renamedFiles_data();
     void renamedFiles();
+    void othersGiveAFileItsName();
     void damagedFilesInABundle_data();
     void damagedFilesInABundle();
     void vanishedFilesAreNotDeletions_data();
@@ -104,6 +106,35 @@ void TestOutsideFiles::secondVersionsOfAFile()
     QCOMPARE(desk.kind(), Kind::None);
 }
 
+void TestOutsideFiles::secondVersionsWithoutTheFirst()
+{
+    // Two files of one id, and none with its name: one after the other, each is asked about.
+    Desk desk;
+    const QString start = desk.path(0).chopped(5);
+    const QByteArray bytes = test::fileBytes(desk.path(0));
+    desk.monitor->watcher().setDelays(60000, 60000);
+    QVERIFY(QFile::rename(desk.path(0), start + QStringLiteral(" (mine).json")));
+    test::putFile(start + QStringLiteral(" (copy).json"), QByteArray(bytes).replace("One.", "1."));
+    desk.check();
+    QCOMPARE(desk.monitor->offer().conflicts, 0);
+    desk.monitor->load();
+    QTRY_COMPARE(desk.done->size(), 1);
+    QCOMPARE(desk.document(0).body(),
+             QString(original).replace(QLatin1String("One"), QLatin1String("1")));
+    desk.check();
+    QCOMPARE(desk.monitor->offer().conflicts, 1);
+    std::vector<app::ReconcileEntry> entries = desk.monitor->entries();
+    entries.front().takeLocal();
+    desk.monitor->apply(entries);
+    QTRY_COMPARE(desk.done->size(), 2);
+    desk.project().finishSaving();
+    QVERIFY(!desk.project().isDirty());
+    QCOMPARE(desk.bodyOnDisk(0), desk.document(0).body()); // it opens: nothing is there twice
+    QVERIFY(desk.bodyOnDisk(0).startsWith(QLatin1String("1.")));
+    desk.check();
+    QCOMPARE(desk.kind(), Kind::None);
+}
+
 void TestOutsideFiles::renamedFiles_data()
 {
     QTest::addColumn<bool>("isDirty");
@@ -161,6 +192,35 @@ void TestOutsideFiles::renamedFiles()
     if (desk.project().isDirty())
         QVERIFY(desk.project().save());
     QCOMPARE(desk.bodyOnDisk(0), original);
+}
+
+void TestOutsideFiles::othersGiveAFileItsName()
+{
+    // The working copy here has the file under the name it had before.
+    Desk desk(true, false);
+    const QString path = desk.project().path();
+    const QString folder = desk.dir.filePath(QStringLiteral("unpacked"));
+    QVERIFY(app::extractBundle(path, folder));
+    QVERIFY(QFile::rename(folder + u'/' + app::objectPath(desk.ids[0]),
+                          folder + QStringLiteral("/objects/a scene.json")));
+    QVERIFY(app::packFolder(folder, path));
+    desk.reopen(path);
+    desk.start();
+    const QString theirs = desk.dir.filePath(QStringLiteral("theirs.vellum"));
+    QVERIFY(QFile::copy(path, theirs));
+    auto other = app::OpenProject::open(theirs);
+    QVERIFY(other);
+    (*other)->push(std::make_unique<core::SetDocumentBodyCommand>(
+        *(*other)->project().find<core::Document>(desk.ids[1]), QStringLiteral("Theirs.")));
+    QVERIFY((*other)->save());
+    test::putFile(path, test::fileBytes(theirs));
+    desk.check();
+    desk.monitor->load();
+    QTRY_COMPARE(desk.done->size(), 1);
+    desk.write(0, QStringLiteral("Mine."));
+    QVERIFY(desk.project().save());
+    QCOMPARE(desk.bodyOnDisk(0), QStringLiteral("Mine."));
+    QCOMPARE(desk.bodyOnDisk(1), QStringLiteral("Theirs."));
 }
 
 void TestOutsideFiles::damagedFilesInABundle_data()

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void savesElsewhereWhenItsPlaceIsGone();
     void leavesTheRepositoryBehind_data();
     void leavesTheRepositoryBehind();
+    void writesNothingTwice_data();
+    void writesNothingTwice();
     void savesAsTheFolderThatItIs();
     void leavesConflictingCopiesBehind_data();
     void leavesConflictingCopiesBehind();
@@ -146,6 +148,55 @@ void TestOpenProject::leavesTheRepositoryBehind()
     QVERIFY2(files.filter(QStringLiteral(".git/")).isEmpty(), qPrintable(files.join(u' ')));
     QVERIFY(!files.contains(QStringLiteral("notes/.git")));
     QVERIFY(QFile::exists(folder + QStringLiteral("/.git/objects/a0/b1")));
+}
+
+void TestOpenProject::writesNothingTwice_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("comesLater");
+    for (const char *target : {"copy", "copy.vellum"}) {
+        QTest::addRow("from a folder, as %s", target) << "book" << target << false;
+        QTest::addRow("from a bundle, as %s", target) << "book.vellum" << target << false;
+        QTest::addRow("from a folder where it came later, as %s", target)
+            << "book" << target << true;
+    }
+}
+
+// A file whose name is not its id is read like any other: saved elsewhere it must not stand beside
+// the one that has the name.
+void TestOpenProject::writesNothingTwice()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, target);
+    QFETCH(bool, comesLater);
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("book"));
+    const ContentId id = ContentId::create();
+    {
+        OpenProject made;
+        made.project().add(
+            std::make_unique<Document>(id, DocumentKind::Prose, QStringLiteral("Scene")));
+        QVERIFY(made.saveAsFolder(folder));
+    }
+    const QString proper = folder + QStringLiteral("/objects/%1.json").arg(id.toString());
+    const QString foreign = folder + QStringLiteral("/objects/a scene.json");
+    if (!comesLater)
+        QVERIFY(QFile::rename(proper, foreign));
+    if (from != QLatin1String("book"))
+        QVERIFY(packFolder(folder, dir.filePath(from)));
+    const auto opened = OpenProject::open(dir.filePath(from));
+    QVERIFY(opened);
+    if (comesLater)
+        QVERIFY(QFile::copy(proper, foreign));
+    const QString path = dir.filePath(target);
+    const Result<> saved = target.endsWith(QLatin1String(".vellum"))
+                               ? (*opened)->saveAsBundle(path)
+                               : (*opened)->saveAsFolder(path);
+    QVERIFY2(saved, qPrintable(saved ? QString() : saved.message()));
+    const auto again = OpenProject::open(path);
+    QVERIFY2(again, qPrintable(again ? QString() : again.message()));
+    QCOMPARE((*again)->project().size(), 1);
 }
 
 void TestOpenProject::savesAsTheFolderThatItIs()
