@@ -158,7 +158,10 @@ HolderState stateOf(const LockHolder &holder, const LockHolder &self)
 
 QString ProjectLock::filePath(const QString &projectPath)
 {
-    const QString path = absoluteProjectPath(projectPath);
+    QString path = absoluteProjectPath(projectPath);
+    // A link to a ".vellum" file is another name of it; saving goes through it.
+    if (const QFileInfo link(path); link.isSymLink() && link.isFile())
+        path = link.canonicalFilePath();
     const QFileInfo info(path);
     return info.isDir() ? path + u'/' + folderLock
                         : QStringLiteral("%1/.%2.lock").arg(info.path(), info.fileName());

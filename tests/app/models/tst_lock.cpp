@@ -32,6 +32,7 @@ private Q_SLOTS:
     void placeThatCannotBeWritten();
     void copiedAlong();
     void takenOver();
+    void linksAreNamesOfOneFile();
     void flow_data();
     void flow();
     void followsTheProject();
@@ -201,6 +202,21 @@ void TestLock::takenOver()
     putFile(ProjectLock::filePath(path), other().toJson());
     ours.lock.reset();
     QVERIFY(QFile::exists(ProjectLock::filePath(path)));
+}
+
+void TestLock::linksAreNamesOfOneFile()
+{
+    const QString path = at(QStringLiteral("Nóvel.vellum"));
+    const QString link = at(QStringLiteral("elsewhere/Link.vellum"));
+    putFile(path, "a bundle");
+    QVERIFY(QDir().mkpath(at(QStringLiteral("elsewhere"))));
+    QVERIFY(QFile::link(path, link));
+    for (const auto &[first, second] : {std::pair(path, link), std::pair(link, path)}) {
+        const LockAttempt attempt = ProjectLock::take(first, LockHolder::current());
+        QVERIFY(attempt.lock);
+        QVERIFY(attempt.lock->isFor(second));
+        QVERIFY(ProjectLock::take(second, LockHolder::current()).holder);
+    }
 }
 
 void TestLock::flow_data()
