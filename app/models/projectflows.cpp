@@ -26,6 +26,13 @@ QString roomFor(const QString &folder, const QString &name)
     return isEmpty || dir.exists(recordsPath()) ? folder : dir.filePath(name);
 }
 
+/// The names, a line each, as far as a message has room for them.
+QString shortList(const QStringList &names)
+{
+    return QStringList(names.mid(0, mostNamed)).join(u'\n')
+           + (names.size() > mostNamed ? QStringLiteral("\n…") : QString());
+}
+
 } // namespace
 
 ProjectFlows::ProjectFlows(Workspace &workspace, Prompts &prompts, Settings &settings)
@@ -185,8 +192,7 @@ QString ProjectFlows::copyElsewhere(const QString &path)
         m_prompts.showInformation(
             tr("Open Project"),
             tr("The copy leaves out %n file(s) that cannot be read:", nullptr, int(leftOut.size()))
-                + u'\n' + QStringList(leftOut.mid(0, mostNamed)).join(u'\n')
-                + (leftOut.size() > mostNamed ? QStringLiteral("\n…") : QString()));
+                + u'\n' + shortList(leftOut));
     return target;
 }
 
@@ -257,9 +263,9 @@ bool ProjectFlows::saveAs()
     std::unique_ptr<ProjectLock> lock;
     if (!lockToSave(path, lock))
         return false;
-    const Result<> saved = m_workspace.current().saveAsBundle(path);
-    if (!saved)
-        return report(tr("Save Project"), saved.message());
+    if (!saveElsewhere(
+            [&](Carry carry) { return m_workspace.current().saveAsBundle(path, carry); }))
+        return false;
     if (lock || !m_lock || !m_lock->isFor(path))
         m_lock = std::move(lock);
     m_settings.addRecentProject(path);
@@ -277,13 +283,32 @@ bool ProjectFlows::saveAsFolder()
     // A folder to be saved to is empty: it can be locked only afterwards, unless it is locked now.
     if (QFileInfo::exists(ProjectLock::filePath(folder)) && !lockToSave(folder, lock))
         return false;
-    const Result<> saved = m_workspace.current().saveAsFolder(folder);
-    if (!saved)
-        return report(tr("Save Project"), saved.message());
+    if (!saveElsewhere(
+            [&](Carry carry) { return m_workspace.current().saveAsFolder(folder, carry); }))
+        return false;
     if (lock || !m_lock || !m_lock->isFor(folder))
         m_lock = lock ? std::move(lock) : ProjectLock::take(folder, LockHolder::current()).lock;
     m_settings.addRecentProject(folder);
     return true;
+}
+
+bool ProjectFlows::saveElsewhere(const std::function<Result<>(Carry)> &save)
+{
+    const Result<> saved = save(Carry::Everything);
+    if (saved)
+        return true;
+    const QStringList unreadable = m_workspace.current().unreadableFiles();
+    if (unreadable.isEmpty())
+        return report(tr("Save Project"), saved.message());
+    const bool goesWithout = m_prompts.confirm(
+        tr("%n file(s) beside the text cannot be read.", nullptr, int(unreadable.size())),
+        shortList(unreadable) + u'\n'
+            + tr("Everything you wrote is saved; what cannot be read stays where it is."),
+        tr("Save the Rest"));
+    if (!goesWithout)
+        return false;
+    const Result<> savedWithout = save(Carry::WhatCanBeRead);
+    return savedWithout || report(tr("Save Project"), savedWithout.message());
 }
 
 bool ProjectFlows::mayClose()

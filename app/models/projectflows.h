@@ -1,10 +1,12 @@
 #pragma once
 
 #include "app/storage/folderstore.h"
+#include "app/storage/projectfolder.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -67,6 +69,9 @@ private:
     QString copyElsewhere(const QString &path);
     /// Locks a place that is about to be saved to; false when somebody else has it open.
     bool lockToSave(const QString &path, std::unique_ptr<ProjectLock> &lock);
+    /// Saves to another place; when not all that the project carries can be read, it asks whether
+    /// to go without the rest.
+    bool saveElsewhere(const std::function<Result<>(Carry)> &save);
     bool report(const QString &title, const QString &message);
 
     Workspace &m_workspace;

@@ -122,6 +122,7 @@ public:
     BundleSave save;
     bool isNew = false;
     QString carryFrom;
+    Carry carry = Carry::Everything;
     QSet<QString> foreignPaths; ///< see BundleProjectStore
     SaveReport report;
     OpenedBundle opened;
@@ -131,7 +132,7 @@ private:
     Result<> write(OutsideChanges outside)
     {
         if (isNew) {
-            Result<OpenedBundle> written = saveBundleAs(save, carryFrom, m_locations);
+            Result<OpenedBundle> written = saveBundleAs(save, carryFrom, m_locations, carry);
             if (!written)
                 return written.asFailure();
             opened = *std::move(written);
@@ -203,7 +204,11 @@ public:
         m_base = std::make_shared<const ProjectFiles>(std::move(files));
         m_isOwnForm = false;
     }
-    void setCarryFrom(const QString &folder) { m_carryFrom = folder; }
+    void setCarryFrom(const QString &folder, Carry carry)
+    {
+        m_carryFrom = folder;
+        m_carry = carry;
+    }
 
     QString path() const override { return m_bundlePath; }
     bool isBundle() const override { return true; }
@@ -234,6 +239,7 @@ public:
             m_locations);
         pending->isNew = m_isNew;
         pending->carryFrom = m_carryFrom;
+        pending->carry = m_carry;
         pending->foreignPaths = m_foreignPaths;
         return pending;
     }
@@ -348,6 +354,7 @@ private:
     std::shared_ptr<const ProjectFiles> m_base = std::make_shared<const ProjectFiles>();
     bool m_isOwnForm = false; ///< the base is as the program writes it
     QString m_carryFrom;      ///< the folder to take assets from with the first save
+    Carry m_carry = Carry::Everything;
     /// What the working copy may still have long after it got its proper name: paths from which
     /// the project was ever read.
     QSet<QString> m_foreignPaths;
@@ -375,10 +382,11 @@ Result<OpenedStore> openBundleStore(const QString &path)
     return OpenedStore{std::move(store), *std::move(project)};
 }
 
-Result<std::unique_ptr<ProjectStore>> newBundleStore(const QString &path, const QString &carryFrom)
+Result<std::unique_ptr<ProjectStore>> newBundleStore(const QString &path, const QString &carryFrom,
+                                                     Carry carry)
 {
     auto store = std::make_unique<BundleProjectStore>(path);
-    store->setCarryFrom(carryFrom);
+    store->setCarryFrom(carryFrom, carry);
     return std::unique_ptr<ProjectStore>(std::move(store));
 }
 

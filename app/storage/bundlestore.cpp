@@ -365,10 +365,13 @@ SaveReport saveBundle(const BundleSave &save, const StorageLocations &locations)
 }
 
 Result<OpenedBundle> saveBundleAs(const BundleSave &save, const QString &carryFrom,
-                                  const StorageLocations &locations)
+                                  const StorageLocations &locations, Carry carry)
 {
     const Result<BundleSource> source =
-        BundleSource::ofProject(save.files, carryFrom, save.readPaths, Repositories::LeaveOut);
+        carry == Carry::WhatCanBeRead
+            ? BundleSource::ofFiles(carryFrom, readCarriedFiles(carryFrom).paths, save.files)
+            : BundleSource::ofProject(save.files, carryFrom, save.readPaths,
+                                      Repositories::LeaveOut);
     if (!source)
         return source.asFailure();
     if (FileIdentity::of(save.bundlePath).size > 0) {

@@ -80,6 +80,7 @@ SaveReport saveBundle(const BundleSave &save, const StorageLocations &locations)
 /// Writes a bundle at another place, with what is to be carried along from the folder that the
 /// project lived in (empty for none), and opens it there. An older file there goes to a backup.
 Result<OpenedBundle> saveBundleAs(const BundleSave &save, const QString &carryFrom,
-                                  const StorageLocations &locations);
+                                  const StorageLocations &locations,
+                                  Carry carry = Carry::Everything);
 
 } // namespace vl::app

@@ -214,23 +214,29 @@ bool OpenProject::meetsOutsideChanges()
     return m_store && !m_running && m_store->prepare(*m_project, &m_unsaved)->meetsOutsideChanges();
 }
 
-Result<> OpenProject::saveAsBundle(const QString &path)
+Result<> OpenProject::saveAsBundle(const QString &path, Carry carry)
 {
     Q_EMIT aboutToSave();
     finishSaving();
-    Result<std::unique_ptr<ProjectStore>> store = newBundleStore(path, carriedFolder());
+    Result<std::unique_ptr<ProjectStore>> store = newBundleStore(path, carriedFolder(), carry);
     return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
 }
 
-Result<> OpenProject::saveAsFolder(const QString &folder)
+Result<> OpenProject::saveAsFolder(const QString &folder, Carry carry)
 {
     // Where it stands already, only its own store knows which files are of objects that are gone.
     if (m_store && !isBundle() && QDir::cleanPath(QFileInfo(folder).absoluteFilePath()) == path())
         return save(OutsideChanges::Overwrite);
     Q_EMIT aboutToSave();
     finishSaving();
-    Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, carriedFolder());
+    Result<std::unique_ptr<ProjectStore>> store = newFolderStore(folder, carriedFolder(), carry);
     return store ? saveInto(*std::move(store)) : Result<>(store.asFailure());
+}
+
+QStringList OpenProject::unreadableFiles() const
+{
+    const QString folder = carriedFolder();
+    return folder.isEmpty() ? QStringList() : readCarriedFiles(folder).unreadable;
 }
 
 Result<> OpenProject::saveInto(std::unique_ptr<ProjectStore> store)

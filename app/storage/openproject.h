@@ -78,8 +78,10 @@ public:
     bool meetsOutsideChanges();
     /// Saves as a ".vellum" file, or as a folder, which becomes the project's place. The files
     /// under "assets/" and others that the project carries come along.
-    Result<> saveAsBundle(const QString &path);
-    Result<> saveAsFolder(const QString &folder);
+    Result<> saveAsBundle(const QString &path, Carry carry = Carry::Everything);
+    Result<> saveAsFolder(const QString &folder, Carry carry = Carry::Everything);
+    /// Files that the project carries and that cannot be read, by their paths in it.
+    QStringList unreadableFiles() const;
 
     /// Every file of the project as a save would leave it now, to be asked for on any thread. Only
     /// for a project with a place.

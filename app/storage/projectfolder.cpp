@@ -9,9 +9,11 @@
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 namespace vl::app {
 
@@ -123,7 +125,9 @@ Result<std::vector<QByteArray>> listProjectFolder(const QString &folder, Reposit
             continue;
         if (isUnfinishedFileName(QString::fromUtf8(QByteArrayView(path).sliced(slash + 1))))
             continue;
-        if (type != fs::file_type::regular || !isSafeEntryName(path))
+        // At another place the model stands for its files, whatever they are here.
+        const bool isModels = repositories == Repositories::LeaveOut && isReadPath(path);
+        if (!isModels && (type != fs::file_type::regular || !isSafeEntryName(path)))
             return failure(withPath(ProjectFolder::unreadable(), current));
         paths.push_back(path);
     }
@@ -159,12 +163,88 @@ QString pathInFolder(const QString &folder, QByteArrayView path)
     return folder + QLatin1Char('/') + QString::fromUtf8(path);
 }
 
-Result<> copyCarriedFiles(const QString &from, const QString &to)
+CarriedFiles readCarriedFiles(const QString &folder)
 {
-    const Result<std::vector<QByteArray>> paths = listProjectFolder(from, Repositories::LeaveOut);
+    CarriedFiles carried;
+    const fs::path root = toSystemPath(folder);
+    const QByteArray::size_type skipped = fromSystemPath(root / "x").size() - 1;
+    std::error_code error;
+    fs::recursive_directory_iterator it(root, fs::directory_options::skip_permission_denied, error);
+    for (; !error && it != fs::recursive_directory_iterator(); it.increment(error)) {
+        const QByteArray path = fromSystemPath(it->path()).mid(skipped);
+        if (isRepositoryPath(path)) {
+            it.disable_recursion_pending();
+            continue;
+        }
+        std::error_code unknown;
+        const fs::file_type type = typeOf(*it, unknown);
+        const QString name = QString::fromUtf8(path);
+        const bool isOpenFolder =
+            type == fs::file_type::directory && QFileInfo(pathInFolder(folder, path)).isReadable();
+        if (isOpenFolder || isReadPath(path) || isLockPath(path)
+            || isUnfinishedFileName(name.section(u'/', -1)))
+            continue;
+        if (type == fs::file_type::regular && isSafeEntryName(path)
+            && readProjectFile(folder, path))
+            carried.paths.push_back(path);
+        else
+            carried.unreadable.append(name);
+    }
+    std::sort(carried.paths.begin(), carried.paths.end());
+    carried.unreadable.sort();
+    return carried;
+}
+
+namespace {
+
+/// What was made at a place; goes again unless it is kept.
+class Made
+{
+public:
+    explicit Made(QString folder)
+        : m_folder(std::move(folder))
+    {
+    }
+    ~Made()
+    {
+        for (const QString &file : m_files)
+            removeFile(file, Durability::Atomic);
+        // Inner ones come last; one that holds something else stays.
+        std::for_each(m_folders.crbegin(), m_folders.crend(),
+                      [](const QString &folder) { QDir().rmdir(folder); });
+    }
+    Q_DISABLE_COPY_MOVE(Made)
+
+    void add(const QString &file)
+    {
+        m_files.append(file);
+        for (qsizetype slash = file.lastIndexOf(u'/'); slash > m_folder.size();
+             slash = file.lastIndexOf(u'/', slash - 1))
+            m_folders.insert(file.left(slash));
+    }
+    void keep()
+    {
+        m_files.clear();
+        m_folders.clear();
+    }
+
+private:
+    QString m_folder;
+    QStringList m_files;
+    std::set<QString> m_folders;
+};
+
+} // namespace
+
+Result<> copyCarriedFiles(const QString &from, const QString &to, Carry carry)
+{
+    const Result<std::vector<QByteArray>> paths =
+        carry == Carry::Everything ? listProjectFolder(from, Repositories::LeaveOut)
+                                   : Result<std::vector<QByteArray>>(readCarriedFiles(from).paths);
     if (!paths)
         return paths.asFailure();
     const QString unwritten = ProjectFolder::tr("Could not write a project file: %1");
+    Made made(to);
     for (const QByteArray &path : *paths) {
         if (isReadPath(path))
             continue;
@@ -177,9 +257,12 @@ Result<> copyCarriedFiles(const QString &from, const QString &to)
                 withPath(ProjectFolder::tr("Could not create the folder for: %1"), target));
         if (fileHolds(target, *bytes))
             continue;
+        if (!isThere(target))
+            made.add(target);
         if (Result<> written = writeFile(target, *bytes, {unwritten, unwritten}); !written)
             return written;
     }
+    made.keep();
     return {};
 }
 

@@ -5,6 +5,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <vector>
 
@@ -31,8 +32,8 @@ enum class Repositories
 
 /// The paths of all files under the folder, hidden ones too, relative to it, in ascending order of
 /// their bytes. Fails for what cannot be packed: links, devices, unreadable folders and names that
-/// no other system could unpack. What unfinished writes left behind is passed over, and
-/// so is the lock.
+/// no other system could unpack; a file of the model may be a link where repositories are left out.
+/// What unfinished writes left behind is passed over, and so is the lock.
 Result<std::vector<QByteArray>> listProjectFolder(const QString &folder,
                                                   Repositories repositories = Repositories::Keep);
 
@@ -49,8 +50,26 @@ Result<QByteArray> readProjectFile(const QString &folder, const QByteArray &path
 /// The full path of a file in a folder, from its path relative to it.
 QString pathInFolder(const QString &folder, QByteArrayView path);
 
-/// Copies every file that is not made from the model ("assets/" and whatever is unknown, but no
-/// repository) from one project folder into another, which may hold some of them already.
-Result<> copyCarriedFiles(const QString &from, const QString &to);
+/// What is to become of the files that are carried to another place and cannot be read.
+enum class Carry
+{
+    Everything, ///< the place is not written then
+    WhatCanBeRead,
+};
+
+/// The files of a project folder that no project is read from ("assets/" and whatever is unknown,
+/// but no repository), by their paths in it.
+struct CarriedFiles
+{
+    std::vector<QByteArray> paths; ///< in ascending order of their bytes
+    QStringList unreadable;        ///< links and devices among them
+};
+
+/// Tries to read each of them.
+CarriedFiles readCarriedFiles(const QString &folder);
+
+/// Copies the carried files from one project folder into another, which may hold some of them
+/// already. On failure none of those that it lacked is left in it.
+Result<> copyCarriedFiles(const QString &from, const QString &to, Carry carry = Carry::Everything);
 
 } // namespace vl::app

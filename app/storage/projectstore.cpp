@@ -31,9 +31,10 @@ struct StoreText
 class PendingFolderSave final : public PendingSave
 {
 public:
-    PendingFolderSave(FolderSave save, QString carryFrom)
+    PendingFolderSave(FolderSave save, QString carryFrom, Carry carry)
         : save(std::move(save))
         , m_carryFrom(std::move(carryFrom))
+        , m_carry(carry)
     {
     }
 
@@ -43,7 +44,7 @@ public:
     {
         // What the project refers to comes first, so that no saved project lacks its pictures.
         if (!m_carryFrom.isEmpty()) {
-            if (Result<> carried = copyCarriedFiles(m_carryFrom, save.folder); !carried)
+            if (Result<> carried = copyCarriedFiles(m_carryFrom, save.folder, m_carry); !carried)
                 return carried;
         }
         // As with a bundle, what others wrote is kept before it is written over.
@@ -61,6 +62,7 @@ public:
 
 private:
     QString m_carryFrom;
+    Carry m_carry;
 };
 
 class PendingFolderScan final : public PendingScan
@@ -100,9 +102,10 @@ ProjectFiles overlaid(const BaseFiles &base, const FolderSave &save)
 class FolderProjectStore final : public ProjectStore
 {
 public:
-    FolderProjectStore(const QString &folder, QString carryFrom)
+    FolderProjectStore(const QString &folder, QString carryFrom, Carry carry)
         : m_files(folder)
         , m_carryFrom(std::move(carryFrom))
+        , m_carry(carry)
     {
     }
 
@@ -115,8 +118,9 @@ public:
     std::unique_ptr<PendingSave> prepare(const core::Project &project,
                                          const core::ChangeSet *touched) override
     {
-        return std::make_unique<PendingFolderSave>(
-            touched ? m_files.prepare(project, *touched) : m_files.prepare(project), m_carryFrom);
+        return std::make_unique<PendingFolderSave>(touched ? m_files.prepare(project, *touched)
+                                                           : m_files.prepare(project),
+                                                   m_carryFrom, m_carry);
     }
 
     void finished(PendingSave &save, bool succeeded) override
@@ -169,11 +173,12 @@ private:
     FolderStore m_files;
     std::shared_ptr<const MediaStamps> m_media; ///< null until they were looked at
     QString m_carryFrom; ///< the folder to take assets from with the first save
+    Carry m_carry;
 };
 
 Result<OpenedStore> openFolder(const QString &path)
 {
-    auto store = std::make_unique<FolderProjectStore>(path, QString());
+    auto store = std::make_unique<FolderProjectStore>(path, QString(), Carry::Everything);
     Result<std::unique_ptr<core::Project>> project = store->files().load();
     if (!project)
         return project.asFailure();
@@ -193,7 +198,7 @@ Result<OpenedStore> openStore(const QString &path)
 }
 
 Result<std::unique_ptr<ProjectStore>> newFolderStore(const QString &folder,
-                                                     const QString &carryFrom)
+                                                     const QString &carryFrom, Carry carry)
 {
     const QString absolute = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     const bool isOwn = absolute == carryFrom;
@@ -202,7 +207,7 @@ Result<std::unique_ptr<ProjectStore>> newFolderStore(const QString &folder,
         && !dir.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
         return failure(withPath(StoreText::tr("The folder is not empty: %1"), absolute));
     return std::unique_ptr<ProjectStore>(
-        std::make_unique<FolderProjectStore>(absolute, isOwn ? QString() : carryFrom));
+        std::make_unique<FolderProjectStore>(absolute, isOwn ? QString() : carryFrom, carry));
 }
 
 } // namespace vl::app

@@ -3,6 +3,7 @@
 #include "app/base/result.h"
 #include "app/storage/folderstore.h"
 #include "app/storage/outsidescan.h"
+#include "app/storage/projectfolder.h"
 #include "core/changeset.h"
 #include "core/project.h"
 
@@ -83,8 +84,9 @@ struct OpenedStore
 Result<OpenedStore> openStore(const QString &path);
 /// A store for a project that is to be saved at a new place. The files that the project carries
 /// beside the program's own, "assets" above all, are taken from the other folder when it is named.
-Result<std::unique_ptr<ProjectStore>> newBundleStore(const QString &path, const QString &carryFrom);
+Result<std::unique_ptr<ProjectStore>> newBundleStore(const QString &path, const QString &carryFrom,
+                                                     Carry carry);
 Result<std::unique_ptr<ProjectStore>> newFolderStore(const QString &folder,
-                                                     const QString &carryFrom);
+                                                     const QString &carryFrom, Carry carry);
 
 } // namespace vl::app

@@ -4,6 +4,7 @@
 #include "core/commands/documentcommands.h"
 #include "core/commands/objectcommands.h"
 #include "tests/support/fakeprompts.h"
+#include "tests/support/folders.h"
 
 #include <QtTest/QtTest>
 
@@ -20,6 +21,8 @@ private Q_SLOTS:
     void asksBeforeWorkGoes_data();
     void asksBeforeWorkGoes();
     void aFolderWithOtherThingsGetsOneMore();
+    void savesWithoutWhatCannotBeRead_data();
+    void savesWithoutWhatCannotBeRead();
     void failuresKeepTheProject();
     void savesInTheBackground();
     void outsideChangesAreNotOverwrittenUnasked();
@@ -146,6 +149,57 @@ void TestProjectFlows::aFolderWithOtherThingsGetsOneMore()
         QCOMPARE(place.prompts.errors.size(), taken == books ? 0 : 1);
         QCOMPARE(place.workspace.current().path(), books + QStringLiteral("/folder"));
     }
+}
+
+void TestProjectFlows::savesWithoutWhatCannotBeRead_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<bool>("toBundle");
+    for (const char *from : {"Növel", "Növel.vellum"}) {
+        QTest::addRow("%s as a folder", from) << QString::fromUtf8(from) << false;
+        QTest::addRow("%s as a bundle", from) << QString::fromUtf8(from) << true;
+    }
+}
+
+void TestProjectFlows::savesWithoutWhatCannotBeRead()
+{
+    QFETCH(QString, from);
+    QFETCH(bool, toBundle);
+    Place place;
+    core::Document &document = addDocument(place.workspace, QStringLiteral("One"));
+    place.prompts.path = place.dir.filePath(from);
+    QVERIFY(from == QLatin1String("Növel") ? place.flows.saveAsFolder() : place.flows.saveAs());
+    const QString assets = place.workspace.current().folder() + QStringLiteral("/assets/");
+    test::putFile(assets + QStringLiteral("a/map.png"), "map");
+    QVERIFY(QFile::link(QStringLiteral("nowhere"), assets + QStringLiteral("b.png")));
+    // What is part of the model is written from there, wherever its file may lie.
+    const QString file = QStringLiteral("%1/objects/%2.json")
+                             .arg(place.workspace.current().folder(), document.id().toString());
+    const QString moved = place.dir.filePath(QStringLiteral("moved.json"));
+    QVERIFY(QFile::rename(file, moved) && QFile::link(moved, file));
+    place.workspace.push<core::SetDocumentBodyCommand>(document, QStringLiteral("Text."));
+
+    const QString target =
+        place.dir.filePath(toBundle ? QStringLiteral("copy.vellum") : QStringLiteral("copy"));
+    const auto saveAs = [&] {
+        return toBundle ? place.flows.saveAs() : place.flows.saveAsFolder();
+    };
+    place.prompts.path = target;
+    QVERIFY(!saveAs()); // called off
+    QCOMPARE(place.prompts.questions,
+             QStringList{QStringLiteral("1 file(s) beside the text cannot be read.")});
+    QCOMPARE(place.prompts.errors, QStringList());
+    QCOMPARE(place.workspace.current().path(), place.dir.filePath(from));
+    QVERIFY(test::filesUnder(target).isEmpty());
+
+    place.prompts.confirms = true;
+    QVERIFY(saveAs());
+    QCOMPARE(place.prompts.errors, QStringList());
+    QCOMPARE(place.workspace.current().path(), target);
+    const auto again = app::OpenProject::openReadOnly(target);
+    QVERIFY(again);
+    QCOMPARE((*again)->project().all<core::Document>().front()->body(), QStringLiteral("Text."));
+    QCOMPARE(test::fileBytes((*again)->folder() + QStringLiteral("/assets/a/map.png")), "map");
 }
 
 void TestProjectFlows::failuresKeepTheProject()
