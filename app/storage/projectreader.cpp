@@ -153,7 +153,11 @@ Result<std::vector<SourceFile>> ProjectReader::list(const QString &folder, const
 #ifdef Q_OS_WIN
         const QString name = QString::fromStdWString(native);
 #else
-        const QString name = QFile::decodeName(QByteArray::fromStdString(native));
+        const QByteArray bytes = QByteArray::fromStdString(native);
+        const QString name = QFile::decodeName(bytes);
+        // A name in another encoding is none of a project's, nor can the file be reached by it.
+        if (QFile::encodeName(name) != bytes)
+            continue;
 #endif
         std::error_code unknown;
         if (isRead(name) && at->is_regular_file(unknown))

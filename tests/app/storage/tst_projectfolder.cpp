@@ -12,6 +12,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <cstdio>
+
 using namespace vl::app;
 using namespace vl::core;
 using namespace vl::test;
@@ -71,6 +73,7 @@ private Q_SLOTS:
     void readsTolerantly_data();
     void readsTolerantly();
     void readsRecordsTolerantly();
+    void namesInAnotherEncoding();
     void missingFolder();
     void firstFailureOfManyFiles();
     void dateTimesKeepTheirZone_data();
@@ -425,6 +428,23 @@ void TestProjectFolder::readsRecordsTolerantly()
     calendar.eraName = QStringLiteral("AR");
     QCOMPARE((*project)->calendar(), calendar);
     QVERIFY((*project)->audiences().isEmpty());
+}
+
+void TestProjectFolder::namesInAnotherEncoding()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("names are text here");
+#endif
+    // A file that cannot even be named does not keep all the others from being read.
+    const QString folder = m_folder->filePath(QStringLiteral("project"));
+    QVERIFY(QDir().mkpath(folder + QStringLiteral("/objects")));
+    const QByteArray path = QFile::encodeName(folder) + "/objects/caf\xe9.json";
+    std::FILE *file = std::fopen(path.constData(), "w");
+    QVERIFY(file);
+    std::fclose(file);
+    const auto loaded = loadProject(folder);
+    std::remove(path.constData()); // no toolkit would find it
+    QVERIFY2(loaded, qPrintable(loaded ? QString() : loaded.message()));
 }
 
 void TestProjectFolder::missingFolder()
