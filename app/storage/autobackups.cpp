@@ -2,6 +2,7 @@
 
 #include "app/base/files.h"
 #include "app/base/sha256.h"
+#include "app/storage/folderbackup.h"
 #include "app/storage/lock.h"
 #include "app/storage/projectfolder.h"
 #include "app/storage/projectkey.h"
@@ -121,11 +122,27 @@ std::vector<QByteArray> filesToKeep(const QString &folder, const QString &below 
     return paths;
 }
 
+/// Leaves the text alone where what stands beside it fills a backup by itself.
+void leaveOutTooMuch(std::vector<QByteArray> &paths, const QString &folder)
+{
+    qsizetype files = 0;
+    qint64 bytes = 0;
+    for (const QByteArray &path : paths) {
+        if (isReadPath(path))
+            continue;
+        ++files;
+        bytes += QFileInfo(pathInFolder(folder, path)).size();
+    }
+    if (!leavesRoomForText(files, bytes))
+        std::erase_if(paths, [](const QByteArray &path) { return !isReadPath(path); });
+}
+
 Result<BundleSource> sourceOf(const BackupContent &content)
 {
     const bool isFolder = QFileInfo(content.path).isDir();
     std::vector<QByteArray> paths =
         isFolder ? filesToKeep(content.path) : std::vector<QByteArray>();
+    leaveOutTooMuch(paths, content.path);
     ProjectFiles files = content.files;
     if (!files.empty()) {
         std::erase_if(paths, [](const QByteArray &path) { return isReadPath(path); });

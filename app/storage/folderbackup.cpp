@@ -9,17 +9,25 @@
 
 namespace vl::app {
 
+bool leavesRoomForText(qsizetype files, qint64 bytes)
+{
+    return files < ArchiveWriter::maxEntries / 2 && bytes < ArchiveWriter::maxBytes / 4 * 3;
+}
+
 std::vector<QByteArray> mediaPathsIn(const QString &folder)
 {
     std::vector<QByteArray> paths;
+    qint64 bytes = 0;
     QDirIterator it(folder + u'/' + assetsFolder(), QDir::Files | QDir::NoSymLinks,
                     QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QByteArray path = it.next().mid(folder.size() + 1).toUtf8();
-        if (!isUnfinishedFileName(it.fileName()) && isSafeEntryName(path))
-            paths.push_back(path);
+        if (isUnfinishedFileName(it.fileName()) || !isSafeEntryName(path))
+            continue;
+        paths.push_back(path);
+        bytes += it.fileInfo().size();
     }
-    return paths;
+    return leavesRoomForText(qsizetype(paths.size()), bytes) ? paths : std::vector<QByteArray>();
 }
 
 Result<QString> backUpProjectFolder(const Backups &backups, const QString &baseName,

@@ -10,7 +10,12 @@
 
 namespace vl::app {
 
-/// The media under a project folder that an archive can hold, by their paths relative to it.
+/// Whether so many files beside the text, of so many bytes, leave room for it in a backup, which is
+/// one file. Where they do not, the text is worth a backup without them.
+bool leavesRoomForText(qsizetype files, qint64 bytes);
+
+/// The media under a project folder that a backup can hold, by their paths relative to it; none
+/// when they leave no room for the text.
 std::vector<QByteArray> mediaPathsIn(const QString &folder);
 
 /// Puts a project folder as it stands, sound or not, into a backup: the files that a project is

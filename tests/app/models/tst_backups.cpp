@@ -4,6 +4,7 @@
 #include "app/models/textdifference.h"
 #include "app/models/workspace.h"
 #include "app/storage/autobackups.h"
+#include "app/storage/folderbackup.h"
 #include "app/storage/lock.h"
 #include "core/commands/documentcommands.h"
 #include "core/commands/objectcommands.h"
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void leavesTheOthersAlone();
     void keepsNothingThatCannotBeReadBack_data();
     void keepsNothingThatCannotBeReadBack();
+    void mediaThatNoFileCanHold();
     void folderWithoutWhatIsHidden();
     void listsAndCounts();
     void madeWhenOpenedSavedAndClosed_data();
@@ -255,6 +257,29 @@ void TestBackups::keepsNothingThatCannotBeReadBack()
     putFile(at(QStringLiteral("data2")), "a file in the folder's place");
     m_locations.root = at(QStringLiteral("data2"));
     QVERIFY(!backups(folder).add({folder, {}}, BackupReason::Daily));
+}
+
+void TestBackups::mediaThatNoFileCanHold()
+{
+    const QString folder = at(QStringLiteral("novel"));
+    const QString video = QStringLiteral("/assets/film.mp4");
+    putFiles(folder, {{QStringLiteral("project.json"), "{}"}, {video.mid(1), "short"}});
+    const auto holdsVideo = [&](const QString &backup) {
+        const Result<ReadBundle> read = readBundle(backup);
+        if (!read)
+            qFatal("%s", qPrintable(read.message()));
+        return read->archive.find("assets/film.mp4") != nullptr;
+    };
+    const Backups replaced(at(QStringLiteral("replaced")), m_locations.now);
+    QVERIFY(holdsVideo(made(folder).path));
+    QVERIFY(holdsVideo(*backUpProjectFolder(replaced, QStringLiteral("novel"), folder)));
+    // As large as a file in an archive can be; it takes no room on the disk.
+    if (!QFile::resize(folder + video, qint64(4) << 30))
+        QSKIP("no file can be that large here");
+    QVERIFY(!holdsVideo(made(folder).path));
+    const auto text = backUpProjectFolder(replaced, QStringLiteral("novel"), folder);
+    QVERIFY2(text, qPrintable(text ? QString() : text.message()));
+    QVERIFY(!holdsVideo(*text));
 }
 
 void TestBackups::folderWithoutWhatIsHidden()
