@@ -327,7 +327,9 @@ Result<> AtomicFile::open()
         if ((old.st_uid != ::geteuid() || old.st_gid != ::getegid())
             && ::fchown(handle.file, old.st_uid, old.st_gid) != 0)
             errno = 0;
-        if (::fchmod(handle.file, old.st_mode & 07777) != 0) {
+        // Some mounted shares know no modes: then there is nothing to keep.
+        if (::fchmod(handle.file, old.st_mode & 07777) != 0 && errno != ENOTSUP && errno != ENOSYS
+            && errno != EPERM) {
             discard();
             return openFailure();
         }
