@@ -234,6 +234,11 @@ void OutsideMonitor::take(OutsideState state)
     m_state = std::move(state);
     const OutsideOffer before = m_offer;
     renewOffer();
+    if (m_state.isUnchanged() && m_state.bundleFiles) {
+        followBundle();
+        if (!m_state.media.isEmpty())
+            m_isAsked = false; // it is told of the media
+    }
     if (!std::exchange(m_isAsked, false))
         return;
     if (m_offer.kind == OutsideOffer::Kind::None)
@@ -301,6 +306,18 @@ void OutsideMonitor::apply(const std::vector<ReconcileEntry> &entries)
     decide(Decision::Merge);
 }
 
+/// Others wrote the bundle anew with the same texts. In a folder their media would stand there
+/// already; from a bundle they are brought, so that the next save does not meet a foreign file.
+void OutsideMonitor::followBundle()
+{
+    if (m_workspace.history().isGroupOpen()) {
+        m_watcher.stir();
+        return;
+    }
+    m_decided.clear();
+    decide(Decision::Follow);
+}
+
 void OutsideMonitor::decide(Decision decision)
 {
     OpenProject &project = m_workspace.current();
@@ -338,7 +355,7 @@ void OutsideMonitor::decide(Decision decision)
                       {},
                       false};
     const bool isKeep = decision == Decision::Keep;
-    if (!isKeep)
+    if (!isKeep && (decision != Decision::Follow || !m_state.media.isEmpty()))
         backup.ownFiles = project.snapshot();
     backup.keepsTheirs = isKeep || !m_state.unsettled.isEmpty() || dropsTheirs(m_decided);
     std::shared_ptr<PendingScan> scan = project.prepareScan();
@@ -382,17 +399,40 @@ void OutsideMonitor::decisionPrepared()
         decide(m_decision); // a save came between, which is no reason to ask again
         return;
     }
+    const bool isFollowing = m_decision == Decision::Follow;
     if (!isStillTrue(prepared)) {
-        Q_EMIT failed(tr("The project changed again meanwhile; look at the changes once more."));
+        if (!isFollowing)
+            Q_EMIT failed(
+                tr("The project changed again meanwhile; look at the changes once more."));
         m_watcher.stir();
         return;
     }
+    if (isFollowing && std::exchange(m_followFault, prepared.fault) == prepared.fault
+        && !prepared.fault.isEmpty())
+        return; // it was told
     if (!prepared.fault.isEmpty()) {
         Q_EMIT failed(prepared.fault);
         return;
     }
     m_state = std::move(prepared.state);
-    carryOut();
+    if (isFollowing)
+        carryOutFollowing();
+    else
+        carryOut();
+}
+
+void OutsideMonitor::carryOutFollowing()
+{
+    const OutsideState state = std::exchange(m_state, {});
+    if (const Result<> taken = m_workspace.current().takeOver(state, {}, QString()); !taken) {
+        Q_EMIT failed(taken.message());
+        return;
+    }
+    if (state.media.isEmpty())
+        return;
+    m_changedMedia += state.media;
+    m_changedMedia.removeDuplicates();
+    Q_EMIT mediaChanged(int(m_changedMedia.size()));
 }
 
 void OutsideMonitor::carryOut()

@@ -97,6 +97,7 @@ private:
         Load,
         Merge,
         Keep,
+        Follow, ///< of itself: none of the texts in the bundle is another
     };
     /// What another thread found before a decision is carried out.
     struct Prepared
@@ -111,10 +112,12 @@ private:
     bool waits();
     void take(OutsideState state);
     void renewOffer();
+    void followBundle();
     void decide(Decision decision);
     void decisionPrepared();
     bool isStillTrue(const Prepared &prepared) const;
     void carryOut();
+    void carryOutFollowing();
     void tellMedia(const OutsideState &state);
 
     Workspace &m_workspace;
@@ -138,6 +141,7 @@ private:
     quint64 m_decidedGeneration = 0; ///< of the files when the decision was begun
     Decision m_decision = Decision::Load;
     std::vector<ReconcileEntry> m_decided;
+    QString m_followFault; ///< why a bundle could not be followed, as it was told
     bool m_wasDirty = false;
     QStringList m_changedMedia;                      ///< since they were last shown anew
     std::shared_ptr<const MediaStamps> m_shownMedia; ///< of the media as they were shown; or null

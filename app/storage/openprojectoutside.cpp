@@ -276,7 +276,9 @@ Result<> OpenProject::takeOver(const OutsideState &state,
     }
     for (const OutsideFile &file : toWrite)
         touch(file);
-    m_history.setCleanIndex(isOnDisk ? steps : -1); // who listened may have made further steps
+    // Who listened may have made further steps. Where no file is another, nothing is said of them.
+    if (!state.files.empty() || !state.unsettled.isEmpty())
+        m_history.setCleanIndex(isOnDisk ? steps : -1);
     return {};
 }
 

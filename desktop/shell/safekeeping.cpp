@@ -156,6 +156,7 @@ void SafeKeeping::askAbout(const app::OutsideOffer &offer)
 
 void SafeKeeping::askAboutMedia(int files)
 {
+    m_isAsked = m_isAsked && files == 0;
     if (files == 0)
         m_context.notices.withdraw(mediaNotice);
     else

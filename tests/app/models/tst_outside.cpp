@@ -1,5 +1,6 @@
 #include "tests/app/models/outsidedesk.h"
 
+#include "app/storage/bundle.h"
 #include "core/commands/projectcommands.h"
 #include "core/content/media.h"
 
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void failuresChangeNothing();
     void putOffWhenOpened();
     void media();
+    void mediaInABundle_data();
+    void mediaInABundle();
 };
 
 void TestOutside::ownSavesAreNoNews_data()
@@ -436,6 +439,60 @@ void TestOutside::media()
     test::putFile(assets + QStringLiteral("map.png"), "other");
     QTRY_COMPARE(desk.media->last().first().toInt(), 0);
     QVERIFY(!desk.monitor->hasChangedMedia());
+}
+
+void TestOutside::mediaInABundle_data()
+{
+    QTest::addColumn<bool>("isReplaced"); // or only taken out
+    QTest::addColumn<bool>("isDirty");
+    QTest::newRow("replaced") << true << false;
+    QTest::newRow("replaced, unsaved edits here") << true << true;
+    QTest::newRow("taken out") << false << false;
+    QTest::newRow("taken out, unsaved edits here") << false << true;
+}
+
+// Others wrote the file anew, and none of its texts is another: nothing is asked, nothing stands in
+// the way of the next save, and what they brought is not written over.
+void TestOutside::mediaInABundle()
+{
+    QFETCH(bool, isReplaced);
+    QFETCH(bool, isDirty);
+    Desk desk(true, false);
+    const QString map = QStringLiteral("/assets/map.png");
+    test::putFile(desk.project().folder() + map, "first");
+    desk.workspace.push<core::AddObjectCommand>(
+        desk.workspace.project(),
+        std::make_unique<core::Media>(test::numberedId(5), QStringLiteral("image"), map.mid(1)));
+    QVERIFY(desk.project().save());
+    desk.start();
+    if (isDirty)
+        desk.write(0, QStringLiteral("Mine."));
+    const QString path = desk.project().path();
+    const QString unpacked = desk.dir.filePath(QStringLiteral("unpacked"));
+    QVERIFY(app::extractBundle(path, unpacked));
+    if (isReplaced)
+        test::putFile(unpacked + map, "other");
+    else
+        QVERIFY(QFile::remove(unpacked + map));
+    QVERIFY(app::packFolder(unpacked, path));
+    QTRY_VERIFY(!desk.project().meetsOutsideChanges());
+    QTRY_COMPARE(desk.media->size(), isReplaced ? 1 : 0);
+    QCOMPARE(desk.kind(), Kind::None);
+    QCOMPARE(desk.failed->size(), 0);
+    QCOMPARE(desk.project().isDirty(), isDirty);
+    const QByteArray wanted = isReplaced ? "other" : "first";
+    QCOMPARE(test::fileBytes(desk.project().folder() + map), wanted);
+    QCOMPARE(desk.backups().contains("first"), isReplaced);
+
+    desk.monitor->reloadMedia();
+    desk.write(1, QStringLiteral("Later."));
+    QVERIFY(desk.project().save());
+    desk.check();
+    QCOMPARE(desk.kind(), Kind::None);
+    const auto again = app::OpenProject::openReadOnly(path);
+    QVERIFY(again);
+    QCOMPARE(test::fileBytes((*again)->folder() + map), wanted);
+    QCOMPARE(desk.bodyOnDisk(0), isDirty ? QStringLiteral("Mine.") : original);
 }
 
 QTEST_GUILESS_MAIN(TestOutside)
