@@ -64,7 +64,10 @@ QString Settings::text(const SettingKey &key) const
 
 bool Settings::flag(const SettingKey &key) const
 {
-    return text(key) == QLatin1String("true");
+    const QString value = text(key);
+    if (value == QLatin1String("true") || value == QLatin1String("false"))
+        return value == QLatin1String("true");
+    return QLatin1String(key.defaultValue) == QLatin1String("true");
 }
 
 void Settings::set(const SettingKey &key, const QString &value)

@@ -39,6 +39,7 @@ public:
     const SettingsChanges &changes() const { return *m_changes; }
 
     QString text(const SettingKey &key) const;
+    /// What is neither "true" nor "false" counts as the default.
     bool flag(const SettingKey &key) const;
     void set(const SettingKey &key, const QString &value);
     void set(const SettingKey &key, bool value);

@@ -74,7 +74,7 @@ QCheckBox *PreferencesPage::addFlag(QFormLayout *group, const QString &text,
     group->addRow(box);
     follow(key, box, [this, box, key] {
         const QSignalBlocker quiet(box);
-        box->setChecked(settings().text(key) != u"false");
+        box->setChecked(settings().flag(key));
     });
     connect(box, &QCheckBox::toggled, this, [this, key](bool on) { settings().set(key, on); });
     return box;

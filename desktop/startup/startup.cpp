@@ -182,7 +182,7 @@ void StartUp::open()
 
 void StartUp::reopenLast()
 {
-    if (m_settings.text(app::settings::reopenLast) == QLatin1String("false"))
+    if (!m_settings.flag(app::settings::reopenLast))
         return;
     const QString latest = m_settings.recentProjects().value(0);
     // What has just been asked for and told not to open is not tried once more.

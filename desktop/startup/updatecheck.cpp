@@ -72,7 +72,7 @@ UpdateCheck::~UpdateCheck() = default;
 
 void UpdateCheck::schedule()
 {
-    if (m_settings.text(app::settings::autoUpdateCheck) == QLatin1String("false"))
+    if (!m_settings.flag(app::settings::autoUpdateCheck))
         return;
     const QString now = QDateTime::currentDateTime().toString(Qt::ISODate);
     if (!app::shouldCheckForUpdates(m_settings.text(app::settings::lastUpdateCheck), now))

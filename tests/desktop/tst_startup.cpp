@@ -55,6 +55,8 @@ private Q_SLOTS:
     void capture_data();
     void capture();
     void recentProjects();
+    void flags_data();
+    void flags();
     void settingsComeBack_data();
     void settingsComeBack();
     void faultySettings_data();
@@ -414,6 +416,29 @@ void TestStartUp::capture()
     QCOMPARE(startUp.window().windowTitle().startsWith(QLatin1String("My Novel")),
              project.startsWith(QLatin1String("My Novel")));
     QVERIFY(!settings.contains(QLatin1String(app::settings::welcomed.name)));
+}
+
+void TestStartUp::flags_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<bool>("withDefaultOn");
+    QTest::addColumn<bool>("withDefaultOff");
+    QTest::newRow("on") << "true" << true << true;
+    QTest::newRow("off") << "false" << false << false;
+    QTest::newRow("empty") << "" << true << false;
+    QTest::newRow("damaged") << "fals" << true << false;
+}
+
+void TestStartUp::flags()
+{
+    QFETCH(QString, entry);
+    QTemporaryDir dir;
+    app::Settings settings(dir.filePath(QStringLiteral("settings.ini")));
+    for (const app::SettingKey &key :
+         {app::settings::backupsByThemselves, app::settings::editorTypewriter})
+        settings.set(key, entry);
+    QTEST(settings.flag(app::settings::backupsByThemselves), "withDefaultOn");
+    QTEST(settings.flag(app::settings::editorTypewriter), "withDefaultOff");
 }
 
 void TestStartUp::recentProjects()
