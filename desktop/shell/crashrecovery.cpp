@@ -131,7 +131,7 @@ void CrashRecovery::askAboutProject(const QString &path, const QStringList &jour
         ask(path,
             tr("Unsaved work of “%1” was found after Ivorel was cut off: %2.")
                 .arg(name, summaryOf(journals)),
-            {{tr("&Open “%1”").arg(name), [this, path] {
+            {{tr("&Open “%1”").arg(QString(name).replace(u'&', QLatin1String("&&"))), [this, path] {
                   if (!m_flows.openHere(path))
                       askAll();
               }}});
