@@ -38,13 +38,21 @@ inline bool isPartOfAnother(const QWidget *widget)
            || widget->inherits("QHeaderView") || widget->inherits("QTableCornerButton");
 }
 
+enum class Walk
+{
+    All,
+    Visible
+};
+
 /// The controls of a window that a screen reader could not name.
-inline QStringList unnamedControls(const QWidget *window)
+inline QStringList unnamedControls(const QWidget *window, Walk walk = Walk::All)
 {
     QStringList unnamed;
     for (QWidget *widget : window->findChildren<QWidget *>()) {
         if (widget->window() != window->window())
             continue; // a dialog over it
+        if (walk == Walk::Visible && !widget->isVisible())
+            continue;
         const bool isControl =
             qobject_cast<QAbstractButton *>(widget) || qobject_cast<QLineEdit *>(widget)
             || qobject_cast<QAbstractItemView *>(widget) || qobject_cast<QComboBox *>(widget)
