@@ -47,6 +47,7 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
     connect(&m_outside, &app::OutsideMonitor::needsReview, this, &SafeKeeping::review);
     connect(&m_outside, &app::OutsideMonitor::done, this, &SafeKeeping::tell);
     connect(&m_outside, &app::OutsideMonitor::failed, this, [this](const QString &message) {
+        m_savesOwn = false;
         m_context.prompts.showError(tr("External Changes"), message);
     });
     connect(&m_outside, &app::OutsideMonitor::mediaChanged, this, &SafeKeeping::askAboutMedia);
@@ -55,6 +56,7 @@ SafeKeeping::SafeKeeping(const PanelContext &context, QWidget *window)
     connect(context.actions["file.save"], &QAction::triggered, this, [this] {
         if (m_outside.hasChangedMedia())
             reloadMedia();
+        keepOwnBySaving();
     });
     // Who comes back to the window from another program may have changed something there.
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -210,9 +212,35 @@ void SafeKeeping::review()
         showOffer(); // the question stays until it is answered
 }
 
+/// The notice says that saving keeps one's own version: also of files that nobody changed here,
+/// which a save leaves as they are.
+void SafeKeeping::keepOwnBySaving()
+{
+    using Kind = app::OutsideOffer::Kind;
+    const app::OpenProject &project = m_context.workspace.current();
+    const Kind kind = m_outside.offer().kind;
+    const bool isNotice = kind == Kind::Notice || kind == Kind::WholeProject;
+    if (!isNotice || project.isBundle() || project.isDirty())
+        return; // a bundle is asked about by the save itself
+    const auto text = [](const char *source) {
+        return QCoreApplication::translate("vl::app::ProjectFlows", source);
+    };
+    m_savesOwn = m_context.prompts.confirm(
+        text("The project changed outside Ivorel since you opened it."),
+        text("Saving puts your version in place of what was changed there. To keep both, save "
+             "under another name."),
+        text("Save My Version"));
+    if (m_savesOwn)
+        m_outside.keepMine();
+}
+
 void SafeKeeping::tell(const QString &message)
 {
     m_context.notices.withdraw(outsideNotice);
+    if (std::exchange(m_savesOwn, false)) {
+        m_context.workspace.current().saveInBackground();
+        return;
+    }
     m_context.notices.show(message);
     // What came of it says more than that it was saved.
     if (m_context.workspace.current().isSaving())

@@ -42,6 +42,7 @@ private:
     void load();
     void merge();
     void review();
+    void keepOwnBySaving();
     void tell(const QString &message);
     bool mayRemoveMuch();
 
@@ -51,6 +52,7 @@ private:
     app::OutsideMonitor m_outside;
     QPointer<ExternalChangesDialog> m_dialog; ///< while it is shown
     bool m_isAsked = false;                   ///< the user asked for a check
+    bool m_savesOwn = false; ///< what is open is saved as soon as it was decided to keep it
 };
 
 } // namespace vl::desktop

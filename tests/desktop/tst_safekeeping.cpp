@@ -14,6 +14,7 @@
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
@@ -95,6 +96,8 @@ class TestSafeKeeping : public QObject
 private Q_SLOTS:
     void savesBehindADialog();
     void savesBesideAnOfferToUndo();
+    void savingKeepsOnesOwnVersion_data();
+    void savingKeepsOnesOwnVersion();
     void theCaretStaysInAMerge();
     void waitsForTheUsersHands_data();
     void waitsForTheUsersHands();
@@ -154,6 +157,46 @@ void TestSafeKeeping::savesBesideAnOfferToUndo()
     desk.window.actions()["file.save"]->trigger();
     QVERIFY(wanted.wait(10000));
     QVERIFY(!undo->isVisible());
+}
+
+void TestSafeKeeping::savingKeepsOnesOwnVersion_data()
+{
+    QTest::addColumn<bool>("confirms");
+    QTest::newRow("confirmed") << true;
+    QTest::newRow("called off") << false;
+}
+
+void TestSafeKeeping::savingKeepsOnesOwnVersion()
+{
+    QFETCH(bool, confirms);
+    Desk desk;
+    const core::ContentId fourth = desk.changeOutside();
+    desk.outside.lookSoon();
+    QTRY_COMPARE_WITH_TIMEOUT(desk.outside.offer().kind, app::OutsideOffer::Kind::Notice, 20000);
+    QVERIFY(!desk.current().isDirty());
+    bool isAnswered = false;
+    QTimer::singleShot(0, &desk.window, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        for (QAbstractButton *button : box->buttons()) {
+            if ((box->buttonRole(button) == QMessageBox::DestructiveRole) != confirms)
+                continue;
+            isAnswered = true;
+            button->click();
+            return;
+        }
+    });
+    desk.window.actions()["file.save"]->trigger();
+    QVERIFY(isAnswered);
+    if (confirms)
+        QTRY_COMPARE_WITH_TIMEOUT(desk.bodyOnDisk(desk.ids.at(1)), QString(), 20000);
+    desk.current().finishSaving();
+    QTRY_COMPARE(desk.outside.offer().kind,
+                 confirms ? app::OutsideOffer::Kind::None : app::OutsideOffer::Kind::Notice);
+    QVERIFY(!desk.current().isDirty());
+    const QString theirs = confirms ? QString() : QStringLiteral("Theirs.");
+    QCOMPARE(desk.bodyOnDisk(desk.ids.at(1)), theirs);
+    QCOMPARE(desk.bodyOnDisk(fourth), theirs);
 }
 
 void TestSafeKeeping::theCaretStaysInAMerge()
