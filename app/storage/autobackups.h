@@ -105,7 +105,7 @@ private:
 Result<std::unique_ptr<core::Project>> loadBackup(const QString &path);
 
 /// Copies a backup to where a project is to stand; it must load. What stands there is put away as
-/// a replaced version first; a project that is open anywhere is not replaced.
+/// a replaced version first; one that a program of this machine has open is not replaced.
 Result<> copyBackup(const QString &backupPath, const QString &bundlePath,
                     const StorageLocations &locations);
 
