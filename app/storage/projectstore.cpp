@@ -191,10 +191,13 @@ Result<OpenedStore> openStore(const QString &path)
 {
     const QFileInfo info(path);
     const QString absolute = QDir::cleanPath(info.absoluteFilePath());
-    return info.isDir() ? openFolder(absolute)
-           : info.suffix().compare(QLatin1String("vellum"), Qt::CaseInsensitive) == 0
-               ? openBundleStore(absolute)
-               : openFolder(absolute);
+    if (info.isDir())
+        return openFolder(absolute);
+    if (info.suffix().compare(QLatin1String("vellum"), Qt::CaseInsensitive) == 0)
+        return openBundleStore(absolute);
+    if (info.exists())
+        return failure(withPath(StoreText::tr("Not a valid Ivorel project file: %1"), absolute));
+    return openFolder(absolute);
 }
 
 Result<std::unique_ptr<ProjectStore>> newFolderStore(const QString &folder,

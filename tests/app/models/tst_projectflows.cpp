@@ -210,6 +210,12 @@ void TestProjectFlows::failuresKeepTheProject()
     QCOMPARE(place.workspace.project().size(), 1);
     QCOMPARE(place.prompts.errors.size(), 1);
     QVERIFY(place.prompts.errors.first().contains(QStringLiteral("missing")));
+    QFile notes(place.dir.filePath(QStringLiteral("notes.txt"))); // it is there, but no project
+    QVERIFY(notes.open(QIODevice::WriteOnly));
+    QVERIFY(!place.flows.open(notes.fileName()));
+    QVERIFY(place.prompts.errors.last().contains(
+        QStringLiteral("Not a valid Ivorel project file: %1").arg(notes.fileName())));
+    place.prompts.errors.removeLast();
 
     place.prompts.path = place.dir.filePath(QStringLiteral("folder"));
     QVERIFY(place.flows.saveAsFolder());
