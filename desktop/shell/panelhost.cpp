@@ -19,10 +19,13 @@
 #include <QtCore/QCryptographicHash>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QMainWindow>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QSplitter>
 
 #include <algorithm>
@@ -86,6 +89,22 @@ void nameAreaButtons(ads::CDockAreaWidget *area)
                                                                   : button->toolTip());
 }
 
+/// The letters of the menu bar lead to its menus from a panel that floats too.
+void addMenuKeys(QWidget *floating, QWidget *window)
+{
+    const auto *main = qobject_cast<QMainWindow *>(window);
+    if (!main)
+        return;
+    QMenuBar *bar = main->menuBar();
+    for (QAction *title : bar->actions()) {
+        auto *key = new QShortcut(QKeySequence::mnemonic(title->text()), floating);
+        QObject::connect(key, &QShortcut::activated, bar, [bar, title] {
+            bar->window()->activateWindow();
+            bar->setActiveAction(title);
+        });
+    }
+}
+
 } // namespace
 
 PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
@@ -112,11 +131,12 @@ PanelHost::PanelHost(QWidget *parent, const PanelContext &context)
     // these two, each widget above it and beside those would have to be a window of the system too.
     QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
     connect(m_manager, &ads::CDockManager::floatingWidgetCreated, this,
-            [&actions = context.actions](ads::CFloatingDockContainer *floating) {
+            [this, &actions = context.actions](ads::CFloatingDockContainer *floating) {
                 floating->setAttribute(Qt::WA_DontCreateNativeAncestors);
                 // The keys of the window work in it too.
                 for (QAction *action : actions.all())
                     floating->addAction(action);
+                addMenuKeys(floating, m_manager->window());
             });
 
     makeDocks(context);

@@ -9,6 +9,7 @@
 #include "desktop/startup/handover.h"
 #include "desktop/startup/updatecheck.h"
 #include "desktop/startup/updatestatus.h"
+#include "desktop/widgets/altletters.h"
 #include "desktop/widgets/caretrest.h"
 #include "desktop/widgets/focusring.h"
 #include "desktop/widgets/programstyle.h"
@@ -75,6 +76,7 @@ void StartUp::applyLook()
     Appearance::apply(m_settings);
     m_focusRing = std::make_unique<FocusRing>();
     m_caretRest = std::make_unique<CaretRest>();
+    m_altLetters = std::make_unique<AltLetters>();
 }
 
 void StartUp::showWindow()

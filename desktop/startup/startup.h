@@ -16,6 +16,7 @@ class Prompts;
 
 namespace vl::desktop {
 
+class AltLetters;
 class CaretRest;
 class EndSignals;
 class FocusRing;
@@ -81,6 +82,7 @@ private:
     std::unique_ptr<Translations> m_translations;
     std::unique_ptr<FocusRing> m_focusRing;
     std::unique_ptr<CaretRest> m_caretRest;
+    std::unique_ptr<AltLetters> m_altLetters;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<EndSignals> m_endSignals;
     HandOver *m_handOver = nullptr;

@@ -11,6 +11,7 @@
 #include "desktop/shell/noticebar.h"
 #include "desktop/shell/panelhost.h"
 #include "desktop/shell/theme.h"
+#include "desktop/widgets/altletters.h"
 #include "desktop/widgets/caretrest.h"
 #include "desktop/widgets/grid.h"
 #include "tests/support/fakeprompts.h"
@@ -458,6 +459,20 @@ void TestShell::panelsFloatAndComeBack()
         QVERIFY(!desk.action("view.floatPanel")->isEnabled()); // it does already
         panels.insert(dock);
     }
+    // The letters of the menus lead into them from there, and write nothing.
+    const desktop::AltLetters letters;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::AltModifier);
+    QMenu *view = desk.menu(QStringLiteral("&View"));
+    QTRY_VERIFY(view->isVisible());
+    view->close();
+    auto *field =
+        desk.window->findChild<QWidget *>(QStringLiteral("codex"))->findChild<QLineEdit *>();
+    QApplication::setActiveWindow(field->window());
+    field->setFocus();
+    QTRY_VERIFY(field->hasFocus());
+    QTest::keyClick(field, Qt::Key_Q, Qt::AltModifier); // which no menu has
+    QTest::keyClick(field, Qt::Key_R);
+    QCOMPARE(field->text(), QStringLiteral("r"));
     QVERIFY(desk.action("view.dockPanels")->isEnabled());
     desk.action("view.dockPanels")->trigger();
     for (const QWidget *dock : panels) {
