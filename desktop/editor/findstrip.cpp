@@ -21,6 +21,7 @@ namespace vl::desktop {
 
 namespace {
 
+constexpr int fieldSteps = 40; // the least width of a field beside its buttons
 constexpr int editPauseMilliseconds = 250;
 constexpr int problemPauseMilliseconds = 700;
 constexpr qsizetype longestTaken = 200; // of a selection that becomes the pattern
@@ -35,6 +36,7 @@ FindStrip::FindStrip(const PanelContext &context, EditorSession *session, Editor
     , m_text(text)
 {
     setAutoFillBackground(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // it fits what there is
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(grid(2), grid(1), grid(2), grid(1));
     rows->setSpacing(grid(1));
@@ -112,16 +114,19 @@ QLayout *FindStrip::makeFindRow()
         connect(made, &QToolButton::clicked, this, slot);
         return made;
     };
-    auto *row = new QHBoxLayout;
-    row->setSpacing(grid(1));
-    row->addWidget(m_pattern, 3);
+    auto *tools = new QHBoxLayout;
+    tools->setSpacing(grid(1));
     for (QToolButton *toggle : {m_case, m_words, m_expression, m_inSelection})
-        row->addWidget(toggle);
-    row->addWidget(m_count, 1);
-    row->addWidget(button("up", tr("Previous (Shift+Enter)"), &FindStrip::findPrevious));
-    row->addWidget(button("down", tr("Next (Enter)"), &FindStrip::findNext));
-    row->addWidget(button("close", tr("Close (Esc)"), &FindStrip::leave));
-    return row;
+        tools->addWidget(toggle);
+    tools->addWidget(m_count, 1);
+    tools->addWidget(button("up", tr("Previous (Shift+Enter)"), &FindStrip::findPrevious));
+    tools->addWidget(button("down", tr("Next (Enter)"), &FindStrip::findNext));
+    tools->addWidget(button("close", tr("Close (Esc)"), &FindStrip::leave));
+    m_findBox = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_findBox->setSpacing(grid(1));
+    m_findBox->addWidget(m_pattern, 3);
+    m_findBox->addLayout(tools, 1);
+    return m_findBox;
 }
 
 QWidget *FindStrip::makeReplaceRow()
@@ -139,19 +144,17 @@ QWidget *FindStrip::makeReplaceRow()
     connect(one, &QPushButton::clicked, this, &FindStrip::replaceOne);
     m_replaceAll = new QPushButton(tr("Replace A&ll"), m_replaceRow);
     connect(m_replaceAll, &QPushButton::clicked, this, &FindStrip::replaceAll);
-    // Large buttons stand below the field.
-    auto *row = new QBoxLayout(
-        fontScale() > 1.5 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, m_replaceRow);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(grid(1));
+    m_replaceBox = new QBoxLayout(QBoxLayout::LeftToRight, m_replaceRow);
+    m_replaceBox->setContentsMargins(0, 0, 0, 0);
+    m_replaceBox->setSpacing(grid(1));
     auto *field = new QHBoxLayout;
     field->addWidget(m_replacement, 1);
     field->addWidget(m_keepsCase);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(one);
     buttons->addWidget(m_replaceAll);
-    row->addLayout(field, 1);
-    row->addLayout(buttons);
+    m_replaceBox->addLayout(field, 1);
+    m_replaceBox->addLayout(buttons);
     for (QLayout *part : {field, buttons})
         part->setSpacing(grid(1));
     // What is typed and pressed each time comes before what is seldom switched.
@@ -447,6 +450,30 @@ void FindStrip::keyPressEvent(QKeyEvent *event)
         leave();
     else
         QWidget::keyPressEvent(event);
+}
+
+/// Where the panel is narrow or the texts are large, the buttons stand below the fields.
+void FindStrip::fitWidth()
+{
+    for (QBoxLayout *box : {m_findBox, m_replaceBox}) {
+        const int needed = grid(fieldSteps) + box->itemAt(1)->minimumSize().width();
+        box->setDirection(needed > contentsRect().width() ? QBoxLayout::TopToBottom
+                                                          : QBoxLayout::LeftToRight);
+    }
+}
+
+void FindStrip::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitWidth();
+}
+
+void FindStrip::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    // The buttons hear of the font after the strip.
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        QMetaObject::invokeMethod(this, &FindStrip::fitWidth, Qt::QueuedConnection);
 }
 
 void FindStrip::showEvent(QShowEvent *event)

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -43,6 +44,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     enum class AfterSearch
@@ -69,6 +72,7 @@ private:
     void replaceOne();
     void replaceAll();
     void updateCount();
+    void fitWidth();
     bool isSearching() const { return m_cancel != nullptr; }
     void cancelSearch();
 
@@ -82,6 +86,8 @@ private:
     QToolButton *m_expression = nullptr;
     QToolButton *m_inSelection = nullptr;
     QToolButton *m_keepsCase = nullptr;
+    QBoxLayout *m_findBox = nullptr;
+    QBoxLayout *m_replaceBox = nullptr;
     ElidedLabel *m_count = nullptr;
     QLabel *m_problem = nullptr; ///< what is wrong with the expression
     QWidget *m_replaceRow = nullptr;

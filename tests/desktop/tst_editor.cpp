@@ -492,6 +492,13 @@ void TestEditor::findsAndReplaces()
     QTest::keyClicks(desk.field(QStringLiteral("Find")), QStringLiteral(")"));
     QTRY_VERIFY(problem().isEmpty());
     QTRY_VERIFY(desk.count().endsWith(QStringLiteral("of 3")));
+
+    // In a narrow panel the fields keep their width, and the buttons their texts.
+    desk.strip->parentWidget()->setFixedWidth(260);
+    QTRY_COMPARE(desk.strip->width(), 260);
+    for (const QPushButton *button : desk.strip->findChildren<QPushButton *>())
+        QTRY_VERIFY(button->width() >= button->minimumSizeHint().width());
+    QTRY_VERIFY(desk.field(QStringLiteral("Find"))->width() > 200);
 }
 
 void TestEditor::distractionFreeGivesTheTextBack()
