@@ -191,6 +191,7 @@ void FindStrip::showReplace()
 void FindStrip::takeSelection()
 {
     const QTextCursor cursor = m_text->textCursor();
+    m_showsHit = false;
     m_origin = m_session->live()->toShown(cursor.selectionStart());
     const QString selected = cursor.selectedText();
     if (selected.isEmpty() || m_pattern->hasFocus() || m_replacement->hasFocus())
@@ -267,6 +268,10 @@ void FindStrip::take(quint64 number, const app::SearchResult &result)
     case AfterSearch::Stay:
         break;
     case AfterSearch::GoToFirst:
+        // What was found before more was typed must not stay selected, for the next key to replace.
+        if (m_hits.empty() && std::exchange(m_showsHit, false) && m_session->live()
+            && m_session->live()->toShown(m_text->textCursor().selectionStart()) == m_origin)
+            m_text->select(m_origin, m_origin);
         goTo(app::hitFrom(m_hits, m_origin));
         break;
     case AfterSearch::GoToNext:
@@ -336,6 +341,7 @@ void FindStrip::goTo(qsizetype number)
     m_text->select(hit.position, hit.position + hit.length);
     m_text->showCaretWithin();
     m_origin = hit.position;
+    m_showsHit = true;
     updateCount();
 }
 

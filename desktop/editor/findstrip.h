@@ -97,6 +97,7 @@ private:
     std::vector<app::SearchHit> m_hits; ///< in places of the shown text
     app::SearchResult m_told;           ///< the last result but for its hits
     qsizetype m_origin = 0;             ///< where the search began
+    bool m_showsHit = false;            ///< what is selected was selected by the search
     qsizetype m_from = 0;               ///< the part to look in
     qsizetype m_to = -1;
     AfterSearch m_next = AfterSearch::Stay;

@@ -493,6 +493,11 @@ void TestEditor::findsAndReplaces()
     QTRY_VERIFY(problem().isEmpty());
     QTRY_VERIFY(desk.count().endsWith(QStringLiteral("of 3")));
 
+    // What only began like the pattern does not stay selected.
+    QTest::keyClicks(desk.field(QStringLiteral("Find")), QStringLiteral("zz"));
+    QTRY_COMPARE(desk.count(), QStringLiteral("Not found"));
+    QVERIFY(!desk.text->textCursor().hasSelection());
+
     // In a narrow panel the fields keep their width, and the buttons their texts.
     desk.strip->parentWidget()->setFixedWidth(260);
     QTRY_COMPARE(desk.strip->width(), 260);
