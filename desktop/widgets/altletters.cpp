@@ -2,6 +2,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 namespace vl::desktop {
 

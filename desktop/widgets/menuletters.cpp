@@ -1,5 +1,6 @@
 #include "desktop/widgets/menuletters.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QMenu>
 
