@@ -75,11 +75,11 @@ void DamagedProjectDialog::addFiles(QLayout *layout)
     m_files->setItemDelegate(new RowDelegate(m_files));
     for (const app::LeftOutFile &file : m_project.leftOut) {
         const app::ConflictingCopy *conflict = conflictOf(file.path);
-        const QString text =
-            conflict ? tr("%1 (a conflicting copy of “%2”)")
-                           .arg(file.path,
-                                app::readableName(conflict->original, conflict->originalBytes))
-                     : rowOf(file);
+        const QString text = conflict ? tr("Conflicting copy of “%1” (%2)")
+                                            .arg(app::rowText(app::readableName(
+                                                     conflict->original, conflict->originalBytes)),
+                                                 file.path)
+                                      : rowOf(file);
         auto *item = new QListWidgetItem(text, m_files);
         item->setToolTip(app::plainToolTip(file.reason));
     }
@@ -104,7 +104,11 @@ void DamagedProjectDialog::showFile(int row)
     if (row < 0)
         return;
     const app::LeftOutFile &file = m_project.leftOut[std::size_t(row)];
-    if (const app::ConflictingCopy *conflict = conflictOf(file.path)) {
+    const app::ConflictingCopy *conflict = conflictOf(file.path);
+    m_details->setToolTip(
+        conflict ? tr("The file that stays in red (−), the conflicting copy in green (+)")
+                 : QString());
+    if (conflict) {
         const app::ReadableVersions versions =
             app::readableVersions(conflict->originalBytes, conflict->bytes);
         m_details->show(versions.before, versions.after);

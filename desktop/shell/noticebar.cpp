@@ -13,9 +13,13 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
+#include <utility>
+
 namespace vl::desktop {
 
 namespace {
+
+constexpr int againMilliseconds = 100;
 
 /// One question; a quiet tint and a line of the highlight colour set it off from the panels.
 class NoticeRow final : public QWidget
@@ -45,6 +49,9 @@ NoticeBar::NoticeBar(QWidget *parent)
         if (old && now && isAncestorOf(now) && !isAncestorOf(old))
             m_before = old;
     });
+    m_later.setSingleShot(true);
+    m_later.setInterval(againMilliseconds);
+    connect(&m_later, &QTimer::timeout, this, &NoticeBar::settle);
     hide();
 }
 
@@ -54,10 +61,8 @@ void NoticeBar::ask(const QString &id, const QString &text, const QList<NoticeAc
     QWidget *row = makeRow(id, text, answers);
     m_rows.emplace(id, row);
     m_layout->addWidget(row);
-    row->show(); // at once, also where another question stands already
-    show();
-    QAccessibleEvent alert(row, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    row->hide();
+    settle();
 }
 
 void NoticeBar::withdraw(const QString &id)
@@ -69,10 +74,31 @@ void NoticeBar::withdraw(const QString &id)
     const QWidget *focused = window()->focusWidget();
     if (m_before && focused && found->second->isAncestorOf(focused))
         m_before->setFocus(Qt::OtherFocusReason);
-    found->second->hide();
-    found->second->deleteLater(); // it may be the sender
+    found->second->setEnabled(false);
+    m_gone.append(found->second);
     m_rows.erase(found);
+    settle();
+}
+
+/// Moves nothing while a mouse button is down: a drag would end at another place than it aims at.
+void NoticeBar::settle()
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        m_later.start();
+        return;
+    }
+    for (QWidget *row : std::exchange(m_gone, {})) {
+        row->hide();
+        row->deleteLater(); // it may be the sender
+    }
     setVisible(!m_rows.empty());
+    for (const auto &[id, row] : m_rows) {
+        if (!row->isHidden())
+            continue;
+        row->show(); // at once, also where another question stands already
+        QAccessibleEvent alert(row, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }
 
 QWidget *NoticeBar::makeRow(const QString &id, const QString &text,

@@ -2,6 +2,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
 #include <functional>
@@ -36,10 +37,13 @@ public:
     bool isAsking(const QString &id) const { return m_rows.contains(id); }
 
 private:
+    void settle();
     QWidget *makeRow(const QString &id, const QString &text, const QList<NoticeAction> &answers);
 
     QVBoxLayout *m_layout;
     std::map<QString, QWidget *> m_rows;
+    QList<QWidget *> m_gone; ///< rows that are answered and still shown
+    QTimer m_later;
     QPointer<QWidget> m_before; ///< where the focus was before it came here
 };
 

@@ -3,10 +3,12 @@
 #include "app/models/autosavecontroller.h"
 #include "app/models/prompts.h"
 #include "app/models/workspace.h"
+#include "app/storage/projectpaths.h"
 #include "desktop/actions/actionregistry.h"
 #include "desktop/dialogs/externalchangesdialog.h"
 #include "desktop/shell/notices.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QApplication>
 
@@ -18,6 +20,7 @@ constexpr int openingMilliseconds = 2000; // in which the window has the process
 const QLatin1String outsideNotice("outsideChanges");
 const QLatin1String mediaNotice("outsideMedia");
 const QLatin1String readOnlyNotice("readOnly");
+const QLatin1String recordsNotice("missingRecords");
 
 /// Nothing is put in place of what is under the user's hands: what is dragged or selected with the
 /// mouse, a menu, a dialog.
@@ -76,6 +79,24 @@ void SafeKeeping::followProject()
             &app::Workspace::flush);
     m_autosave->start();
     tellReadOnly();
+    tellMissingRecords();
+}
+
+/// A folder without the file loads as if nothing had ever been set in it.
+void SafeKeeping::tellMissingRecords()
+{
+    const app::OpenProject &project = m_context.workspace.current();
+    m_context.notices.withdraw(recordsNotice);
+    const QFileInfo records(QDir(project.path()).filePath(app::recordsPath()));
+    if (!project.hasLocation() || project.isBundle() || project.project().size() == 0
+        || records.exists())
+        return;
+    m_context.notices.ask(
+        recordsNotice,
+        tr("“%1” is missing in the folder of this project: its calendar, plot threads, goals, pins "
+           "and saved searches stand as in a new one. A backup may still have them.")
+            .arg(app::recordsPath()),
+        {{tr("Show &Backups…"), [this] { m_context.actions["file.backups"]->trigger(); }}});
 }
 
 /// Nobody writes for an hour into what is saved nowhere without having been told.

@@ -34,6 +34,7 @@ public:
 private:
     void followProject();
     void tellReadOnly();
+    void tellMissingRecords();
     void check();
     void showOffer();
     void askAbout(const app::OutsideOffer &offer);

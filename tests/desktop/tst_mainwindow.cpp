@@ -443,7 +443,12 @@ void TestMainWindow::noticesOfferAndAsk()
                      {{QStringLiteral("Look"), [&] { answer = QStringLiteral("looked"); }},
                       {QStringLiteral("Keep Mine"), {}}});
     };
+    // Nothing moves away under the mouse.
+    QTest::mousePress(desk.window.statusBar(), Qt::LeftButton);
     ask(QStringLiteral("A file was changed."));
+    QVERIFY(!shownButton(QStringLiteral("Look")));
+    QTest::mouseRelease(desk.window.statusBar(), Qt::LeftButton);
+    QTRY_VERIFY(shownButton(QStringLiteral("Look")));
     ask(QStringLiteral("Two files were changed.")); // in place of the first
     QVERIFY(shownButton(QStringLiteral("Look")));
     desk.window.activateWindow();
