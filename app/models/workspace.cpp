@@ -2,6 +2,8 @@
 
 #include <QtCore/QScopedValueRollback>
 
+#include <algorithm>
+
 namespace vl::app {
 
 Workspace::Workspace()
@@ -21,6 +23,7 @@ void Workspace::replaceProject(std::unique_ptr<OpenProject> project)
     const std::unique_ptr<OpenProject> old = std::exchange(m_current, std::move(project));
     old->disconnect(this);
     m_selection.clear();
+    m_lostSelection.clear();
     m_hasTyped = false;
     listen();
     Q_EMIT projectReplaced();
@@ -34,6 +37,7 @@ void Workspace::listen()
     connect(m_current.get(), &OpenProject::changed, this, [this](const core::ChangeSet &changes) {
         dropLostSelection(changes);
         Q_EMIT changed(changes);
+        takeLostSelection();
     });
     connect(m_current.get(), &OpenProject::historyChanged, this, &Workspace::historyChanged);
     connect(m_current.get(), &OpenProject::locationChanged, this, &Workspace::locationChanged);
@@ -71,6 +75,8 @@ void Workspace::select(const QList<core::ContentId> &ids)
     if (there == m_selection)
         return;
     m_selection = there;
+    if (!there.isEmpty())
+        m_lostSelection.clear();
     Q_EMIT selectionChanged();
 }
 
@@ -89,8 +95,25 @@ void Workspace::dropLostSelection(const core::ChangeSet &changes)
         };
         return removedFrom(changes.objects()) || removedFrom(changes.categories());
     };
-    if (m_selection.removeIf(isLost) > 0)
-        Q_EMIT selectionChanged();
+    const QList<core::ContentId> before = m_selection;
+    if (m_selection.removeIf(isLost) == 0)
+        return;
+    if (m_lostSelection.isEmpty()) // a group removes one after the other
+        m_lostSelection = before;
+    Q_EMIT selectionChanged();
+}
+
+/// What is deleted and comes back with an undo is what the user was at.
+void Workspace::takeLostSelection()
+{
+    if (!m_isStepping || !m_selection.isEmpty() || m_lostSelection.isEmpty())
+        return;
+    const auto isBack = [&](const core::ContentId &id) {
+        return project().find(id) || project().taxonomy().contains(id);
+    };
+    const QList<core::ContentId> lost = m_lostSelection;
+    if (std::all_of(lost.begin(), lost.end(), isBack))
+        select(lost);
 }
 
 } // namespace vl::app

@@ -89,9 +89,11 @@ Q_SIGNALS:
 private:
     void listen();
     void dropLostSelection(const core::ChangeSet &changes);
+    void takeLostSelection();
 
     std::unique_ptr<OpenProject> m_current;
     QList<core::ContentId> m_selection;
+    QList<core::ContentId> m_lostSelection; ///< what was selected when some of it was deleted
     bool m_isStepping = false;
     bool m_hasTyped = false; ///< since what was typed was handed in last
 };

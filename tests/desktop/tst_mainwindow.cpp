@@ -246,6 +246,8 @@ void TestMainWindow::theTreeMovesAndRenames()
     QCOMPARE(desk.tree->model()->rowCount(), 1);
     desk.window.workspace().undo();
     QCOMPARE(desk.tree->model()->rowCount(), 2);
+    QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Renamed"));
+    QCOMPARE(desk.window.workspace().selection().size(), 1);
 
     desk.tree->setCurrentIndex(desk.tree->model()->index(0, 0));
     desk.prompts.choice = 2; // of prose, screenplay, note
