@@ -63,6 +63,16 @@ void ObjectTree::showProject()
     expandToDepth(0);
 }
 
+/// A header that is painted measures its columns, which lays out rows that changed just before. In
+/// the middle of painting nothing else that becomes dirty is painted: it is once that is over.
+void ObjectTree::doItemsLayout()
+{
+    QTreeView::doItemsLayout();
+    if (header()->viewport()->testAttribute(Qt::WA_WState_InPaintEvent))
+        QMetaObject::invokeMethod(
+            viewport(), [this] { viewport()->update(); }, Qt::QueuedConnection);
+}
+
 // --- filter
 
 QLineEdit *ObjectTree::makeFilter(const QString &accessibleName, QWidget *parent)

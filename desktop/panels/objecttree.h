@@ -46,6 +46,7 @@ public:
     void clearFilter();
     /// Goes to the object and lets its name be written, without the filter if that hides it.
     void rename(const core::ContentId &id);
+    void doItemsLayout() override;
 
 Q_SIGNALS:
     /// Other rows are selected, by the user's hand or the window's.
