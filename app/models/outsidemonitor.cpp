@@ -147,10 +147,38 @@ OutsideMonitor::~OutsideMonitor()
 {
     m_looking.waitForFinished();
     m_deciding.waitForFinished();
+    keepAside(m_workspace.current());
+}
+
+/// What was saved here and then changed by others stands nowhere else any more, once the project is
+/// left without a decision.
+void OutsideMonitor::keepAside(const OpenProject &project) const
+{
+    if (!project.hasLocation() || m_state.isUnchanged())
+        return;
+    const bool isOnlyHere =
+        m_state.place != OutsideState::Place::There || !m_state.unsettled.isEmpty()
+        || std::any_of(m_state.files.begin(), m_state.files.end(),
+                       [](const OutsideFile &file) { return file.base.has_value(); });
+    if (!isOnlyHere)
+        return;
+    const BackupWork backup{m_locations.backups(),
+                            bundleBaseName(project.path()),
+                            project.path(),
+                            project.isBundle(),
+                            project.folder(),
+                            project.snapshot(),
+                            false};
+    if (const Result<> kept = backup.run(); !kept)
+        qWarning("What is open was not backed up: %s", qPrintable(kept.message()));
 }
 
 void OutsideMonitor::follow()
 {
+    const OpenProject *current = &m_workspace.current();
+    if (m_followed && m_followed != current)
+        keepAside(*m_followed);
+    m_followed = current;
     m_watcher.watch(m_workspace.current().path(), m_workspace.current().isBundle());
     m_waitingSince.invalidate();
     m_patienceTimer.stop();

@@ -18,6 +18,7 @@
 
 namespace vl::app {
 
+class OpenProject;
 class Workspace;
 
 /// Follows what others do to the files of the open project: notices it, offers what can be done
@@ -107,6 +108,7 @@ private:
     };
 
     void follow();
+    void keepAside(const OpenProject &project) const;
     void look();
     void lookEnded();
     bool waits();
@@ -121,6 +123,7 @@ private:
     void tellMedia(const OutsideState &state);
 
     Workspace &m_workspace;
+    const OpenProject *m_followed = nullptr; ///< stands until the next is followed
     StorageLocations m_locations;
     OutsideWatcher m_watcher;
     OutsideState m_state;

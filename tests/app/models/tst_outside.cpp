@@ -28,6 +28,8 @@ private Q_SLOTS:
     void keepsMine();
     void savingOverTheirsKeepsABackup_data();
     void savingOverTheirsKeepsABackup();
+    void whatIsLeftUndecidedIsKept_data();
+    void whatIsLeftUndecidedIsKept();
     void typedWordsTakePart();
     void failuresChangeNothing();
     void putOffWhenOpened();
@@ -310,6 +312,35 @@ void TestOutside::savingOverTheirsKeepsABackup()
     QVERIFY(desk.project().save(app::OutsideChanges::Overwrite));
     QCOMPARE(desk.bodyOnDisk(0), QStringLiteral("Mine."));
     QVERIFY(desk.backups().contains(mark));
+}
+
+void TestOutside::whatIsLeftUndecidedIsKept_data()
+{
+    QTest::addColumn<bool>("asBundle");
+    QTest::addColumn<bool>("isClosed"); // or another project is opened
+    QTest::newRow("folder, closed") << false << true;
+    QTest::newRow("folder, another") << false << false;
+    QTest::newRow("bundle, closed") << true << true;
+    QTest::newRow("bundle, another") << true << false;
+}
+
+/// A client that puts an older version back takes away what was saved.
+void TestOutside::whatIsLeftUndecidedIsKept()
+{
+    QFETCH(bool, asBundle);
+    QFETCH(bool, isClosed);
+    Desk desk(asBundle);
+    desk.write(0, QStringLiteral("Saved by me."));
+    QVERIFY(desk.project().save());
+    desk.othersWrite(0, original);
+    desk.check();
+    QVERIFY(desk.kind() != Kind::None);
+    QVERIFY(!desk.backups().contains("Saved by me."));
+    if (isClosed)
+        desk.monitor.reset();
+    else
+        desk.workspace.replaceProject(std::make_unique<app::OpenProject>());
+    QVERIFY(desk.backups().contains("Saved by me."));
 }
 
 void TestOutside::typedWordsTakePart()
