@@ -7,6 +7,7 @@
 #include "core/content/document.h"
 
 #include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QFileInfo>
 #include <QtCore/QThread>
 
 namespace vl::app {
@@ -206,6 +207,9 @@ void BackupKeeper::report(const QString &projectPath, BackupReason reason,
     --m_running;
     const bool isPresent = projectPath == m_path;
     if (!result) {
+        // That it is gone was told while it was open; there is nothing left to be done about it.
+        if (reason == BackupReason::Closed && !isPresent && !QFileInfo::exists(projectPath))
+            return;
         const bool isAsked = reason == BackupReason::ByHand;
         if (isPresent && !isAsked)
             m_owed = reason;

@@ -26,8 +26,10 @@ OutsideOffer OutsideOffer::of(const OutsideState &state, const std::vector<Recon
     if (state.hasVanished()) {
         offer.kind = Kind::Vanished;
         offer.text = goneText(path);
-        offer.advice = tr("Nothing is removed here. If the disk or the sync folder comes back, all "
-                          "goes on as before; otherwise save to write everything there again.");
+        offer.advice =
+            tr("Nothing is removed here. If the disk or the sync folder comes back, all "
+               "goes on as before; otherwise save to write everything there again, but for "
+               "pictures and other media, which were only there.");
         return offer;
     }
     offer.files = int(state.files.size());

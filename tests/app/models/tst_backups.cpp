@@ -44,6 +44,7 @@ private Q_SLOTS:
     void listsAndCounts();
     void madeWhenOpenedSavedAndClosed_data();
     void madeWhenOpenedSavedAndClosed();
+    void saysNothingOfWhatIsGone();
     void putOffWhenOpened_data();
     void putOffWhenOpened();
     void dailyWhateverTheClock_data();
@@ -454,6 +455,19 @@ struct KeptProject
 };
 
 } // namespace
+
+/// Who saves elsewhere because the folder is gone knows that it is.
+void TestBackups::saysNothingOfWhatIsGone()
+{
+    KeptProject project(at(QStringLiteral("novel")), m_locations);
+    project.write();
+    QVERIFY(project.workspace.current().save());
+    project.settle();
+    QVERIFY(QDir(at(QStringLiteral("novel"))).removeRecursively());
+    QVERIFY(project.workspace.current().saveAsFolder(at(QStringLiteral("second"))));
+    project.settle();
+    QCOMPARE(project.faults, QStringList());
+}
 
 void TestBackups::putOffWhenOpened_data()
 {
