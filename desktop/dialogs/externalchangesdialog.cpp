@@ -54,6 +54,7 @@ ExternalChangesDialog::ExternalChangesDialog(const app::OutsideState &state,
     split->addWidget(m_pages);
     split->setStretchFactor(0, 2);
     split->setStretchFactor(1, 5);
+    split->setSizes({grid(40), grid(80)});
     layout->addWidget(split, 1);
     buildButtons(layout);
 
