@@ -12,6 +12,9 @@
 #include "desktop/dialogs/restoredocumentdialog.h"
 #include "desktop/shell/notices.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
 namespace vl::desktop {
 
 namespace {
@@ -119,8 +122,9 @@ void ProjectCare::showBackups()
 
 void ProjectCare::openCopy(const QString &backupPath)
 {
+    const app::OpenProject &project = m_context.workspace.current();
     const QString target = m_context.prompts.chooseBundleToSave(
-        tr("%1 (backup)").arg(m_context.workspace.current().name()));
+        QFileInfo(project.path()).absoluteDir().filePath(tr("%1 (backup)").arg(project.name())));
     if (target.isEmpty())
         return;
     const app::Result<> copied =
