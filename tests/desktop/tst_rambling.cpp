@@ -4,6 +4,15 @@
 
 using namespace vl;
 
+#ifdef __SANITIZE_ADDRESS__
+// What the docking library drops when it puts one widget in the place of another.
+extern "C" const char *__lsan_default_suppressions(); // NOLINT(bugprone-reserved-identifier)
+extern "C" const char *__lsan_default_suppressions()  // NOLINT(bugprone-reserved-identifier)
+{
+    return "leak:QLayoutPrivate::createWidgetItem\nleak:QLayout::replaceWidget\n";
+}
+#endif
+
 // To walk on: IVOREL_RAMBLE_SEED=7 IVOREL_RAMBLE_STEPS=5000 tst_rambling prints each step as it is
 // done; IVOREL_RAMBLE_PROJECT names another project folder, of which a copy is used.
 class TestRambling : public QObject
