@@ -489,7 +489,9 @@ QVariant CodexModel::headerData(int section, Qt::Orientation orientation, int ro
 
 bool CodexModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (role != Qt::EditRole || !index.isValid() || index.column() != NameColumn)
+    // A cell that an undo closes hands in what was written there: no step for the middle of one.
+    if (role != Qt::EditRole || !index.isValid() || index.column() != NameColumn
+        || m_workspace.isStepping())
         return false;
     return CodexOperations(m_workspace).rename(idAt(index), value.toString());
 }

@@ -399,8 +399,9 @@ bool DocumentsModel::setData(const QModelIndex &index, const QVariant &value, in
 {
     auto *edited = m_workspace.project().find<core::Document>(idAt(index));
     const QString text = value.toString().simplified();
+    // A cell that an undo closes hands in what was written there: no step for the middle of one.
     if (role != Qt::EditRole || !edited || index.column() != TitleColumn || text.isEmpty()
-        || text == edited->title())
+        || text == edited->title() || m_workspace.isStepping())
         return false;
     m_workspace.push<core::SetDocumentTitleCommand>(*edited, text);
     return true;

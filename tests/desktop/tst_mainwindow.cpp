@@ -249,6 +249,18 @@ void TestMainWindow::theTreeMovesAndRenames()
     QCOMPARE(desk.tree->currentIndex().data().toString(), QStringLiteral("Renamed"));
     QCOMPARE(desk.window.workspace().selection().size(), 1);
 
+    // A cell that closes while a step is undone makes no step of its own.
+    const core::CommandStack &history = desk.window.workspace().history();
+    const auto redoable = history.redoCount();
+    const auto late =
+        connect(&desk.window.workspace(), &app::Workspace::changed, &desk.window, [&] {
+            desk.tree->model()->setData(desk.tree->model()->index(0, 0), QStringLiteral("Late"));
+        });
+    desk.window.workspace().undo();
+    disconnect(late);
+    QCOMPARE(history.redoCount(), redoable + 1);
+    desk.window.workspace().redo();
+
     desk.tree->setCurrentIndex(desk.tree->model()->index(0, 0));
     desk.prompts.choice = 2; // of prose, screenplay, note
     desk.window.actions()["doc.changeKind"]->trigger();
