@@ -363,6 +363,14 @@
         <source>Unsaved &amp;Work…</source>
         <translation>Unsaved &amp;Work…</translation>
     </message>
+    <message>
+        <source>&amp;Float Panel</source>
+        <translation>&amp;Float Panel</translation>
+    </message>
+    <message>
+        <source>Doc&amp;k Floating Panels</source>
+        <translation>Doc&amp;k Floating Panels</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -640,6 +648,14 @@
     <message>
         <source>version, licence, credits, folders</source>
         <translation>version, licence, credits, folders</translation>
+    </message>
+    <message>
+        <source>detach, undock, own window</source>
+        <translation>detach, undock, own window</translation>
+    </message>
+    <message>
+        <source>attach, put back</source>
+        <translation>attach, put back</translation>
     </message>
 </context>
 <context>
@@ -3601,10 +3617,6 @@ Do you want to delete it anyway?</translation>
         <source>The project's files are gone from the disk: %1</source>
         <translation>The project's files are gone from the disk: %1</translation>
     </message>
-    <message>
-        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</source>
-        <translation>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</translation>
-    </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
         <translation>
@@ -3664,6 +3676,10 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Reloaded the project with the updated media files.</source>
         <translation>Reloaded the project with the updated media files.</translation>
+    </message>
+    <message>
+        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again, but for pictures and other media, which were only there.</source>
+        <translation>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again, but for pictures and other media, which were only there.</translation>
     </message>
 </context>
 <context>
@@ -3748,6 +3764,21 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Save There Again</source>
         <translation>Save There Again</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) beside the text cannot be read.</source>
+        <translation>
+            <numerusform>%n file beside the text cannot be read.</numerusform>
+            <numerusform>%n files beside the text cannot be read.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything you wrote is saved; what cannot be read stays where it is.</source>
+        <translation>Everything you wrote is saved; what cannot be read stays where it is.</translation>
+    </message>
+    <message>
+        <source>Save the Rest</source>
+        <translation>Save the Rest</translation>
     </message>
 </context>
 <context>
@@ -4008,6 +4039,10 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>The folder is not empty: %1</source>
         <translation>The folder is not empty: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>Not a valid Ivorel project file: %1</translation>
     </message>
 </context>
 <context>
@@ -4886,6 +4921,10 @@ Do you want to delete it anyway?</translation>
     <message>
         <source>Open Project</source>
         <translation>Open Project</translation>
+    </message>
+    <message>
+        <source>It is in the newest backup, and missing in this file.</source>
+        <translation>It is in the newest backup, and missing in this file.</translation>
     </message>
 </context>
 <context>
@@ -7080,10 +7119,6 @@ What is said.
         <translation>Files that a repaired copy leaves out</translation>
     </message>
     <message>
-        <source>%1 (a conflicting copy of “%2”)</source>
-        <translation>%1 (a conflicting copy of “%2”)</translation>
-    </message>
-    <message>
         <source>unknown</source>
         <translation>unknown</translation>
     </message>
@@ -7117,6 +7152,30 @@ What is said.
     <message>
         <source>They go into the folder “conflicting copies” of the project, then it opens.</source>
         <translation>They go into the folder “conflicting copies” of the project, then it opens.</translation>
+    </message>
+    <message>
+        <source>The list of what the file holds is damaged or missing too: more may be gone than can be named.</source>
+        <translation>The list of what the file holds is damaged or missing too: more may be gone than can be named.</translation>
+    </message>
+    <message>
+        <source>“%1” (%2)</source>
+        <translation>“%1” (%2)</translation>
+    </message>
+    <message>
+        <source>What can still be read of it:</source>
+        <translation>What can still be read of it:</translation>
+    </message>
+    <message>
+        <source>In the newest backup:</source>
+        <translation>In the newest backup:</translation>
+    </message>
+    <message>
+        <source>Conflicting copy of “%1” (%2)</source>
+        <translation>Conflicting copy of “%1” (%2)</translation>
+    </message>
+    <message>
+        <source>The file that stays in red (−), the conflicting copy in green (+)</source>
+        <translation>The file that stays in red (−), the conflicting copy in green (+)</translation>
     </message>
 </context>
 <context>
@@ -7323,6 +7382,14 @@ What is said.
     <message>
         <source>Clear the Filter</source>
         <translation>Clear the Filter</translation>
+    </message>
+    <message>
+        <source>More ▾</source>
+        <translation>More ▾</translation>
+    </message>
+    <message>
+        <source>Change the selected documents</source>
+        <translation>Change the selected documents</translation>
     </message>
 </context>
 <context>
@@ -8348,6 +8415,10 @@ What is said.
         <source>What was deleted is restored.</source>
         <translation>What was deleted is restored.</translation>
     </message>
+    <message>
+        <source>The project is not saved yet: it has no backups.</source>
+        <translation>The project is not saved yet: it has no backups.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ProjectTools</name>
@@ -8621,6 +8692,18 @@ What is said.
         <source>&amp;Compare and Merge…</source>
         <translation>&amp;Compare and Merge…</translation>
     </message>
+    <message>
+        <source>“%1” is open to be read only. What you change here is saved nowhere until you save it under another name.</source>
+        <translation>“%1” is open to be read only. What you change here is saved nowhere until you save it under another name.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing in the folder of this project: its calendar, plot threads, goals, pins and saved searches stand as in a new one. A backup may still have them.</source>
+        <translation>“%1” is missing in the folder of this project: its calendar, plot threads, goals, pins and saved searches stand as in a new one. A backup may still have them.</translation>
+    </message>
+    <message>
+        <source>Show &amp;Backups…</source>
+        <translation>Show &amp;Backups…</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ShortcutsPage</name>
@@ -8699,6 +8782,10 @@ What is said.
     <message>
         <source>“%1” belongs to “%2” now.</source>
         <translation>“%1” belongs to “%2” now.</translation>
+    </message>
+    <message>
+        <source>“%1” writes, moves or copies in texts and cannot be a shortcut.</source>
+        <translation>“%1” writes, moves or copies in texts and cannot be a shortcut.</translation>
     </message>
 </context>
 <context>

@@ -363,6 +363,14 @@
         <source>Unsaved &amp;Work…</source>
         <translation>Traba&amp;jo sin guardar…</translation>
     </message>
+    <message>
+        <source>&amp;Float Panel</source>
+        <translation>Panel &amp;flotante</translation>
+    </message>
+    <message>
+        <source>Doc&amp;k Floating Panels</source>
+        <translation>Acoplar &amp;los paneles flotantes</translation>
+    </message>
 </context>
 <context>
     <name>BatchMembers</name>
@@ -640,6 +648,14 @@
     <message>
         <source>version, licence, credits, folders</source>
         <translation>versión, licencia, créditos, carpetas</translation>
+    </message>
+    <message>
+        <source>detach, undock, own window</source>
+        <translation>desacoplar, separar, ventana propia</translation>
+    </message>
+    <message>
+        <source>attach, put back</source>
+        <translation>acoplar, devolver a su sitio</translation>
     </message>
 </context>
 <context>
@@ -3601,10 +3617,6 @@ Do you want to delete it anyway?</source>
         <source>The project's files are gone from the disk: %1</source>
         <translation>Los archivos del proyecto ya no están en el disco: %1</translation>
     </message>
-    <message>
-        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again.</source>
-        <translation>Aquí no se elimina nada. Si el disco o la carpeta de sincronización vuelve, todo sigue como antes; si no, guarde para escribirlo todo allí de nuevo.</translation>
-    </message>
     <message numerus="yes">
         <source>%n project file(s) changed outside Ivorel and cannot be read.</source>
         <translation>
@@ -3664,6 +3676,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Reloaded the project with the updated media files.</source>
         <translation>El proyecto se volvió a cargar con los archivos de medios actualizados.</translation>
+    </message>
+    <message>
+        <source>Nothing is removed here. If the disk or the sync folder comes back, all goes on as before; otherwise save to write everything there again, but for pictures and other media, which were only there.</source>
+        <translation>Aquí no se quita nada. Si el disco o la carpeta sincronizada vuelve, todo sigue como antes; si no, guarde para volver a escribirlo todo allí, salvo las imágenes y otros medios, que solo estaban allí.</translation>
     </message>
 </context>
 <context>
@@ -3736,7 +3752,10 @@ Do you want to delete it anyway?</source>
     </message>
     <message numerus="yes">
         <source>The copy leaves out %n file(s) that cannot be read:</source>
-        <translation><numerusform>La copia deja fuera %n archivo que no se puede leer:</numerusform><numerusform>La copia deja fuera %n archivos que no se pueden leer:</numerusform></translation>
+        <translation>
+            <numerusform>La copia deja fuera %n archivo que no se puede leer:</numerusform>
+            <numerusform>La copia deja fuera %n archivos que no se pueden leer:</numerusform>
+        </translation>
     </message>
     <message>
         <source>Saving writes everything there again that is open here; pictures and other media that were only there are not brought back. If the disk or the sync folder may come back, wait for it, or save under another name.</source>
@@ -3745,6 +3764,21 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Save There Again</source>
         <translation>Guardar allí de nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) beside the text cannot be read.</source>
+        <translation>
+            <numerusform>No se puede leer %n archivo que acompaña al texto.</numerusform>
+            <numerusform>No se pueden leer %n archivos que acompañan al texto.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything you wrote is saved; what cannot be read stays where it is.</source>
+        <translation>Todo lo que ha escrito se guarda; lo que no se puede leer se queda donde está.</translation>
+    </message>
+    <message>
+        <source>Save the Rest</source>
+        <translation>Guardar el resto</translation>
     </message>
 </context>
 <context>
@@ -4005,6 +4039,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>The folder is not empty: %1</source>
         <translation>La carpeta no está vacía: %1</translation>
+    </message>
+    <message>
+        <source>Not a valid Ivorel project file: %1</source>
+        <translation>Este archivo no es un proyecto de Ivorel válido: %1</translation>
     </message>
 </context>
 <context>
@@ -4883,6 +4921,10 @@ Do you want to delete it anyway?</source>
     <message>
         <source>Open Project</source>
         <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>It is in the newest backup, and missing in this file.</source>
+        <translation>Está en la copia de seguridad más reciente y falta en este archivo.</translation>
     </message>
 </context>
 <context>
@@ -7077,10 +7119,6 @@ Lo que se dice.
         <translation>Archivos que omite una copia reparada</translation>
     </message>
     <message>
-        <source>%1 (a conflicting copy of “%2”)</source>
-        <translation>%1 (una copia en conflicto de «%2»)</translation>
-    </message>
-    <message>
         <source>unknown</source>
         <translation>desconocido</translation>
     </message>
@@ -7114,6 +7152,30 @@ Lo que se dice.
     <message>
         <source>They go into the folder “conflicting copies” of the project, then it opens.</source>
         <translation>Pasan a la carpeta «conflicting copies» del proyecto y después este se abre.</translation>
+    </message>
+    <message>
+        <source>The list of what the file holds is damaged or missing too: more may be gone than can be named.</source>
+        <translation>También falta o está dañada la lista de lo que contiene el archivo: puede faltar más de lo que se puede nombrar.</translation>
+    </message>
+    <message>
+        <source>“%1” (%2)</source>
+        <translation>«%1» (%2)</translation>
+    </message>
+    <message>
+        <source>What can still be read of it:</source>
+        <translation>Lo que aún se puede leer de él:</translation>
+    </message>
+    <message>
+        <source>In the newest backup:</source>
+        <translation>En la copia de seguridad más reciente:</translation>
+    </message>
+    <message>
+        <source>Conflicting copy of “%1” (%2)</source>
+        <translation>Copia en conflicto de «%1» (%2)</translation>
+    </message>
+    <message>
+        <source>The file that stays in red (−), the conflicting copy in green (+)</source>
+        <translation>El archivo que se queda en rojo (−), la copia en conflicto en verde (+)</translation>
     </message>
 </context>
 <context>
@@ -7320,6 +7382,14 @@ Lo que se dice.
     <message>
         <source>Clear the Filter</source>
         <translation>Borrar el filtro</translation>
+    </message>
+    <message>
+        <source>More ▾</source>
+        <translation>Más ▾</translation>
+    </message>
+    <message>
+        <source>Change the selected documents</source>
+        <translation>Cambiar los documentos seleccionados</translation>
     </message>
 </context>
 <context>
@@ -8345,6 +8415,10 @@ Lo que se dice.
         <source>What was deleted is restored.</source>
         <translation>Lo eliminado se ha restaurado.</translation>
     </message>
+    <message>
+        <source>The project is not saved yet: it has no backups.</source>
+        <translation>El proyecto aún no está guardado: no tiene copias de seguridad.</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ProjectTools</name>
@@ -8618,6 +8692,18 @@ Lo que se dice.
         <source>&amp;Compare and Merge…</source>
         <translation>&amp;Comparar y fusionar…</translation>
     </message>
+    <message>
+        <source>“%1” is open to be read only. What you change here is saved nowhere until you save it under another name.</source>
+        <translation>«%1» está abierto solo para leer. Lo que cambie aquí no se guarda en ningún sitio hasta que lo guarde con otro nombre.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing in the folder of this project: its calendar, plot threads, goals, pins and saved searches stand as in a new one. A backup may still have them.</source>
+        <translation>Falta «%1» en la carpeta de este proyecto: su calendario, tramas, metas, fijados y búsquedas guardadas están como en uno nuevo. Puede que una copia de seguridad aún los tenga.</translation>
+    </message>
+    <message>
+        <source>Show &amp;Backups…</source>
+        <translation>Mostrar copias de &amp;seguridad…</translation>
+    </message>
 </context>
 <context>
     <name>vl::desktop::ShortcutsPage</name>
@@ -8696,6 +8782,10 @@ Lo que se dice.
     <message>
         <source>“%1” belongs to “%2” now.</source>
         <translation>«%1» pertenece ahora a «%2».</translation>
+    </message>
+    <message>
+        <source>“%1” writes, moves or copies in texts and cannot be a shortcut.</source>
+        <translation>«%1» escribe, se mueve o copia en los textos y no puede ser un atajo.</translation>
     </message>
 </context>
 <context>
