@@ -7493,10 +7493,6 @@ What is said.
         <translation>Word count</translation>
     </message>
     <message>
-        <source>%1 words</source>
-        <translation>%1 words</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 of %2</translation>
     </message>
@@ -7536,6 +7532,10 @@ What is said.
     <message>
         <source>Insert Picture</source>
         <translation>Insert Picture</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln word(s)</source>
+        <translation><numerusform>%Ln word</numerusform><numerusform>%Ln words</numerusform></translation>
     </message>
 </context>
 <context>

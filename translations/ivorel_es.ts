@@ -7493,10 +7493,6 @@ Lo que se dice.
         <translation>Número de palabras</translation>
     </message>
     <message>
-        <source>%1 words</source>
-        <translation>%1 palabras</translation>
-    </message>
-    <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
@@ -7536,6 +7532,10 @@ Lo que se dice.
     <message>
         <source>Insert Picture</source>
         <translation>Insertar imagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln word(s)</source>
+        <translation><numerusform>%Ln palabra</numerusform><numerusform>%Ln palabras</numerusform></translation>
     </message>
 </context>
 <context>

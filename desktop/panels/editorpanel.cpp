@@ -240,7 +240,7 @@ void EditorPanel::updateCounts()
         return;
     }
     const auto number = [](qsizetype value) { return QLocale().toString(qlonglong(value)); };
-    QString words = tr("%1 words").arg(number(m_session->live()->layout()->wordCount()));
+    QString words = tr("%Ln word(s)", nullptr, int(m_session->live()->layout()->wordCount()));
     const QTextCursor cursor = m_text->textCursor();
     if (cursor.hasSelection())
         words = tr("%1 of %2")
