@@ -7535,7 +7535,10 @@ What is said.
     </message>
     <message numerus="yes">
         <source>%Ln word(s)</source>
-        <translation><numerusform>%Ln word</numerusform><numerusform>%Ln words</numerusform></translation>
+        <translation>
+            <numerusform>%Ln word</numerusform>
+            <numerusform>%Ln words</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -7535,7 +7535,10 @@ Lo que se dice.
     </message>
     <message numerus="yes">
         <source>%Ln word(s)</source>
-        <translation><numerusform>%Ln palabra</numerusform><numerusform>%Ln palabras</numerusform></translation>
+        <translation>
+            <numerusform>%Ln palabra</numerusform>
+            <numerusform>%Ln palabras</numerusform>
+        </translation>
     </message>
 </context>
 <context>
